@@ -1,0 +1,124 @@
+#pragma once
+
+#include "ThemeLibraryGlobal.h"
+
+#include <QBrush>
+#include <QList>
+#include <QPalette>
+#include <QProxyStyle>
+
+class QStyleOptionButton;
+class QStyleOptionTab;
+
+namespace BRELK {
+
+/// The widget style: measures and paints every standard widget from the current theme's variables.
+///
+/// It is a proxy over "fusion", which answers what the style leaves to it. The brushes it reads at
+/// construction and those it caches stay for the life of the process, so a theme is to be applied
+/// before the first style is built. A style handed to `QApplication::setStyle` belongs to the
+/// application.
+class VARN_COMMON_THEME_EXPORT BaseStyle : public QProxyStyle
+{
+    Q_OBJECT
+    Q_PROPERTY(QPalette palette READ getPalette WRITE setPalette NOTIFY paletteChanged)
+
+public:
+    enum ButtonBackgroundState : unsigned {
+        ButtonBackground_Normal = 0,
+        ButtonBackground_Down = 1,
+        ButtonBackground_Highlighted = 2
+    };
+
+    enum TabBackgroundState : unsigned {
+        TabBackground_Selected = 0,
+        TabBackground_Unselected = 1,
+        TabBackground_Highlighted = 2
+    };
+
+    /// Metrics beyond Qt's own, answered by `pixelMetric`.
+    enum BRELK_PixelMetric : unsigned {
+        BRELK_PM_ListViewPadding = 0xf0000001 ///< padding at both ends of a list row, in pixels
+    };
+    Q_ENUM(BRELK_PixelMetric)
+
+    /// The three brushes of a button-like control.
+    struct ButtonBrushes
+    {
+        QBrush backgroundBrush;
+        QBrush borderBrush;
+        QBrush foregroundBrush;
+    };
+
+    BaseStyle();
+    ~BaseStyle() override;
+
+    /// The palette that the style gives to the application and to widgets: at first the one of
+    /// "fusion".
+    const QPalette& getPalette() const { return m_palette; }
+
+    using QProxyStyle::polish;
+    /// Replaces the whole of `palette` with the style's.
+    void polish(QPalette& palette) override;
+    QPalette standardPalette() const override;
+
+    /// The palette's Midlight brush.
+    const QBrush& lightOutlineBrush(const QPalette& palette) const;
+    /// The theme brush "GrooveBackgroundBrush", cached for the life of the process.
+    const QBrush& grooveBackgroundBrush(bool enabled) const;
+
+    /// Pressed or checked is down; else a button under the mouse that is not flat is highlighted.
+    ButtonBackgroundState getButtonBackgroundState(const QStyleOption& option) const;
+    /// Selected wins, also when disabled; else an enabled tab under the mouse or with keyboard
+    /// focus is highlighted.
+    TabBackgroundState getTabBackgroundState(const QStyleOptionTab& option) const;
+
+    /// Paints a row of grip dots of `size` pixels from `from` up to but not including `to`, `step`
+    /// apart, at `pos` across.
+    void drawGrips(QPainter& painter, Qt::Orientation orientation, int from, int to, int pos,
+                   int step, int size, int darkSize) const;
+
+    /// The theme brush `name`, or with `enabled` false its twin `name` + "Disabled"; `Qt::NoBrush`
+    /// when the theme lacks it.
+    static QBrush getBrush(QString name, bool enabled);
+    /// The theme color `name`, or with `enabled` false its twin `name` + "Disabled"; invalid when
+    /// the theme lacks it.
+    static QColor getColor(QString name, bool enabled);
+    /// The theme brush "CardBorderBrush", cached for the life of the process.
+    static const QBrush& getBorderBrush(bool enabled);
+
+    static bool isPressed(const QStyleOption& option);
+    static bool isPressed(const QStyleOption* option);
+    static bool isChecked(const QStyleOption& option);
+    static bool isChecked(const QStyleOption* option);
+    /// Pressed or checked.
+    static bool isDown(const QStyleOption& option);
+    /// Enabled and under the mouse.
+    static bool isHovered(const QStyleOption* option);
+    static bool isFlatButton(const QStyleOptionButton* option);
+    /// False for an option that is no button option.
+    static bool isFlatButton(const QStyleOption* option);
+    /// A default button that is enabled.
+    static bool isDefaultButton(const QStyleOptionButton* option);
+    /// False for an option that is no button option.
+    static bool isDefaultButton(const QStyleOption* option);
+    /// Hovered, not pressed and not flat.
+    static bool isButtonHovered(const QStyleOption* option);
+
+Q_SIGNALS:
+    void paletteChanged(const QPalette& palette);
+
+public Q_SLOTS:
+    /// Emits `paletteChanged` once when `palette` differs. An application that already has the
+    /// style takes the new palette when it is polished next.
+    void setPalette(const QPalette& palette);
+
+private:
+    QPalette m_palette;
+    QBrush m_expanderHeaderBrush;
+    QBrush m_windowBackgroundBrush;
+    bool m_alt_down = false;
+    QList<const QWidget*> m_seenAlt;
+};
+
+} // namespace BRELK

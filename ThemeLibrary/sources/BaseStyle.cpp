@@ -1,0 +1,171 @@
+#include "BaseStyle.h"
+
+#include "ThemeResources.h"
+
+#include <QPainter>
+#include <QStyleOption>
+
+namespace BRELK {
+
+namespace {
+
+QString variantName(const QString& name, bool enabled)
+{
+    return enabled ? name : QString(name + QLatin1String("Disabled"));
+}
+
+} // namespace
+
+BaseStyle::BaseStyle() : QProxyStyle(QStringLiteral("fusion"))
+{
+    m_palette = baseStyle()->standardPalette();
+    m_expanderHeaderBrush = getBrush(QStringLiteral("ExpanderHeaderBrush"), true);
+    m_windowBackgroundBrush = getBrush(QStringLiteral("BackgroundBrush"), true);
+}
+
+BaseStyle::~BaseStyle() = default;
+
+void BaseStyle::polish(QPalette& palette)
+{
+    palette = m_palette;
+}
+
+QPalette BaseStyle::standardPalette() const
+{
+    return m_palette;
+}
+
+void BaseStyle::setPalette(const QPalette& palette)
+{
+    if (palette == m_palette)
+        return;
+    m_palette = palette;
+    Q_EMIT paletteChanged(m_palette);
+}
+
+const QBrush& BaseStyle::lightOutlineBrush(const QPalette& palette) const
+{
+    return palette.midlight();
+}
+
+const QBrush& BaseStyle::grooveBackgroundBrush(bool enabled) const
+{
+    static const QBrush sGrooveBrush = getBrush(QStringLiteral("GrooveBackgroundBrush"), true);
+    static const QBrush sGrooveBrushDisabled =
+        getBrush(QStringLiteral("GrooveBackgroundBrush"), false);
+    return enabled ? sGrooveBrush : sGrooveBrushDisabled;
+}
+
+const QBrush& BaseStyle::getBorderBrush(bool enabled)
+{
+    static const QBrush sBorderBrush = getBrush(QStringLiteral("CardBorderBrush"), true);
+    static const QBrush sBorderBrushDisabled = getBrush(QStringLiteral("CardBorderBrush"), false);
+    return enabled ? sBorderBrush : sBorderBrushDisabled;
+}
+
+QBrush BaseStyle::getBrush(QString name, bool enabled)
+{
+    return ThemeResources::getBrush(variantName(name, enabled));
+}
+
+QColor BaseStyle::getColor(QString name, bool enabled)
+{
+    return ThemeResources::getColor(variantName(name, enabled));
+}
+
+BaseStyle::ButtonBackgroundState
+BaseStyle::getButtonBackgroundState(const QStyleOption& option) const
+{
+    if (isDown(option))
+        return ButtonBackground_Down;
+    return isButtonHovered(&option) ? ButtonBackground_Highlighted : ButtonBackground_Normal;
+}
+
+BaseStyle::TabBackgroundState BaseStyle::getTabBackgroundState(const QStyleOptionTab& option) const
+{
+    constexpr State FocusShown = State_HasFocus | State_KeyboardFocusChange;
+    if (option.state & State_Selected)
+        return TabBackground_Selected;
+    const bool pointedAt =
+        option.state & State_MouseOver || (option.state & FocusShown) == FocusShown;
+    return option.state & State_Enabled && pointedAt ? TabBackground_Highlighted
+                                                     : TabBackground_Unselected;
+}
+
+void BaseStyle::drawGrips(QPainter& painter, Qt::Orientation orientation, int from, int to, int pos,
+                          int step, int size, int darkSize) const
+{
+    const QColor light(255, 255, 255, 90);
+    const QColor dark(0, 0, 0, 60);
+    if (step <= 0)
+        return;
+    for (int at = from; at < to; at += step) {
+        if (orientation == Qt::Vertical) {
+            painter.fillRect(pos, at, size, size, light);
+            // Deliberate: vertical grips have a one-pixel dark dot, whatever `darkSize` is.
+            painter.fillRect(pos, at, 1, 1, dark);
+        } else {
+            painter.fillRect(at, pos, size, size, light);
+            painter.fillRect(at, pos, darkSize, darkSize, dark);
+        }
+    }
+}
+
+bool BaseStyle::isPressed(const QStyleOption& option)
+{
+    return option.state & State_Sunken;
+}
+
+bool BaseStyle::isPressed(const QStyleOption* option)
+{
+    return isPressed(*option);
+}
+
+bool BaseStyle::isChecked(const QStyleOption& option)
+{
+    return option.state & State_On;
+}
+
+bool BaseStyle::isChecked(const QStyleOption* option)
+{
+    return isChecked(*option);
+}
+
+bool BaseStyle::isDown(const QStyleOption& option)
+{
+    return isPressed(option) || isChecked(option);
+}
+
+bool BaseStyle::isHovered(const QStyleOption* option)
+{
+    return option->state & State_Enabled && option->state & State_MouseOver;
+}
+
+bool BaseStyle::isFlatButton(const QStyleOptionButton* option)
+{
+    return option->features & QStyleOptionButton::Flat;
+}
+
+bool BaseStyle::isFlatButton(const QStyleOption* option)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    return button && isFlatButton(button);
+}
+
+bool BaseStyle::isDefaultButton(const QStyleOptionButton* option)
+{
+    return option->features & QStyleOptionButton::DefaultButton && option->state & State_Enabled;
+}
+
+bool BaseStyle::isDefaultButton(const QStyleOption* option)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    return button && isDefaultButton(button);
+}
+
+bool BaseStyle::isButtonHovered(const QStyleOption* option)
+{
+    return isHovered(option) && !isPressed(option) && !isFlatButton(option);
+}
+
+} // namespace BRELK

@@ -1,0 +1,185 @@
+#include "BaseTheme.h"
+
+#include "BaseStyle.h"
+#include "BaseTheme_p.h"
+#include "QPaletteReader.h"
+#include "ThemeColorHelper.h"
+#include "ThemeConfigurationReader.h"
+#include "ThemeResources.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QDir>
+#include <QDirIterator>
+#include <QFontDatabase>
+#include <QImageReader>
+#include <QMetaEnum>
+#include <QResource>
+#include <QToolTip>
+
+namespace BRELK {
+
+namespace {
+
+void log(const QString& message)
+{
+    qDebug().noquote() << message;
+}
+
+void registerFonts(const QString& directory)
+{
+    const QFileInfoList files =
+        QDir(directory).entryInfoList({QStringLiteral("*.ttf")}, QDir::NoFilter, QDir::NoSort);
+    for (const QFileInfo& file : files) {
+        if (QFontDatabase::addApplicationFont(file.absoluteFilePath()) < 0)
+            log(QLatin1String("Error reading font: ") + file.absoluteFilePath());
+    }
+}
+
+QVariantMap themeVariables(const ThemeConfigurationReader& configuration)
+{
+    return {
+        {ThemeResources::getColorsVarPrefix(), fillQVariantMap(configuration.getColorsMap())},
+        {ThemeResources::getInternalColorsVarPrefix(),
+         fillQVariantMap(configuration.getInternalColorsMap())},
+        {ThemeResources::getBrushesVarPrefix(), fillQVariantMap(configuration.getBrushesMap())},
+        {ThemeResources::getInternalBrushesVarPrefix(),
+         fillQVariantMap(configuration.getInternalBrushesMap())},
+        {ThemeResources::getOpacitiesVarPrefix(), fillQVariantMap(configuration.getOpacitiesMap())},
+        {ThemeResources::getCornerRadiusVarPrefix(),
+         fillQVariantMap(configuration.getCornerRadiusMap())},
+        {ThemeResources::getFontsVarPrefix(), configuration.getFont().toVariantMap()}};
+}
+
+bool isTextual(QPalette::ColorRole role, const QString& key)
+{
+    return role == QPalette::WindowText || key.contains(QLatin1String("Text"))
+           || key.contains(QLatin1String("Foreground")) || key.contains(QLatin1String("Link"));
+}
+
+void deriveDisabledGroup(QPalette& palette)
+{
+    const QMetaObject& meta = QPalette::staticMetaObject;
+    const QMetaEnum roles = meta.enumerator(meta.indexOfEnumerator("ColorRole"));
+    for (int i = 0; i < roles.keyCount(); ++i) {
+        const auto role = QPalette::ColorRole(roles.value(i));
+        if (role == QPalette::NColorRoles)
+            continue;
+        const bool textual = isTextual(role, QLatin1String(roles.valueToKey(role)));
+        const QColor disabled = ThemeColorHelper::disabled(palette.brush(role).color(), textual);
+        palette.setBrush(QPalette::Disabled, role, disabled);
+    }
+}
+
+void installStyle(const QPalette& palette)
+{
+    auto* style = new BaseStyle;
+    style->setPalette(palette);
+    QApplication::setStyle(style);
+    QToolTip::setPalette(palette);
+}
+
+void installStyleSheets(QApplication& app)
+{
+    QString joined;
+    QDirIterator files(QStringLiteral(":/BRELK/ThemeLibrary/stylesheets"),
+                       {QStringLiteral("*.qss")}, QDir::Files);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+            joined += QString::fromUtf8(file.readAll());
+        else
+            log(QLatin1String("Error reading stylesheet: ") + file.errorString());
+    }
+    app.setStyleSheet(ThemeResources::customizeStyleSheet(joined));
+}
+
+void registerBundles(const QString& directory)
+{
+    QDirIterator files(directory);
+    while (files.hasNext()) {
+        const QString path = files.next();
+        if (path.endsWith(QLatin1String(".rcc")) && !QResource::registerResource(path, QString()))
+            log(QLatin1String("Error reading resource bundle: ") + path);
+    }
+}
+
+void useIcons(const QString& themePath, const QString& themeName)
+{
+    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << themePath + QLatin1String("/Images/"));
+    QIcon::setThemeName(themeName);
+    if (!QImageReader::supportedImageFormats().contains(QByteArrayLiteral("svg")))
+        log(QStringLiteral("Icons need Qt's SVG plugins, which are not installed"));
+}
+
+void addSearchPaths(const QString& imagesPath, const QString& scalablePath)
+{
+    QDir::addSearchPath(ThemeResources::iconsPrefix(), scalablePath);
+    QDir::addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
+    // Deliberate: lower case, so this is not the embedded folder but the place that theme bundles
+    // add icons to.
+    QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << QStringLiteral(":/icons"));
+    QDir::addSearchPath(ThemeResources::cursorsPrefix(), imagesPath + QLatin1String("/Cursors"));
+    QDir::addSearchPath(ThemeResources::cursorsPrefix(), QStringLiteral(":/Cursors"));
+    QDir::addSearchPath(ThemeResources::themeResourcesPrefix(),
+                        imagesPath + QLatin1String("/theme_resources"));
+}
+
+} // namespace
+
+Theme::~Theme() = default;
+
+BaseTheme::BaseTheme(const QString& themePath)
+    : m_themePath(themePath), m_settings(themePath + QLatin1String("/theme.xml"))
+{ }
+
+QString BaseTheme::getName() const
+{
+    return m_settings.getName();
+}
+
+void BaseTheme::customize(QApplication* app)
+{
+    if (m_settings.getStatus() != BaseThemeSettings::NO_ERROR) {
+        log(QLatin1String("Error reading theme configuration file ") + m_themePath
+            + QLatin1String("/theme.xml"));
+        return;
+    }
+    if (!app) {
+        log(QLatin1String("No application to apply the theme to: ") + m_themePath);
+        return;
+    }
+
+    registerFonts(m_themePath + QLatin1String("/Fonts"));
+
+    const ThemeConfigurationReader configuration(m_themePath + QLatin1String("/config.xml"));
+    if (configuration.getStatus() != ThemeConfigurationReader::NO_ERROR) {
+        // Deliberate: the message has always named this file, and tools look for it.
+        log(QLatin1String("Error reading theme palette file: ") + m_themePath
+            + QLatin1String("/palette.xml"));
+    }
+    const QString mappingPath = m_themePath + QLatin1String("/qpaletteMapping.xml");
+    const QPaletteReader mapping(mappingPath, configuration.getBrushesMap(),
+                                 configuration.getColorsMap(), QGuiApplication::palette());
+
+    app->setProperty(ThemeResources::getThemeVariablePropertyName().data(),
+                     themeVariables(configuration));
+
+    if (!qEnvironmentVariableIsSet("BRELK_USE_NATIVE_STYLE")) {
+        if (mapping.getStatus() != QPaletteReader::NO_ERROR)
+            log(QLatin1String("Error reading theme QPalette mapping file: ") + mappingPath);
+        QPalette palette = mapping.deserialize();
+        deriveDisabledGroup(palette);
+        installStyle(palette);
+        installStyleSheets(*app);
+    }
+
+    QApplication::setFont(configuration.getFont().getFont(ThemeFont::BASE_FONT));
+    useIcons(m_themePath, getName());
+    const QString imagesPath = m_themePath + QLatin1String("/Images/") + getName();
+    const QString scalablePath = imagesPath + QLatin1String("/scalable");
+    registerBundles(scalablePath);
+    addSearchPaths(imagesPath, scalablePath);
+}
+
+} // namespace BRELK

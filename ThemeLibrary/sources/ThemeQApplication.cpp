@@ -1,0 +1,104 @@
+#include "ThemeQApplication.h"
+
+#include "Theme.h"
+#include "ThemeFactory.h"
+
+#include <QDebug>
+
+#include <memory>
+#include <vector>
+
+namespace BRELK {
+
+namespace {
+
+/// Themes that were asked for by name stay for the life of the process, as nobody else owns them.
+Theme& keep(Theme* theme)
+{
+    static std::vector<std::unique_ptr<Theme>> sThemes;
+    return *sThemes.emplace_back(theme);
+}
+
+void reportMissingTheme(const QString& name)
+{
+    const ThemeFactory& factory = ThemeFactory::getInstance();
+    const QString themes = factory.getAvailableThemes().join(QLatin1String(", "));
+    const QString known = themes.isEmpty() ? QStringLiteral("there are no themes")
+                                           : QString(QLatin1String("the themes are ") + themes);
+    qDebug().noquote() << QString(
+        QLatin1String("No theme \"") + name + QLatin1String("\" in the repository \"")
+        + factory.getThemesRepositoryPath() + QLatin1String("\": ") + known);
+}
+
+void readOption(const QStringList& args, const QString& option, QString& value)
+{
+    const int index = args.indexOf(option);
+    if (index >= 0 && index + 1 < args.size())
+        value = args.at(index + 1);
+}
+
+} // namespace
+
+ThemeQApplication::ThemeQApplication(int& argc, char** argv) : ThemeQApplication(argc, argv, {}, {})
+{ }
+
+ThemeQApplication::ThemeQApplication(int& argc, char** argv, const QString& themeName,
+                                     const QString& themeRepository)
+    : QApplication(argc, argv)
+{
+    init(themeName, themeRepository);
+}
+
+void ThemeQApplication::init(QString theme, QString repository)
+{
+    parseArguments(arguments(), theme, repository);
+    if (!repository.isEmpty())
+        initThemesRepository(repository);
+    if (!theme.isEmpty())
+        setTheme(theme);
+}
+
+void ThemeQApplication::initThemesRepository(const QString& path)
+{
+    // Deliberate: an empty path is passed on as it is; there is no default repository beside the
+    // program.
+    ThemeFactory::getInstance().setThemesRepositoryPath(path);
+}
+
+QString ThemeQApplication::getThemeRepository() const
+{
+    return ThemeFactory::getInstance().getThemesRepositoryPath();
+}
+
+bool ThemeQApplication::setTheme(const QString& name)
+{
+    Theme* theme = ThemeFactory::getInstance().getTheme(name);
+    if (!theme) {
+        reportMissingTheme(name);
+        return false;
+    }
+    setTheme(keep(theme));
+    return true;
+}
+
+void ThemeQApplication::setTheme(Theme& theme)
+{
+    theme.customize(this);
+    m_currentTheme = &theme;
+}
+
+Theme* ThemeQApplication::getCurrentTheme() const
+{
+    return m_currentTheme;
+}
+
+void ThemeQApplication::parseArguments(const QStringList& args, QString& theme,
+                                       QString& repository) const
+{
+    static const QString themeArg = QStringLiteral("--theme");
+    static const QString themeRepositoryArgument = QStringLiteral("--theme-repository");
+    readOption(args, themeArg, theme);
+    readOption(args, themeRepositoryArgument, repository);
+}
+
+} // namespace BRELK

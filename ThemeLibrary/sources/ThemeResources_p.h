@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QVariantMap>
+
+namespace BRELK::ThemeResources {
+
+/// The current "theme_var" property of the application object, which must exist.
+QVariantMap themeVariables();
+
+/// The value at `path` in nested maps, or `defaultValue`.
+QVariant findVariable(const QVariantMap& variables, const QString& path,
+                      const QVariant& defaultValue);
+
+} // namespace BRELK::ThemeResources

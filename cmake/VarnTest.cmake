@@ -1,0 +1,23 @@
+# varn_add_test(NAME LABEL SOURCES...): a QtTest program, run off screen at scale 1 with a home directory of its own.
+#
+# The sources see VARN_THEME_REPOSITORY, the build tree's theme repository. Statics keep the first theme they see, so a
+# class or family that needs a theme of its own has a program of its own.
+set(VARN_TEST_HOME ${CMAKE_BINARY_DIR}/tests/home)
+set(VARN_TEST_ENVIRONMENT
+    QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=1 QT_FONT_DPI=96 LC_ALL=C.UTF-8
+    HOME=${VARN_TEST_HOME} XDG_CONFIG_HOME=${VARN_TEST_HOME} XDG_DATA_HOME=${VARN_TEST_HOME}
+    XDG_CACHE_HOME=${VARN_TEST_HOME} XDG_RUNTIME_DIR=${VARN_TEST_HOME} QT_LOGGING_RULES=
+    LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0
+    UBSAN_OPTIONS=print_stacktrace=1)
+file(MAKE_DIRECTORY ${VARN_TEST_HOME})
+file(CHMOD ${VARN_TEST_HOME} DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
+
+function(varn_add_test name label)
+    add_executable(${name} ${ARGN})
+    varn_compile_options(${name})
+    target_link_libraries(${name} PRIVATE varn_common_theme varn_test_support Qt5::Test)
+    target_compile_definitions(${name} PRIVATE VARN_THEME_REPOSITORY="${VARN_THEMES_DIR}")
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES LABELS ${label} ENVIRONMENT "${VARN_TEST_ENVIRONMENT}" TIMEOUT 120)
+endfunction()

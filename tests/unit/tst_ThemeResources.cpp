@@ -1,0 +1,121 @@
+#include "ThemeResources.h"
+
+#include <QRegularExpression>
+#include <QtTest>
+
+using namespace BRELK;
+
+class tst_ThemeResources : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void setTheme(const QVariantMap& colors, const QVariantMap& brushes = {})
+    {
+        qApp->setProperty("theme_var", QVariantMap{{QStringLiteral("colors"), colors},
+                                                   {QStringLiteral("brushes"), brushes},
+                                                   {QStringLiteral("opacities"),
+                                                    QVariantMap{{QStringLiteral("Half"), 0.5}}},
+                                                   {QStringLiteral("cornerRadius"),
+                                                    QVariantMap{{QStringLiteral("BaseSize"), 4}}}});
+    }
+
+private Q_SLOTS:
+
+    void init()
+    {
+        setTheme({{QStringLiteral("MainColor"), QColor(Qt::red)},
+                  {QStringLiteral("BackgroundColor"), QColor(Qt::red)},
+                  {QStringLiteral("VeiledColor"), QColor(255, 0, 0, 128)},
+                  {QStringLiteral("AtColor"), QStringLiteral("@colors/MainColor@")}},
+                 {{QStringLiteral("FlatBrush"), QBrush(Qt::blue)},
+                  {QStringLiteral("WrongBrush"), QColor(Qt::green)}});
+    }
+
+    void pathLookup_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<QVariant>("expected");
+        QTest::newRow("value") << QStringLiteral("colors/MainColor") << QVariant(QColor(Qt::red));
+        QTest::newRow("beyond a value")
+            << QStringLiteral("colors/MainColor/more/yet") << QVariant(QColor(Qt::red));
+        QTest::newRow("no group") << QStringLiteral("shapes/Round") << QVariant(7);
+        QTest::newRow("no name") << QStringLiteral("colors/maincolor") << QVariant(7);
+        QTest::newRow("empty") << QString() << QVariant(7);
+        QTest::newRow("leading separator") << QStringLiteral("/colors/MainColor") << QVariant(7);
+    }
+
+    void pathLookup()
+    {
+        QFETCH(QString, path);
+        QFETCH(QVariant, expected);
+        QCOMPARE(ThemeResources::getThemeVar(path, 7), expected);
+        QCOMPARE(ThemeResources::getThemeVar(QStringLiteral("colors"), 7).toMap().size(), 4);
+    }
+
+    void typedLookupsKeepTheFirstTheme()
+    {
+        QCOMPARE(ThemeResources::getColor(QStringLiteral("MainColor")), QColor(Qt::red));
+        QCOMPARE(ThemeResources::getBrush(QStringLiteral("FlatBrush")), QBrush(Qt::blue));
+        QCOMPARE(ThemeResources::getBrush(QStringLiteral("WrongBrush")), QBrush());
+        QCOMPARE(ThemeResources::getOpacity(QStringLiteral("Half")), 0.5);
+        QCOMPARE(ThemeResources::getOpacity(QStringLiteral("None")), 0.0);
+        QCOMPARE(ThemeResources::getCornerRadius(QStringLiteral("BaseSize")), 4.0);
+        QCOMPARE(ThemeResources::getDisabledFactor(QStringLiteral("None")), 0);
+
+        setTheme({{QStringLiteral("MainColor"), QColor(Qt::blue)}});
+        QCOMPARE(ThemeResources::getColor(QStringLiteral("MainColor")), QColor(Qt::red));
+        QCOMPARE(
+            ThemeResources::getThemeVar(QStringLiteral("colors/MainColor"), {}).value<QColor>(),
+            QColor(Qt::blue));
+        QCOMPARE(ThemeResources::getColorKey(Qt::blue), QStringLiteral("MainColor"));
+    }
+
+    void reverseLookupPrefersForegroundAndMain()
+    {
+        QCOMPARE(ThemeResources::getColorKey(Qt::red), QStringLiteral("MainColor"));
+        QCOMPARE(ThemeResources::getColorKey(Qt::yellow), QString());
+        QCOMPARE(ThemeResources::getBrushKey(QBrush(Qt::blue)), QStringLiteral("FlatBrush"));
+
+        QVariantMap map{{QStringLiteral("MainA"), 1},
+                        {QStringLiteral("ForegroundB"), 1},
+                        {QStringLiteral("A"), 1}};
+        QCOMPARE(ThemeResources::getColorOrBrushKey(1, map), QStringLiteral("ForegroundB"));
+        map = {{QStringLiteral("StatusDanger"), 1}, {QStringLiteral("Background"), 1}};
+        QCOMPARE(ThemeResources::getColorOrBrushKey(1, map), QStringLiteral("Background"));
+    }
+
+    void colorNamesAreFilteredAndSorted()
+    {
+        QCOMPARE(ThemeResources::getColors(QRegularExpression(QStringLiteral("n.*Color"))),
+                 QStringList({QStringLiteral("BackgroundColor"), QStringLiteral("MainColor")}));
+    }
+
+    void styleSheetPlaceholders_data()
+    {
+        QTest::addColumn<QString>("sheet");
+        QTest::addColumn<QString>("expected");
+        const auto row = [](const char* name, const char* sheet, const char* expected) {
+            QTest::newRow(name) << QString::fromLatin1(sheet) << QString::fromLatin1(expected);
+        };
+        row("opaque", "a: @colors/MainColor@;", "a: #ff0000;");
+        row("translucent", "a: @colors/VeiledColor@;", "a: #80ff0000;");
+        row("number", "@cornerRadius/BaseSize@px @opacities/Half@", "4px 0.5");
+        row("brush", "[@brushes/FlatBrush@]", "[]");
+        row("adjoining", "@colors/MainColor@@colors/MainColor@", "#ff0000#ff0000");
+        row("a shared sign is not used twice", "@colors/None@colors/MainColor@",
+            "@colors/None@colors/MainColor@");
+        row("inserted text is not expanded", "@colors/AtColor@", "@colors/MainColor@");
+        row("no path", "@@ @a-b@ me@here", "@@ @a-b@ me@here");
+    }
+
+    void styleSheetPlaceholders()
+    {
+        QFETCH(QString, sheet);
+        QFETCH(QString, expected);
+        QCOMPARE(ThemeResources::customizeStyleSheet(sheet), expected);
+    }
+};
+
+QTEST_MAIN(tst_ThemeResources)
+#include "tst_ThemeResources.moc"
