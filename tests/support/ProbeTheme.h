@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QBrush>
+#include <QByteArray>
+#include <QColor>
+#include <QPalette>
+#include <QVariantMap>
+
+class QFont;
+
+/// A theme in which every brush and every color has a color of its own, so that a painted color is
+/// a name.
+///
+/// It is published without files. Lookups freeze the first theme they see, so publish one at the
+/// start of `initTestCase`, and once per process. The names are those that the style asks for, each
+/// with its "Disabled" twin, and button and input names for the kinds in `kinds()`.
+namespace ProbeTheme {
+
+/// Corner radii and font pixel sizes, all different, by size.
+constexpr int SmallRadius = 2;
+constexpr int BaseRadius = 4;
+constexpr int MediumRadius = 6;
+constexpr int LargeRadius = 8;
+constexpr int SmallFont = 10;
+constexpr int BaseFont = 12;
+constexpr int MediumFont = 14;
+constexpr int LargeFont = 18;
+
+/// Publishes the theme, and finds the library's icons in place of an icon theme. `changes` replaces
+/// values by path, as in {{"cornerRadius/BaseSize", 0}}; an invalid value takes the name away.
+void publish(const QVariantMap& changes = {});
+
+/// Publishes a theme that has no names at all.
+void publishEmpty();
+
+/// The words that stand for a kind of button in the published names; "OfStatus", "OfOrder" and
+/// "OfType" are for tests.
+QStringList kinds();
+
+/// A palette in which every role of every group has a color of its own: "palette.Text",
+/// "palette.Disabled.Text", "palette.Inactive.Text".
+QPalette palette();
+
+/// The name of the theme brush, theme color or palette role that has this color. A translucent one
+/// is followed by its alpha ("MainColor@153"), an unknown one is "#rrggbb", a brush without color
+/// "none".
+QByteArray nameOf(const QColor& color);
+QByteArray nameOf(const QBrush& brush);
+
+/// "small", "base", "medium" or "large" with "bold" or "italic" after it, or the pixel size if no
+/// theme font has it.
+QByteArray nameOf(const QFont& font);
+
+} // namespace ProbeTheme
