@@ -2,12 +2,12 @@
 #
 # The sources see VARN_THEME_REPOSITORY, the build tree's theme repository. Statics keep the first theme they see, so a
 # class or family that needs a theme of its own has a program of its own.
-set(VARN_TEST_HOME ${CMAKE_BINARY_DIR}/tests/home)
+set(VARN_TEST_HOME ${PROJECT_BINARY_DIR}/tests/home)
 set(VARN_TEST_ENVIRONMENT
     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=1 QT_FONT_DPI=96 LC_ALL=C.UTF-8
     HOME=${VARN_TEST_HOME} XDG_CONFIG_HOME=${VARN_TEST_HOME} XDG_DATA_HOME=${VARN_TEST_HOME}
     XDG_CACHE_HOME=${VARN_TEST_HOME} XDG_RUNTIME_DIR=${VARN_TEST_HOME} QT_LOGGING_RULES=
-    LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0
+    LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/leaks.supp:print_suppressions=0
     UBSAN_OPTIONS=print_stacktrace=1)
 file(MAKE_DIRECTORY ${VARN_TEST_HOME})
 file(CHMOD ${VARN_TEST_HOME} DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
@@ -20,4 +20,15 @@ function(varn_add_test name label)
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS ${label} ENVIRONMENT "${VARN_TEST_ENVIRONMENT}" TIMEOUT 120)
+endfunction()
+
+# varn_add_lint(PROGRAM [FILE...]): a check of the sources themselves, a Python program of tools/. FILEs are what else
+# it is given. It passes with exit code 0 and says with 77 that this machine lacks what it needs.
+find_package(Python3 COMPONENTS Interpreter)
+function(varn_add_lint program)
+    if(Python3_FOUND)
+        get_filename_component(name ${program} NAME_WE)
+        add_test(NAME ${name} COMMAND ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/tools/${program} ${ARGN})
+        set_tests_properties(${name} PROPERTIES LABELS lint SKIP_RETURN_CODE 77 TIMEOUT 120)
+    endif()
 endfunction()

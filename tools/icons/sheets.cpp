@@ -1,9 +1,11 @@
-// Draws contact sheets of icons and cursors with Qt's own SVG renderer, the one that applications see.
+// Draws contact sheets of icons and cursors with Qt's own SVG renderer, the one that applications
+// see.
 //
 //   varn-icon-sheets RESOURCES OUTPUT
 //
-// One picture for each icon group: every icon at 16, 24 and 48 pixels on the grounds of the Dark and Light themes,
-// the reference color shown as the text color there; and one for the cursors, on black, grey and white.
+// One picture for each icon group: every icon at 16, 24 and 48 pixels on the grounds of the Dark
+// and Light themes, the reference color shown as the text color there; and one for the cursors, on
+// black, grey and white.
 
 #include <QDir>
 #include <QGuiApplication>
@@ -14,12 +16,14 @@
 
 namespace {
 
-struct Ground {
+struct Ground
+{
     QColor background;
     QByteArray foreground;
 };
 
-const Ground grounds[] = {{QColor(0x1E, 0x23, 0x2A), "#E5EEF4"}, {QColor(0xF7, 0xF9, 0xFB), "#1E232A"}};
+const Ground grounds[] = {{QColor(0x1E, 0x23, 0x2A), "#E5EEF4"},
+                          {QColor(0xF7, 0xF9, 0xFB), "#1E232A"}};
 constexpr int iconSizes[] = {16, 24, 48};
 constexpr int gap = 6;
 constexpr int panelWidth = 16 + 24 + 48 + 4 * gap;
@@ -68,7 +72,8 @@ void drawCursorCell(QPainter& painter, const QString& path, const QPoint& corner
     drawCursor(painter, QPixmap(path), corner);
 }
 
-// Few colors are in use, so a palette keeps most pixels as they are and makes the file a third of the size.
+// Few colors are in use, so a palette keeps most pixels as they are and makes the file a third of
+// the size.
 bool saveSheet(const QString& path, const QStringList& files, DrawCell drawCell)
 {
     const QSize cell(2 * panelWidth + gap, panelHeight + captionHeight + gap);
@@ -86,7 +91,8 @@ bool saveSheet(const QString& path, const QStringList& files, DrawCell drawCell)
         const QPoint corner(gap + i % columns * cell.width(), gap + i / columns * cell.height());
         drawCell(painter, files.at(i), corner);
         const QRect caption(corner + QPoint(0, panelHeight), QSize(2 * panelWidth, captionHeight));
-        painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter, QFileInfo(files.at(i)).completeBaseName());
+        painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter,
+                         QFileInfo(files.at(i)).completeBaseName());
     }
     painter.end();
     return sheet.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither).save(path, "PNG", 0);
@@ -119,10 +125,13 @@ int main(int argc, char* argv[])
     for (const QString& file : icons)
         groups[QFileInfo(file).fileName().section(QLatin1Char('.'), 0, 0)].append(file);
 
-    bool saved = output.mkpath(QStringLiteral("."))
+    bool saved =
+        output.mkpath(QStringLiteral("."))
         && saveSheet(output.filePath(QStringLiteral("cursors.png")),
                      filesIn(resources.filePath(QStringLiteral("Cursors"))), drawCursorCell);
     for (auto group = groups.cbegin(); group != groups.cend(); ++group)
-        saved = saved && saveSheet(output.filePath(group.key() + QLatin1String(".png")), group.value(), drawIconCell);
+        saved = saved
+                && saveSheet(output.filePath(group.key() + QLatin1String(".png")), group.value(),
+                             drawIconCell);
     return saved ? 0 : 1;
 }

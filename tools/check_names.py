@@ -1,0 +1,69 @@
+#!/usr/bin/env python3
+"""Checks that the style writes each theme variable, property and class name in one place, and that no source holds
+words that do not belong there.
+"""
+
+import re
+import sys
+
+import sourcetree
+
+STYLE = "ThemeLibrary/sources/style/"
+NAMES = STYLE + "ThemeNames.h"
+PROPERTIES = STYLE + "WidgetProperties.h"
+TRAITS = STYLE + "WidgetTraits.cpp"
+
+LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
+# Theme variables by their endings; the lists of the vocabulary name the rest.
+VARIABLE = re.compile(r"^\w+(Brush|Color|Opacity)(Disabled)?$")
+PROPERTY_CALL = re.compile(r'\b(?:setProperty|property|flag|value)\(\s*(?:\w+,\s*)?"')
+CLASS_CALL = re.compile(r'\binherits\(\s*(?:\w+,\s*)?"')
+
+BANNED = (
+    (re.compile(r"\b(TODO|FIXME|XXX|HACK)\b"), "do it now or leave it out"),
+    (re.compile(r"(?<![\w.:/])/(home|root|work|tmp)/"), "a path of one machine"),
+    (re.compile(r"\b(part|issue|ticket|chapter|section) #?\d", re.IGNORECASE), "say what is meant, not where it is written"),
+    (re.compile(r"\bcolour", re.IGNORECASE), "spelt color here"),
+)
+
+
+def literals(name):
+    path = sourcetree.ROOT / name
+    return set(LITERAL.findall(path.read_text(encoding="utf-8"))) if path.exists() else set()
+
+
+def style_faults(name, line, variables, properties):
+    if name != TRAITS and CLASS_CALL.search(line):
+        yield f"class names are tested in {TRAITS}"
+    if name not in (PROPERTIES, TRAITS) and PROPERTY_CALL.search(line):
+        yield f"properties are named in {PROPERTIES}"
+    for text in LITERAL.findall(line):
+        if name not in (NAMES, PROPERTIES) and (VARIABLE.match(text) or text in variables):
+            yield f'"{text}": theme variables are named in {NAMES}'
+        elif name not in (PROPERTIES, NAMES, TRAITS) and text in properties:
+            yield f'"{text}": properties are named in {PROPERTIES}'
+
+
+def faults(path, variables, properties):
+    name = sourcetree.name(path)
+    style = name.startswith(STYLE)
+    for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
+        for pattern, reason in BANNED:
+            if name != "tools/check_names.py" and pattern.search(line):
+                yield f"{name}:{number}: {pattern.search(line).group()}: {reason}"
+        if style and not line.lstrip().startswith(("#include", "//")):
+            for reason in style_faults(name, line, variables, properties):
+                yield f"{name}:{number}: {reason}"
+
+
+def main():
+    variables, properties = literals(NAMES), literals(PROPERTIES)
+    sources = sourcetree.files(".cpp", ".h", ".py", ".md", ".qss", ".sh", ".cmake", ".txt")
+    found = [line for path in sources for line in faults(path, variables, properties)]
+    for line in found:
+        print(line)
+    return 1 if found else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
