@@ -3,7 +3,7 @@
 from dataclasses import dataclass, replace
 
 import cutting
-from drawing import DASH, FILL, SOLID, STROKE, TONE, Shape
+from drawing import FILL, SOLID, STROKE, Shape
 from geometry import Similarity, ellipse, polyline, rectangle
 
 REFERENCE = "#E5EEF4"
@@ -71,7 +71,7 @@ class _Composition:
 
     def painted(self):
         """The shapes with colors in place of color words."""
-        return [replace(shape, color=self._settled(shape.color)) for shape in self.shapes]
+        return [replace(shape.dashed(), color=self._settled(shape.color)) for shape in self.shapes]
 
     def _settled(self, word):
         if word is None or isinstance(word, Gradient):
@@ -134,7 +134,7 @@ class _Composition:
     def _cut(self, stroke_region, solid_sides, area_sides):
         """Cuts every shape; an area may leave a part on each of several sides."""
         kept = []
-        for shape in self.shapes:
+        for shape in (shape.dashed() for shape in self.shapes):
             if shape.filled:
                 sides = solid_sides if shape.paint == SOLID else area_sides
                 pieces = [p for side in sides for c in shape.contours for p in cutting.cut_area(c, side)]

@@ -6,7 +6,7 @@ Cursors are white with a black outline, so that they show on any ground.
 import struct
 import zlib
 
-from drawing import DASH, read_shapes
+from drawing import read_shapes
 from geometry import Similarity
 
 _GRID = 32
@@ -15,7 +15,6 @@ _FROM_GLYPH = Similarity(1.25, 1 + 1j)
 # Widths on the 32 grid: first everything in black, then in white on top of it.
 _OUTLINE, _OUTLINE_OF_SOLIDS, _STROKE, _SOLID = 4, 3, 2, 0
 _BLACK, _WHITE = 0, 255
-_DASH, _DASH_GAP = 1.75, 2.75
 
 
 def render(row, glyphs):
@@ -46,7 +45,7 @@ def _shapes(drawing, glyphs):
             shapes += [shape.moved(flipped).moved(_FROM_GLYPH) for shape in glyphs[words[1]].shapes]
         else:
             shapes += read_shapes(operation)
-    return shapes
+    return [shape.dashed() for shape in shapes]
 
 
 def _paint(shapes, size):
@@ -67,7 +66,7 @@ def _coverage(shapes, size, stroke_width, solid_width):
     rows = [[0.0] * size for _ in range(size)]
     for shape in shapes:
         width = solid_width if shape.filled else stroke_width
-        polylines = [[p * size / _GRID for p in line] for c in shape.contours for line in _lines(c, shape.paint)]
+        polylines = [[p * size / _GRID for p in contour.points()] for contour in shape.contours]
         distances = _distances(polylines, size, width / 2 + 1)
         if shape.filled:
             _negate_inside(distances, polylines, size)
@@ -75,32 +74,6 @@ def _coverage(shapes, size, stroke_width, solid_width):
             for x, distance in enumerate(row):
                 covered[x] = max(covered[x], min(1.0, width / 2 - distance + .5))
     return rows
-
-
-def _lines(contour, paint):
-    points = contour.points()
-    if paint != DASH:
-        return [points]
-    return list(_dashes(points, contour.length))
-
-
-def _dashes(points, length):
-    """The pieces of a polyline that dashes cover, as many as fit evenly."""
-    period = length / max(1, round(length / (_DASH + _DASH_GAP)))
-    travelled = 0.0
-    piece = []
-    for a, b in zip(points, points[1:]):
-        reach = abs(b - a)
-        steps = max(1, round(reach * 4))
-        for i in range(steps):
-            if (travelled + reach * i / steps) % period <= _DASH:
-                piece.append(a + (b - a) * i / steps)
-            elif piece:
-                yield piece
-                piece = []
-        travelled += reach
-    if piece:
-        yield piece
 
 
 def _distances(polylines, size, limit):

@@ -5,6 +5,7 @@ import re
 from dataclasses import dataclass, field, replace
 from pathlib import Path
 
+import dashing
 import pathdata
 from geometry import Contour, Arc, ellipse, polyline, rectangle
 
@@ -23,6 +24,12 @@ class Shape:
 
     def moved(self, similarity):
         return replace(self, contours=tuple(c.moved(similarity) for c in self.contours))
+
+    def dashed(self):
+        """The shape with its dashes as contours of their own, if it has any."""
+        if self.paint != DASH:
+            return self
+        return replace(self, paint=STROKE, contours=tuple(d for c in self.contours for d in dashing.dashes(c)))
 
     @property
     def filled(self):

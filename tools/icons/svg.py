@@ -1,13 +1,12 @@
 """Writes icons as SVG that a Tiny renderer paints: paths and circles, no transforms, every shape with its fill."""
 
 from compose import Gradient
-from drawing import DASH, FILL, SOLID, STROKE, TONE
+from drawing import SOLID, STROKE, TONE
 from geometry import Arc
 from pathdata import number, write
 
 STROKE_WIDTH = 1.5
 _TONE_OPACITY = ".25"
-_DASH, _DASH_GAP = 1.5, 3
 
 
 def render(icon):
@@ -36,7 +35,7 @@ class _Element:
 
     def tag(self):
         single = self.contours[0].segments[0] if len(self.contours) == 1 else None
-        if isinstance(single, Arc) and abs(single.sweep) == 360 and "dash" not in self.stroke:
+        if isinstance(single, Arc) and abs(single.sweep) == 360:
             level = single.tilt % 180 == 0
             if abs(single.rx - single.ry) < .005 or level or single.tilt % 90 == 0:
                 return _round(single, level)
@@ -52,10 +51,7 @@ def _round(arc, level):
 
 
 def _elements(shape, definitions):
-    if shape.paint == DASH:
-        for contour in shape.contours:
-            yield _Element('fill="none"', _stroke(shape.color, _dashes(contour)), [contour])
-    elif shape.paint == STROKE:
+    if shape.paint == STROKE:
         for contour in shape.contours:
             yield _Element('fill="none"', _stroke(shape.color), [contour])
     else:
@@ -67,16 +63,9 @@ def _elements(shape, definitions):
         yield _Element(fill, _stroke(shape.color) if shape.paint == SOLID else "", shape.contours)
 
 
-def _stroke(color, dashes=""):
+def _stroke(color):
     return (f'stroke="{color}" stroke-width="{number(STROKE_WIDTH)}" stroke-linecap="round" '
-            f'stroke-linejoin="round"{dashes}')
-
-
-def _dashes(contour):
-    """Dashes that meet the ends of the contour, or its seam, without a shorter one: the gap gives way."""
-    length = contour.length if contour.closed else contour.length - _DASH
-    count = max(1, round(length / (_DASH + _DASH_GAP)))
-    return f' stroke-dasharray="{number(_DASH)} {number(length / count - _DASH)}"'
+            f'stroke-linejoin="round"')
 
 
 def _fill(shape, definitions):
