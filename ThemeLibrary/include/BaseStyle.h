@@ -9,6 +9,8 @@
 
 class QStyleOptionButton;
 class QStyleOptionTab;
+class QStyleOptionTitleBar;
+class QStyleOptionToolButton;
 
 namespace BRELK {
 
@@ -57,10 +59,41 @@ public:
     /// "fusion".
     const QPalette& getPalette() const { return m_palette; }
 
-    using QProxyStyle::polish;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// Fits `widget` to the theme; safe to call again. What it sets stays when the widget is
+    /// unpolished, but for the hover attribute of tab bars and group boxes.
+    void polish(QWidget* widget) override;
+    void unpolish(QWidget* widget) override;
+    void polish(QApplication* app) override;
+    void unpolish(QApplication* app) override;
     /// Replaces the whole of `palette` with the style's.
     void polish(QPalette& palette) override;
     QPalette standardPalette() const override;
+
+    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                       const QWidget* widget = nullptr) const override;
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget = nullptr) const override;
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget = nullptr) const override;
+    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget = nullptr) const override;
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget = nullptr) const override;
+    int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                    const QWidget* widget = nullptr) const override;
+    QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
+                           const QWidget* widget = nullptr) const override;
+    int styleHint(StyleHint hint, const QStyleOption* option = nullptr,
+                  const QWidget* widget = nullptr,
+                  QStyleHintReturn* returnData = nullptr) const override;
+
+    /// Whether Alt was pressed in the window of `widget` since it was opened.
+    bool hasSeenAlt(const QWidget* widget) const;
+
+    /// Whether Alt is held.
+    bool altDown() const { return m_alt_down; }
 
     /// The palette's Midlight brush.
     const QBrush& lightOutlineBrush(const QPalette& palette) const;
@@ -86,6 +119,11 @@ public:
     static QColor getColor(QString name, bool enabled);
     /// The theme brush "CardBorderBrush", cached for the life of the process.
     static const QBrush& getBorderBrush(bool enabled);
+
+    /// The brushes of a button-like control in its state, from theme brushes whose names are
+    /// composed of what the widget is and how it stands. `option` must not be null; without a
+    /// widget its properties count as absent.
+    static const ButtonBrushes buttonBrushes(const QStyleOption* option, const QWidget* widget);
 
     static bool isPressed(const QStyleOption& option);
     static bool isPressed(const QStyleOption* option);

@@ -1,0 +1,80 @@
+#pragma once
+
+#include "StyleContext.h"
+
+/// Lets a table name functions that take the option type they work on: the adapter casts the
+/// option, and calls the function only when it has that type. All of it is resolved when compiling;
+/// a table entry is a plain pointer.
+namespace BRELK {
+
+using Painter = void (*)(const PaintContext&);
+using RectRule = QRect (*)(const StyleContext&, const QRect& base);
+using PartRule = QRect (*)(const StyleContext&, QStyle::SubControl, const QRect& base);
+using MetricRule = int (*)(QStyle::PixelMetric, const MeasureContext&);
+using SizeRule = QSize (*)(const MeasureContext&, const QSize& contents, const QSize& base);
+
+template <auto Function>
+struct Adapter;
+
+template <void (*Paint)(const PaintContext&)>
+struct Adapter<Paint>
+{
+    static void call(const PaintContext& context) { Paint(context); }
+};
+
+template <class Option, void (*Paint)(const PaintContext&, const Option&)>
+struct Adapter<Paint>
+{
+    static void call(const PaintContext& context)
+    {
+        if (const auto* option = qstyleoption_cast<const Option*>(&context.option))
+            Paint(context, *option);
+    }
+};
+
+template <QRect (*Rule)(const StyleContext&, const QRect&)>
+struct Adapter<Rule>
+{
+    static QRect call(const StyleContext& context, const QRect& base)
+    {
+        return Rule(context, base);
+    }
+};
+
+template <class Option, QRect (*Rule)(const StyleContext&, const Option&, const QRect&)>
+struct Adapter<Rule>
+{
+    static QRect call(const StyleContext& context, const QRect& base)
+    {
+        const auto* option = qstyleoption_cast<const Option*>(&context.option);
+        return option ? Rule(context, *option, base) : base;
+    }
+};
+
+template <class Option,
+          QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubControl, const QRect&)>
+struct Adapter<Rule>
+{
+    static QRect call(const StyleContext& context, QStyle::SubControl part, const QRect& base)
+    {
+        const auto* option = qstyleoption_cast<const Option*>(&context.option);
+        return option ? Rule(context, *option, part, base) : base;
+    }
+};
+
+template <class Option,
+          QSize (*Rule)(const MeasureContext&, const Option&, const QSize&, const QSize&)>
+struct Adapter<Rule>
+{
+    static QSize call(const MeasureContext& context, const QSize& contents, const QSize& base)
+    {
+        const auto* option = qstyleoption_cast<const Option*>(context.option);
+        return option ? Rule(context, *option, contents, base) : base;
+    }
+};
+
+/// The table entry for `Function`.
+template <auto Function>
+constexpr auto by = &Adapter<Function>::call;
+
+} // namespace BRELK

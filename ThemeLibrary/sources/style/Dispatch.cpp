@@ -1,0 +1,306 @@
+#include "Adapters.h"
+#include "Families.h"
+
+// Who paints and measures what: each element stands here once. What is not here is the base
+// style's.
+
+namespace BRELK {
+
+namespace {
+
+// clang-format off
+
+Painter painterOf(QStyle::PrimitiveElement element)
+{
+    switch (element) {
+    case QStyle::PE_Frame:                     return by<LineEdits::paintFrame>;
+    case QStyle::PE_FrameDefaultButton:        return by<Buttons::paintDefaultFrame>;
+    case QStyle::PE_FrameFocusRect:            return by<Frames::paintFocusRect>;
+    case QStyle::PE_FrameGroupBox:             return by<GroupBoxes::paintFrame>;
+    case QStyle::PE_FrameLineEdit:             return by<LineEdits::paintFrame>;
+    case QStyle::PE_FrameTabBarBase:           return by<Tabs::paintBarBase>;
+    case QStyle::PE_FrameTabWidget:            return by<Tabs::paintFrame>;
+    case QStyle::PE_FrameWindow:               return by<TitleBars::paintWindowFrame>;
+    case QStyle::PE_IndicatorArrowDown:        return by<Arrows::paintDown>;
+    case QStyle::PE_IndicatorArrowLeft:        return by<Arrows::paintLeft>;
+    case QStyle::PE_IndicatorArrowRight:       return by<Arrows::paintRight>;
+    case QStyle::PE_IndicatorArrowUp:          return by<Arrows::paintUp>;
+    case QStyle::PE_IndicatorBranch:           return by<ItemViews::paintBranch>;
+    case QStyle::PE_IndicatorCheckBox:         return by<CheckBoxes::paintIndicator>;
+    case QStyle::PE_IndicatorColumnViewArrow:  return by<ItemViews::paintColumnViewArrow>;
+    case QStyle::PE_IndicatorRadioButton:      return by<CheckBoxes::paintRadioIndicator>;
+    case QStyle::PE_IndicatorSpinMinus:        return by<SpinBoxes::paintMinus>;
+    case QStyle::PE_IndicatorSpinPlus:         return by<SpinBoxes::paintPlus>;
+    case QStyle::PE_IndicatorTabClose:         return by<Tabs::paintCloseButton>;
+    case QStyle::PE_IndicatorToolBarHandle:    return by<ToolBars::paintHandle>;
+    case QStyle::PE_IndicatorToolBarSeparator: return by<ToolBars::paintSeparator>;
+    case QStyle::PE_PanelButtonBevel:          return by<Buttons::paintPanel>;
+    case QStyle::PE_PanelButtonCommand:        return by<Buttons::paintPanel>;
+    case QStyle::PE_PanelItemViewItem:         return by<ItemViews::paintPanel>;
+    case QStyle::PE_PanelItemViewRow:          return by<ItemViews::paintRow>;
+    case QStyle::PE_PanelLineEdit:             return by<LineEdits::paintPanel>;
+    case QStyle::PE_PanelMenu:                 return by<Menus::paintPanel>;
+    case QStyle::PE_PanelScrollAreaCorner:     return by<ScrollBars::paintCorner>;
+    case QStyle::PE_PanelStatusBar:            return by<WindowParts::paintStatusBar>;
+    case QStyle::PE_PanelTipLabel:             return by<Frames::paintToolTip>;
+    case QStyle::PE_Widget:                    return by<Cards::paintWidget>;
+    default:                                   return nullptr;
+    }
+}
+
+Painter painterOf(QStyle::ControlElement element)
+{
+    switch (element) {
+    case QStyle::CE_CheckBox:            return by<CheckBoxes::paintCheckBox>;
+    case QStyle::CE_CheckBoxLabel:       return by<CheckBoxes::paintLabel>;
+    case QStyle::CE_ColumnViewGrip:      return by<ItemViews::paintColumnViewGrip>;
+    case QStyle::CE_ComboBoxLabel:       return by<ComboBoxes::paintLabel>;
+    case QStyle::CE_DockWidgetTitle:     return by<TitleBars::paintDockTitle>;
+    case QStyle::CE_ItemViewItem:        return by<ItemViews::paintItem>;
+    case QStyle::CE_MenuBarEmptyArea:    return by<Menus::paintBarEmptyArea>;
+    case QStyle::CE_MenuBarItem:         return by<Menus::paintBarItem>;
+    case QStyle::CE_MenuItem:            return by<Menus::paintItem>;
+    case QStyle::CE_ProgressBarContents: return by<ProgressBars::paintContents>;
+    case QStyle::CE_ProgressBarGroove:   return by<ProgressBars::paintGroove>;
+    case QStyle::CE_ProgressBarLabel:    return by<ProgressBars::paintLabel>;
+    case QStyle::CE_PushButton:          return by<Buttons::paintButton>;
+    case QStyle::CE_PushButtonBevel:     return by<Buttons::paintBevel>;
+    case QStyle::CE_PushButtonLabel:     return by<Buttons::paintLabel>;
+    case QStyle::CE_RadioButtonLabel:    return by<CheckBoxes::paintLabel>;
+    case QStyle::CE_RubberBand:          return by<WindowParts::paintRubberBand>;
+    case QStyle::CE_ScrollBarAddLine:    return by<ScrollBars::paintLine>;
+    case QStyle::CE_ScrollBarSlider:     return by<ScrollBars::paintSlider>;
+    case QStyle::CE_ScrollBarSubLine:    return by<ScrollBars::paintLine>;
+    case QStyle::CE_ShapedFrame:         return by<Frames::paintShapedFrame>;
+    case QStyle::CE_Splitter:            return by<WindowParts::paintSplitter>;
+    case QStyle::CE_TabBarTabLabel:      return by<Tabs::paintLabel>;
+    case QStyle::CE_TabBarTabShape:      return by<Tabs::paintShape>;
+    case QStyle::CE_ToolBar:             return by<ToolBars::paintToolBar>;
+    case QStyle::CE_ToolBoxTabShape:     return by<ToolBoxes::paintTabShape>;
+    case QStyle::CE_ToolButtonLabel:     return by<ToolButtons::paintLabel>;
+    default:                             return nullptr;
+    }
+}
+
+Painter painterOf(QStyle::ComplexControl control)
+{
+    switch (control) {
+    case QStyle::CC_ComboBox:   return by<ComboBoxes::paintComboBox>;
+    case QStyle::CC_GroupBox:   return by<GroupBoxes::paintGroupBox>;
+    case QStyle::CC_ScrollBar:  return by<ScrollBars::paintScrollBar>;
+    case QStyle::CC_Slider:     return by<Sliders::paintSlider>;
+    case QStyle::CC_SpinBox:    return by<SpinBoxes::paintSpinBox>;
+    case QStyle::CC_TitleBar:   return by<TitleBars::paintTitleBar>;
+    case QStyle::CC_ToolButton: return by<ToolButtons::paintToolButton>;
+    default:                    return nullptr;
+    }
+}
+
+RectRule ruleOf(QStyle::SubElement element)
+{
+    switch (element) {
+    case QStyle::SE_CheckBoxContents:           return by<CheckBoxes::contentsRect>;
+    case QStyle::SE_CheckBoxIndicator:          return by<CheckBoxes::indicatorRect>;
+    case QStyle::SE_ItemViewItemCheckIndicator: return by<ItemViews::indicatorRect>;
+    case QStyle::SE_ItemViewItemDecoration:     return by<ItemViews::decorationRect>;
+    case QStyle::SE_ItemViewItemText:           return by<ItemViews::textRect>;
+    case QStyle::SE_TabBarTabRightButton:       return by<Tabs::rightButtonRect>;
+    case QStyle::SE_TabBarTabText:              return by<Tabs::textRect>;
+    case QStyle::SE_TabWidgetTabBar:            return by<Tabs::barRect>;
+    default:                                    return nullptr;
+    }
+}
+
+PartRule ruleOf(QStyle::ComplexControl control)
+{
+    switch (control) {
+    case QStyle::CC_ComboBox:  return by<ComboBoxes::partRect>;
+    case QStyle::CC_GroupBox:  return by<GroupBoxes::partRect>;
+    case QStyle::CC_ScrollBar: return by<ScrollBars::partRect>;
+    case QStyle::CC_Slider:    return by<Sliders::partRect>;
+    case QStyle::CC_SpinBox:   return by<SpinBoxes::partRect>;
+    default:                   return nullptr;
+    }
+}
+
+SizeRule ruleOf(QStyle::ContentsType type)
+{
+    switch (type) {
+    case QStyle::CT_CheckBox:     return by<CheckBoxes::checkBoxSize>;
+    case QStyle::CT_ComboBox:     return by<ComboBoxes::comboBoxSize>;
+    case QStyle::CT_ItemViewItem: return by<ItemViews::itemSize>;
+    case QStyle::CT_LineEdit:     return by<LineEdits::lineEditSize>;
+    case QStyle::CT_MenuBarItem:  return by<Menus::barItemSize>;
+    case QStyle::CT_MenuItem:     return by<Menus::itemSize>;
+    case QStyle::CT_ProgressBar:  return by<ProgressBars::progressBarSize>;
+    case QStyle::CT_PushButton:   return by<Buttons::buttonSize>;
+    case QStyle::CT_RadioButton:  return by<CheckBoxes::radioButtonSize>;
+    case QStyle::CT_Slider:       return by<Sliders::sliderSize>;
+    case QStyle::CT_SpinBox:      return by<SpinBoxes::spinBoxSize>;
+    case QStyle::CT_TabBarTab:    return by<Tabs::tabSize>;
+    case QStyle::CT_ToolButton:   return by<ToolButtons::toolButtonSize>;
+    default:                      return nullptr;
+    }
+}
+
+MetricRule ruleOf(QStyle::PixelMetric metric)
+{
+    switch (unsigned(metric)) {
+    case QStyle::PM_ButtonMargin:
+    case QStyle::PM_ButtonDefaultIndicator:
+    case QStyle::PM_ButtonShiftHorizontal:
+    case QStyle::PM_ButtonShiftVertical:
+    case QStyle::PM_ButtonIconSize:            return Buttons::metric;
+    case QStyle::PM_MenuButtonIndicator:       return Arrows::metric;
+    case QStyle::PM_IndicatorWidth:
+    case QStyle::PM_IndicatorHeight:
+    case QStyle::PM_ExclusiveIndicatorWidth:
+    case QStyle::PM_ExclusiveIndicatorHeight:
+    case QStyle::PM_CheckBoxLabelSpacing:
+    case QStyle::PM_RadioButtonLabelSpacing:   return CheckBoxes::metric;
+    case QStyle::PM_DefaultFrameWidth:
+    case QStyle::PM_ToolTipLabelFrameWidth:
+    case QStyle::PM_FocusFrameHMargin:
+    case QStyle::PM_FocusFrameVMargin:         return Frames::metric;
+    case QStyle::PM_LayoutLeftMargin:
+    case QStyle::PM_LayoutTopMargin:
+    case QStyle::PM_LayoutRightMargin:
+    case QStyle::PM_LayoutBottomMargin:
+    case QStyle::PM_LayoutHorizontalSpacing:
+    case QStyle::PM_LayoutVerticalSpacing:
+    case QStyle::PM_SmallIconSize:
+    case QStyle::PM_LargeIconSize:
+    case QStyle::PM_MessageBoxIconSize:
+    case QStyle::PM_SplitterWidth:             return WindowParts::metric;
+    case QStyle::PM_HeaderMargin:
+    case QStyle::PM_HeaderMarkSize:
+    case QStyle::PM_HeaderGripMargin:
+    case QStyle::PM_HeaderDefaultSectionSizeHorizontal:
+    case QStyle::PM_HeaderDefaultSectionSizeVertical:
+    case QStyle::PM_ListViewIconSize:
+    case QStyle::PM_IconViewIconSize:
+    case QStyle::PM_TreeViewIndentation:
+    case BaseStyle::BRELK_PM_ListViewPadding:  return ItemViews::metric;
+    case QStyle::PM_MenuHMargin:
+    case QStyle::PM_MenuVMargin:
+    case QStyle::PM_MenuPanelWidth:
+    case QStyle::PM_MenuDesktopFrameWidth:
+    case QStyle::PM_MenuScrollerHeight:
+    case QStyle::PM_MenuTearoffHeight:
+    case QStyle::PM_MenuBarHMargin:
+    case QStyle::PM_MenuBarVMargin:
+    case QStyle::PM_MenuBarItemSpacing:
+    case QStyle::PM_MenuBarPanelWidth:
+    case QStyle::PM_SubMenuOverlap:            return Menus::metric;
+    case QStyle::PM_ProgressBarChunkWidth:     return ProgressBars::metric;
+    case QStyle::PM_ScrollBarExtent:
+    case QStyle::PM_ScrollBarSliderMin:
+    case QStyle::PM_ScrollView_ScrollBarSpacing:
+    case QStyle::PM_ScrollView_ScrollBarOverlap: return ScrollBars::metric;
+    case QStyle::PM_SliderControlThickness:
+    case QStyle::PM_SliderLength:
+    case QStyle::PM_SliderThickness:
+    case QStyle::PM_SliderTickmarkOffset:
+    case QStyle::PM_SliderSpaceAvailable:      return Sliders::metric;
+    case QStyle::PM_TabBarBaseHeight:
+    case QStyle::PM_TabBarBaseOverlap:
+    case QStyle::PM_TabBarIconSize:
+    case QStyle::PM_TabBarScrollButtonWidth:
+    case QStyle::PM_TabBarTabHSpace:
+    case QStyle::PM_TabBarTabVSpace:
+    case QStyle::PM_TabBarTabOverlap:
+    case QStyle::PM_TabBarTabShiftHorizontal:
+    case QStyle::PM_TabBarTabShiftVertical:
+    case QStyle::PM_TabCloseIndicatorHeight:
+    case QStyle::PM_TabCloseIndicatorWidth:    return Tabs::metric;
+    case QStyle::PM_DockWidgetTitleBarButtonMargin:
+    case QStyle::PM_DockWidgetTitleMargin:
+    case QStyle::PM_DockWidgetSeparatorExtent:
+    case QStyle::PM_DockWidgetHandleExtent:
+    case QStyle::PM_DockWidgetFrameWidth:
+    case QStyle::PM_MdiSubWindowFrameWidth:
+    case QStyle::PM_MdiSubWindowMinimizedWidth:
+    case QStyle::PM_TitleBarButtonIconSize:
+    case QStyle::PM_TitleBarButtonSize:
+    case QStyle::PM_TitleBarHeight:            return TitleBars::metric;
+    case QStyle::PM_ToolBarExtensionExtent:
+    case QStyle::PM_ToolBarFrameWidth:
+    case QStyle::PM_ToolBarHandleExtent:
+    case QStyle::PM_ToolBarIconSize:
+    case QStyle::PM_ToolBarItemMargin:
+    case QStyle::PM_ToolBarItemSpacing:
+    case QStyle::PM_ToolBarSeparatorExtent:    return ToolBars::metric;
+    default:                                   return nullptr;
+    }
+}
+
+// clang-format on
+
+} // namespace
+
+void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
+                              QPainter* painter, const QWidget* widget) const
+{
+    if (!option || !painter)
+        return;
+    if (const Painter paint = painterOf(element))
+        paint({{*this, *option, widget}, *painter});
+    else
+        QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void BaseStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                            const QWidget* widget) const
+{
+    if (!option || !painter)
+        return;
+    if (const Painter paint = painterOf(element))
+        paint({{*this, *option, widget}, *painter});
+    else
+        QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                                   QPainter* painter, const QWidget* widget) const
+{
+    if (!option || !painter)
+        return;
+    if (const Painter paint = painterOf(control))
+        paint({{*this, *option, widget}, *painter});
+    else
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect BaseStyle::subElementRect(SubElement element, const QStyleOption* option,
+                                const QWidget* widget) const
+{
+    const QRect base = QProxyStyle::subElementRect(element, option, widget);
+    const RectRule rule = option ? ruleOf(element) : nullptr;
+    return rule ? rule({*this, *option, widget}, base) : base;
+}
+
+QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                                SubControl part, const QWidget* widget) const
+{
+    const QRect base = QProxyStyle::subControlRect(control, option, part, widget);
+    const PartRule rule = option ? ruleOf(control) : nullptr;
+    return rule ? rule({*this, *option, widget}, part, base) : base;
+}
+
+QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
+                                  const QSize& contents, const QWidget* widget) const
+{
+    const QSize base = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    const SizeRule rule = option ? ruleOf(type) : nullptr;
+    return rule ? rule({*this, option, widget}, contents, base) : base;
+}
+
+int BaseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                           const QWidget* widget) const
+{
+    const MetricRule rule = ruleOf(metric);
+    return rule ? rule(metric, {*this, option, widget})
+                : QProxyStyle::pixelMetric(metric, option, widget);
+}
+
+} // namespace BRELK

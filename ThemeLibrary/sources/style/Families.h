@@ -1,0 +1,213 @@
+#pragma once
+
+#include <QStyle>
+
+class QStyleOptionButton;
+class QStyleOptionComboBox;
+class QStyleOptionDockWidget;
+class QStyleOptionFrame;
+class QStyleOptionGroupBox;
+class QStyleOptionMenuItem;
+class QStyleOptionProgressBar;
+class QStyleOptionRubberBand;
+class QStyleOptionSlider;
+class QStyleOptionSpinBox;
+class QStyleOptionTab;
+class QStyleOptionTabBarBase;
+class QStyleOptionTabWidgetFrame;
+class QStyleOptionTitleBar;
+class QStyleOptionToolBar;
+class QStyleOptionToolBox;
+class QStyleOptionToolButton;
+class QStyleOptionViewItem;
+
+/// What the widget families offer to the tables. A family is one file: its sizes, its rectangles,
+/// its painting. Families meet only through the proxy.
+namespace BRELK {
+
+struct MeasureContext;
+struct PaintContext;
+struct StyleContext;
+
+namespace Arrows {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+void paintDown(const PaintContext& context);
+void paintLeft(const PaintContext& context);
+void paintRight(const PaintContext& context);
+void paintUp(const PaintContext& context);
+} // namespace Arrows
+
+namespace Buttons {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QSize buttonSize(const MeasureContext& context, const QStyleOptionButton& button,
+                 const QSize& contents, const QSize& base);
+void paintDefaultFrame(const PaintContext& context);
+void paintPanel(const PaintContext& context);
+void paintButton(const PaintContext& context, const QStyleOptionButton& button);
+void paintBevel(const PaintContext& context, const QStyleOptionButton& button);
+void paintLabel(const PaintContext& context, const QStyleOptionButton& button);
+} // namespace Buttons
+
+namespace Cards {
+void paintWidget(const PaintContext& context);
+}
+
+namespace CheckBoxes {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton& button,
+                   const QSize& contents, const QSize& base);
+QSize radioButtonSize(const MeasureContext& context, const QStyleOptionButton& button,
+                      const QSize& contents, const QSize& base);
+QRect indicatorRect(const StyleContext& context, const QStyleOptionButton& button,
+                    const QRect& base);
+QRect contentsRect(const StyleContext& context, const QStyleOptionButton& button,
+                   const QRect& base);
+void paintIndicator(const PaintContext& context);
+void paintRadioIndicator(const PaintContext& context);
+void paintCheckBox(const PaintContext& context, const QStyleOptionButton& button);
+void paintLabel(const PaintContext& context, const QStyleOptionButton& button);
+} // namespace CheckBoxes
+
+namespace ComboBoxes {
+QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
+                   const QSize& contents, const QSize& base);
+QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,
+               QStyle::SubControl part, const QRect& base);
+void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox);
+void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox);
+} // namespace ComboBoxes
+
+namespace Frames {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+void paintFocusRect(const PaintContext& context);
+void paintToolTip(const PaintContext& context);
+void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& frame);
+} // namespace Frames
+
+namespace GroupBoxes {
+QRect partRect(const StyleContext& context, const QStyleOptionGroupBox& groupBox,
+               QStyle::SubControl part, const QRect& base);
+void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
+void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& groupBox);
+} // namespace GroupBoxes
+
+namespace ItemViews {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
+               const QSize& contents, const QSize& base);
+QRect indicatorRect(const StyleContext& context, const QRect& base);
+QRect decorationRect(const StyleContext& context, const QRect& base);
+QRect textRect(const StyleContext& context, const QRect& base);
+void paintPanel(const PaintContext& context, const QStyleOptionViewItem& item);
+void paintRow(const PaintContext& context, const QStyleOptionViewItem& item);
+void paintBranch(const PaintContext& context);
+void paintColumnViewArrow(const PaintContext& context);
+void paintItem(const PaintContext& context, const QStyleOptionViewItem& item);
+void paintColumnViewGrip(const PaintContext& context);
+} // namespace ItemViews
+
+namespace LineEdits {
+QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
+                   const QSize& contents, const QSize& base);
+void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
+void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame);
+} // namespace LineEdits
+
+namespace Menus {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QSize itemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
+               const QSize& contents, const QSize& base);
+QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
+                  const QSize& contents, const QSize& base);
+void paintPanel(const PaintContext& context);
+void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item);
+void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item);
+void paintBarEmptyArea(const PaintContext& context);
+} // namespace Menus
+
+namespace ProgressBars {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressBar& bar,
+                      const QSize& contents, const QSize& base);
+void paintGroove(const PaintContext& context);
+void paintContents(const PaintContext& context, const QStyleOptionProgressBar& bar);
+void paintLabel(const PaintContext& context, const QStyleOptionProgressBar& bar);
+} // namespace ProgressBars
+
+namespace ScrollBars {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
+               const QRect& base);
+void paintCorner(const PaintContext& context);
+void paintLine(const PaintContext& context, const QStyleOptionSlider& bar);
+void paintSlider(const PaintContext& context, const QStyleOptionSlider& bar);
+void paintScrollBar(const PaintContext& context, const QStyleOptionSlider& bar);
+} // namespace ScrollBars
+
+namespace Sliders {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
+                 const QSize& contents, const QSize& base);
+QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
+               QStyle::SubControl part, const QRect& base);
+void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider);
+} // namespace Sliders
+
+namespace SpinBoxes {
+QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
+                  const QSize& contents, const QSize& base);
+QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
+               QStyle::SubControl part, const QRect& base);
+void paintMinus(const PaintContext& context);
+void paintPlus(const PaintContext& context);
+void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBox);
+} // namespace SpinBoxes
+
+namespace Tabs {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+QSize tabSize(const MeasureContext& context, const QStyleOptionTab& tab, const QSize& contents,
+              const QSize& base);
+QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& frame,
+              const QRect& base);
+QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect& base);
+QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect& base);
+void paintFrame(const PaintContext& context);
+void paintBarBase(const PaintContext& context, const QStyleOptionTabBarBase& bar);
+void paintCloseButton(const PaintContext& context);
+void paintShape(const PaintContext& context, const QStyleOptionTab& tab);
+void paintLabel(const PaintContext& context, const QStyleOptionTab& tab);
+} // namespace Tabs
+
+namespace TitleBars {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+void paintWindowFrame(const PaintContext& context);
+void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& dock);
+void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titleBar);
+} // namespace TitleBars
+
+namespace ToolBars {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+void paintHandle(const PaintContext& context);
+void paintSeparator(const PaintContext& context);
+void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBar);
+} // namespace ToolBars
+
+namespace ToolBoxes {
+void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab);
+}
+
+namespace ToolButtons {
+QSize toolButtonSize(const MeasureContext& context, const QStyleOptionToolButton& button,
+                     const QSize& contents, const QSize& base);
+void paintLabel(const PaintContext& context, const QStyleOptionToolButton& button);
+void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& button);
+} // namespace ToolButtons
+
+namespace WindowParts {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+void paintStatusBar(const PaintContext& context);
+void paintSplitter(const PaintContext& context);
+void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& band);
+} // namespace WindowParts
+
+} // namespace BRELK

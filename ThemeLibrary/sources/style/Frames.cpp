@@ -1,0 +1,47 @@
+#include "Families.h"
+#include "StyleContext.h"
+
+#include <QLineEdit>
+
+// Focus marks, tool tips and the frames of QFrame.
+
+namespace BRELK::Frames {
+
+namespace {
+
+constexpr int FrameWidth = 1;
+constexpr int LineEditPadding = 4;
+constexpr int ToolTipPadding = 4;
+constexpr int FocusMargin = 2;
+
+} // namespace
+
+int metric(QStyle::PixelMetric metric, const MeasureContext& context)
+{
+    switch (metric) {
+    case QStyle::PM_ToolTipLabelFrameWidth: return context.dpiScaled(ToolTipPadding);
+    case QStyle::PM_FocusFrameHMargin:
+    case QStyle::PM_FocusFrameVMargin: return context.dpiScaled(FocusMargin);
+    default:
+        // A line edit counts the room between border and text as part of its frame.
+        return qobject_cast<const QLineEdit*>(context.widget) ? context.dpiScaled(LineEditPadding)
+                                                              : FrameWidth;
+    }
+}
+
+void paintFocusRect(const PaintContext& context)
+{
+    context.drawByBase(QStyle::PE_FrameFocusRect);
+}
+
+void paintToolTip(const PaintContext& context)
+{
+    context.drawByBase(QStyle::PE_PanelTipLabel);
+}
+
+void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame&)
+{
+    context.drawByBase(QStyle::CE_ShapedFrame);
+}
+
+} // namespace BRELK::Frames

@@ -1,0 +1,400 @@
+#include "BaseStyle.h"
+#include "ComboBoxDefaultItemDelegate.h"
+#include "ThemeNames.h"
+#include "ThemeResources.h"
+#include "WidgetProperties.h"
+#include "WidgetTraits.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QCommandLinkButton>
+#include <QDockWidget>
+#include <QLayout>
+#include <QMainWindow>
+#include <QPixmap>
+#include <QProgressBar>
+#include <QScrollArea>
+#include <QTabBar>
+
+// What polish does to widgets: rows of a question and an action, tried in order on every widget.
+
+namespace BRELK {
+
+namespace {
+
+namespace Properties = WidgetProperties;
+
+constexpr int StatusBarHeight = 34;
+constexpr int ToolBoxButtonHeight = 42;
+
+template <class Widget>
+bool is(const QWidget* widget)
+{
+    return qobject_cast<const Widget*>(widget);
+}
+
+template <const char* Property>
+bool has(const QWidget* widget)
+{
+    return Properties::flag(widget, Property);
+}
+
+template <class Widget>
+Widget& as(QWidget& widget)
+{
+    return static_cast<Widget&>(widget);
+}
+
+/// A theme brush that a widget library reads from one of its widgets' properties.
+struct HandedBrush
+{
+    const char* property;
+    QString (*name)();
+    bool enabled;
+};
+
+template <size_t Count>
+void handOut(QWidget& widget, const HandedBrush (&brushes)[Count])
+{
+    for (const HandedBrush& brush : brushes)
+        widget.setProperty(brush.property, BaseStyle::getBrush(brush.name(), brush.enabled));
+}
+
+int cornerRadius(const QString& size)
+{
+    return int(ThemeResources::getCornerRadius(size));
+}
+
+/// Sets `role` for all groups to the theme brush `name`, and for the Disabled group to its
+/// `disabledName` twin.
+void setPaletteBrush(QWidget& widget, QPalette::ColorRole role, const QString& name)
+{
+    QPalette palette = widget.palette();
+    palette.setBrush(role, BaseStyle::getBrush(name, true));
+    palette.setBrush(QPalette::Disabled, role, BaseStyle::getBrush(name, false));
+    widget.setPalette(palette);
+}
+
+void readUpwards(BaseStyle&, QWidget& widget)
+{
+    as<QProgressBar>(widget).setTextDirection(QProgressBar::BottomToTop);
+}
+
+bool hasThemedBase(const QWidget* widget)
+{
+    return is<QAbstractItemView>(widget) && !has<Properties::CustomItemViewPalette>(widget);
+}
+
+void setThemedBase(BaseStyle&, QWidget& widget)
+{
+    setPaletteBrush(widget, QPalette::Base, ThemeNames::itemViewBackgroundBrush());
+}
+
+bool hasThemedItems(const QWidget* widget)
+{
+    return is<QAbstractItemView>(widget) && !has<Properties::CustomItemDelegate>(widget);
+}
+
+void setItemDrawing(BaseStyle&, QWidget& widget)
+{
+    if (!WidgetTraits::isTreeView(&widget)) {
+        widget.setProperty(Properties::HighlightItemsOnMouseHover, true);
+        widget.setMouseTracking(true);
+    }
+    if (!WidgetTraits::isTableView(&widget))
+        widget.setProperty(Properties::DrawItemsSeparators, true);
+    if (WidgetTraits::isListView(&widget))
+        widget.setProperty(Properties::DrawChildIndicatorInListView, true);
+    widget.setProperty(Properties::HideFocusRect, true);
+}
+
+void fadeDisabledLabel(BaseStyle&, QWidget& widget)
+{
+    QPalette palette = widget.palette();
+    palette.setBrush(QPalette::Disabled, QPalette::WindowText,
+                     BaseStyle::getBrush(ThemeNames::foregroundBrush(), false));
+    widget.setPalette(palette);
+}
+
+bool tracksHover(const QWidget* widget)
+{
+    return is<QTabBar>(widget) || WidgetTraits::isGroupBox(widget);
+}
+
+void trackHover(BaseStyle&, QWidget& widget)
+{
+    widget.setAttribute(Qt::WA_Hover);
+}
+
+QString tabFontName(const QWidget& tabs)
+{
+    QString name = ThemeNames::mediumFont();
+    if (Properties::flag(qApp, Properties::AppSmallTabSize))
+        name = ThemeNames::smallFont();
+    else if (Properties::flag(qApp, Properties::AppBaseTabSize))
+        name = ThemeNames::baseFont();
+    else if (Properties::flag(qApp, Properties::AppLargeTabSize))
+        name = ThemeNames::largeFont();
+
+    if (Properties::flag(&tabs, Properties::SmallTabSize))
+        name = ThemeNames::smallFont();
+    else if (Properties::flag(&tabs, Properties::BaseTabSize))
+        name = ThemeNames::baseFont();
+    // Deliberate: the large size wins over the other two.
+    if (Properties::flag(&tabs, Properties::LargeTabSize))
+        name = ThemeNames::largeFont();
+    return name;
+}
+
+void setTabFont(BaseStyle&, QWidget& widget)
+{
+    const QFont font = ThemeResources::getFont(tabFontName(widget));
+    widget.setProperty(Properties::StyleSheetWidgetFont, font);
+    widget.setFont(font);
+}
+
+void raiseStatusBar(BaseStyle&, QWidget& widget)
+{
+    widget.setMinimumHeight(StatusBarHeight);
+}
+
+void lightenViewport(BaseStyle&, QWidget& widget)
+{
+    as<QScrollArea>(widget).viewport()->setBackgroundRole(QPalette::Light);
+}
+
+bool hasOwnBackground(const QWidget* widget)
+{
+    return (is<QMainWindow>(widget) && widget->isWindow()) || is<QDockWidget>(widget)
+           || has<Properties::CardHeader>(widget) || has<Properties::CardContents>(widget)
+           || has<Properties::CardFooter>(widget);
+}
+
+void paintBackground(BaseStyle&, QWidget& widget)
+{
+    widget.setAttribute(Qt::WA_StyledBackground);
+}
+
+void setCardTitleFonts(BaseStyle&, QWidget& widget)
+{
+    const QFont minimized = ThemeResources::getFont(ThemeNames::baseFont());
+    const QFont normal = ThemeResources::getFont(ThemeNames::mediumFont());
+    widget.setProperty(Properties::CardTitleMinimizedFont, minimized);
+    widget.setProperty(Properties::CardTitleDefaultFont, normal);
+    if (const QObject* card = widget.parent())
+        widget.setFont(Properties::flag(card, Properties::Minimized) ? minimized : normal);
+}
+
+void fadeSubtitle(BaseStyle&, QWidget& widget)
+{
+    setPaletteBrush(widget, QPalette::WindowText, ThemeNames::foregroundDisabledBrush());
+}
+
+bool isCard(const QWidget* widget)
+{
+    return WidgetTraits::isCardWidget(widget);
+}
+
+void dressCard(BaseStyle&, QWidget& widget)
+{
+    // Deliberate: the hover brush of foregrounds is the background of cards.
+    handOut(widget,
+            {{Properties::BackgroundBrush, ThemeNames::foregroundMouseOverBrush, true},
+             {Properties::BackgroundBrushDisabled, ThemeNames::foregroundMouseOverBrush, false}});
+}
+
+void replaceDelegate(BaseStyle&, QWidget& widget)
+{
+    auto& comboBox = as<QComboBox>(widget);
+    // The combo box owns the delegate: owned by the style it would leak with every combo box that
+    // goes, and be missed by every one that outlives the style.
+    if (WidgetTraits::isDefaultComboBoxDelegate(comboBox.itemDelegate()))
+        comboBox.setItemDelegate(new ComboBoxDefaultItemDelegate(&comboBox, &comboBox));
+}
+
+bool isGroupContainer(const QWidget* widget)
+{
+    return has<Properties::ButtonGroupContainer>(widget)
+           || has<Properties::ColorButtonContainer>(widget);
+}
+
+void roundGroupContainer(BaseStyle&, QWidget& widget)
+{
+    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::baseSize()));
+}
+
+bool isButtonGroup(const QWidget* widget)
+{
+    return WidgetTraits::isSegmentedGroup(widget);
+}
+
+void dressButtonGroup(BaseStyle&, QWidget& widget)
+{
+    handOut(widget,
+            {{Properties::BackgroundBrush, ThemeNames::listBackgroundBrush, true},
+             {Properties::BackgroundBrushDisabled, ThemeNames::listBackgroundBrush, false},
+             {Properties::BorderBrush, ThemeNames::listBorderBrush, true},
+             {Properties::BorderBrushDisabled, ThemeNames::listBorderBrush, false},
+             {Properties::WorkflowLinkBrush, ThemeNames::prioritySecondaryUpLevel1Brush, true},
+             {Properties::WorkflowLinkBrushDisabled, ThemeNames::prioritySecondaryUpLevel1Brush,
+              false}});
+}
+
+bool showsRoundedPixmap(const QWidget* widget)
+{
+    return !Properties::value(widget, Properties::RoundedPixmap).value<QPixmap>().isNull();
+}
+
+void dressRoundedPixmap(BaseStyle&, QWidget& widget)
+{
+    handOut(widget, {{Properties::BorderBrush, ThemeNames::backgroundSubLevel1Brush, true}});
+    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::mediumSize()));
+}
+
+void setPillFont(BaseStyle&, QWidget& widget)
+{
+    QFont font = ThemeResources::getFont(ThemeNames::smallFont());
+    font.setBold(true);
+    widget.setFont(font);
+}
+
+void dressPeriodicTable(BaseStyle&, QWidget& widget)
+{
+    const auto hand = [&](const char* property, const QString& name) {
+        widget.setProperty(property, BaseStyle::getColor(name, true));
+    };
+    hand(Properties::PeriodicTableBackgroundColor, ThemeNames::statusConfigColor());
+    hand(Properties::PeriodicTableBorderColor, ThemeNames::statusConfigColor());
+    hand(Properties::PeriodicTableForegroundColor, ThemeNames::foregroundColor());
+    hand(Properties::PeriodicTableForegroundSubLevelColor, ThemeNames::foregroundSubLevel1Color());
+    hand(Properties::PeriodicTableForegroundUpLevelColor, ThemeNames::foregroundUpLevel1Color());
+
+    constexpr QString (*Series[])() = {
+        ThemeNames::series01Color, ThemeNames::series02Color, ThemeNames::series03Color,
+        ThemeNames::series04Color, ThemeNames::series05Color, ThemeNames::series06Color,
+        ThemeNames::series07Color, ThemeNames::series08Color, ThemeNames::series09Color,
+        ThemeNames::series10Color, ThemeNames::series11Color};
+    QList<QColor> colors;
+    for (const auto name : Series)
+        colors.append(ThemeResources::getColor(name()));
+    widget.setProperty(Properties::PeriodicTableColorList, QVariant::fromValue(colors));
+}
+
+void dressRangeSlider(BaseStyle&, QWidget& widget)
+{
+    widget.setProperty(Properties::Orientation, Qt::Horizontal);
+    widget.setProperty(Properties::InvertedAppearance, false);
+    widget.setProperty(Properties::InvertedControls, false);
+    widget.setProperty(Properties::Tracking, true);
+    widget.setProperty(Properties::TickPosition, 0);
+    handOut(widget, {{Properties::SunkenBrush, ThemeNames::sliderThumbNailPressedBrush, true},
+                     {Properties::HoverBrush, ThemeNames::sliderThumbNailHoverBrush, true},
+                     {Properties::DefaultBrush, ThemeNames::inputForegroundBrush, true},
+                     {Properties::DefaultBrushDisabled, ThemeNames::inputForegroundBrush, false},
+                     {Properties::BackgroundBrush, ThemeNames::inputBackgroundBrush, true},
+                     {Properties::BackgroundBrushDisabled, ThemeNames::inputBackgroundBrush, false},
+                     {Properties::BorderBrush, ThemeNames::inputBorderBrush, true},
+                     {Properties::BorderBrushDisabled, ThemeNames::inputBorderBrush, false},
+                     {Properties::RangeBrush, ThemeNames::mainBrush, true},
+                     {Properties::RangeBrushDisabled, ThemeNames::mainBrush, false}});
+    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::baseSize()));
+}
+
+void watch(BaseStyle& style, QWidget& widget)
+{
+    widget.installEventFilter(&style);
+}
+
+bool hasNoShadow(const QWidget* widget)
+{
+    return widget->windowFlags() & Qt::NoDropShadowWindowHint;
+}
+
+void castShadow(BaseStyle&, QWidget& widget)
+{
+    // Setting flags would hide and show the window again, and hang the application while a popup is
+    // open.
+    widget.overrideWindowFlags(widget.windowFlags() & ~Qt::NoDropShadowWindowHint);
+}
+
+void raiseToolBoxButton(BaseStyle&, QWidget& widget)
+{
+    widget.setMinimumHeight(ToolBoxButtonHeight);
+}
+
+void closeUpToolBox(BaseStyle&, QWidget& widget)
+{
+    if (QLayout* layout = widget.layout()) {
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+    }
+}
+
+struct PolishRule
+{
+    bool (*applies)(const QWidget*);
+    void (*action)(BaseStyle&, QWidget&);
+};
+
+// clang-format off
+constexpr PolishRule Rules[] = {
+    {is<QProgressBar>,                 readUpwards},
+    {hasThemedBase,                    setThemedBase},
+    {hasThemedItems,                   setItemDrawing},
+    {WidgetTraits::isLabel,            fadeDisabledLabel},
+    {tracksHover,                      trackHover},
+    {WidgetTraits::isTabWidgetOrBar,   setTabFont},
+    {WidgetTraits::isStatusBar,        raiseStatusBar},
+    {is<QScrollArea>,                  lightenViewport},
+    {hasOwnBackground,                 paintBackground},
+    {has<Properties::CardTitle>,       setCardTitleFonts},
+    {has<Properties::CardSubtitle>,    fadeSubtitle},
+    {isCard,                           dressCard},
+    {is<QComboBox>,                    replaceDelegate},
+    {isGroupContainer,                 roundGroupContainer},
+    {isButtonGroup,                    dressButtonGroup},
+    {showsRoundedPixmap,               dressRoundedPixmap},
+    {has<Properties::PillFont>,        setPillFont},
+    {WidgetTraits::isPeriodicTable,    dressPeriodicTable},
+    {WidgetTraits::isRangeSlider,      dressRangeSlider},
+    {is<QCommandLinkButton>,           watch},
+    {hasNoShadow,                      castShadow},
+    {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},
+    {WidgetTraits::isToolBox,          closeUpToolBox},
+    {WidgetTraits::isLineEditIconButton, watch},
+};
+// clang-format on
+
+} // namespace
+
+void BaseStyle::polish(QWidget* widget)
+{
+    if (!widget)
+        return;
+    QProxyStyle::polish(widget);
+    for (const PolishRule& rule : Rules) {
+        if (rule.applies(widget))
+            rule.action(*this, *widget);
+    }
+}
+
+void BaseStyle::unpolish(QWidget* widget)
+{
+    if (!widget)
+        return;
+    QProxyStyle::unpolish(widget);
+    if (tracksHover(widget))
+        widget->setAttribute(Qt::WA_Hover, false);
+}
+
+void BaseStyle::polish(QApplication* app)
+{
+    QProxyStyle::polish(app);
+}
+
+void BaseStyle::unpolish(QApplication* app)
+{
+    QProxyStyle::unpolish(app);
+}
+
+} // namespace BRELK

@@ -1,0 +1,39 @@
+#include "StyleContext.h"
+
+#include <QApplication>
+
+namespace BRELK {
+
+namespace {
+
+/// Heights of controls and rows are multiples of this.
+constexpr int Rhythm = 4;
+constexpr int ControlPadding = 5;
+
+} // namespace
+
+QFontMetrics MeasureContext::fontMetrics() const
+{
+    if (option)
+        return option->fontMetrics;
+    return widget ? widget->fontMetrics() : QApplication::fontMetrics();
+}
+
+int MeasureContext::dpiScaled(int pixels) const
+{
+    constexpr qreal ReferenceDpi = 96;
+    return qRound(pixels * fontMetrics().fontDpi() / ReferenceDpi);
+}
+
+int MeasureContext::rowHeight(int padding) const
+{
+    const int height = fontMetrics().height() + 2 * dpiScaled(padding);
+    return (height + Rhythm - 1) / Rhythm * Rhythm;
+}
+
+int MeasureContext::controlHeight() const
+{
+    return rowHeight(ControlPadding);
+}
+
+} // namespace BRELK

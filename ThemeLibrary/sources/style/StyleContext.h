@@ -1,0 +1,128 @@
+#pragma once
+
+#include "BaseStyle.h"
+#include "WidgetProperties.h"
+
+#include <QStyleOption>
+#include <QWidget>
+
+namespace BRELK {
+
+/// What a metric or a size may ask about. The option and the widget may be null.
+struct MeasureContext
+{
+    const BaseStyle& style;
+    const QStyleOption* option;
+    const QWidget* widget;
+
+    /// The metric as the application sees it: of the proxy.
+    int metric(QStyle::PixelMetric metric) const
+    {
+        return style.proxy()->pixelMetric(metric, option, widget);
+    }
+
+    /// The metrics of the font that the control is drawn in.
+    QFontMetrics fontMetrics() const;
+
+    /// `pixels` of a screen of 96 dots per inch in those that the font is measured in.
+    int dpiScaled(int pixels) const;
+
+    /// The height of a line of text with `padding` (of 96 dots per inch) above and below, on the
+    /// grid that keeps rows of different controls in step.
+    int rowHeight(int padding) const;
+
+    /// The height that the controls of one row share: buttons, line edits, combo boxes and spin
+    /// boxes.
+    int controlHeight() const;
+};
+
+/// What a rectangle or a painting may ask about. Passed by reference and never stored. The widget
+/// may be null.
+struct StyleContext
+{
+    const BaseStyle& style;
+    const QStyleOption& option;
+    const QWidget* widget;
+
+    bool has(QStyle::StateFlag state) const { return option.state & state; }
+
+    bool enabled() const { return has(QStyle::State_Enabled); }
+
+    bool rightToLeft() const { return option.direction == Qt::RightToLeft; }
+
+    /// The theme brush `name`, or its twin when the control is disabled.
+    QBrush brush(const QString& name) const { return BaseStyle::getBrush(name, enabled()); }
+
+    /// The theme color `name`, or its twin when the control is disabled.
+    QColor color(const QString& name) const { return BaseStyle::getColor(name, enabled()); }
+
+    const QBrush& borderBrush() const { return BaseStyle::getBorderBrush(enabled()); }
+
+    /// The widget's property; false when absent or without a widget.
+    bool flag(const char* property) const { return WidgetProperties::flag(widget, property); }
+
+    QVariant property(const char* property) const
+    {
+        return WidgetProperties::value(widget, property);
+    }
+
+    const QStyle& proxy() const { return *style.proxy(); }
+
+    int metric(QStyle::PixelMetric metric) const
+    {
+        return proxy().pixelMetric(metric, &option, widget);
+    }
+
+    QRect part(QStyle::SubElement element) const
+    {
+        return proxy().subElementRect(element, &option, widget);
+    }
+
+    QRect part(QStyle::ComplexControl control, const QStyleOptionComplex& complex,
+               QStyle::SubControl part) const
+    {
+        return proxy().subControlRect(control, &complex, part, widget);
+    }
+
+    /// `rect` mirrored in a right-to-left layout.
+    QRect visual(const QRect& rect) const
+    {
+        return QStyle::visualRect(option.direction, option.rect, rect);
+    }
+
+    MeasureContext measure() const { return {style, &option, widget}; }
+};
+
+/// What a painting function needs. Whatever it draws by an element, it asks of the proxy.
+struct PaintContext : StyleContext
+{
+    QPainter& painter;
+
+    /// Leaves `element` to the base style.
+    void drawByBase(QStyle::PrimitiveElement element) const
+    {
+        style.QProxyStyle::drawPrimitive(element, &option, &painter, widget);
+    }
+
+    void drawByBase(QStyle::ControlElement element) const
+    {
+        style.QProxyStyle::drawControl(element, &option, &painter, widget);
+    }
+
+    void drawByBase(QStyle::ComplexControl control, const QStyleOptionComplex& complex) const
+    {
+        style.QProxyStyle::drawComplexControl(control, &complex, &painter, widget);
+    }
+
+    void draw(QStyle::PrimitiveElement element, const QStyleOption& part) const
+    {
+        proxy().drawPrimitive(element, &part, &painter, widget);
+    }
+
+    void draw(QStyle::ControlElement element, const QStyleOption& part) const
+    {
+        proxy().drawControl(element, &part, &painter, widget);
+    }
+};
+
+} // namespace BRELK

@@ -1,0 +1,32 @@
+#include "BaseStyle.h"
+
+#include <QFrame>
+
+namespace BRELK {
+
+int BaseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                         QStyleHintReturn* returnData) const
+{
+    switch (hint) {
+    case SH_ComboBox_Popup: return false; // a list below the box, painted by its delegate
+    case SH_ComboBox_PopupFrameStyle: return QFrame::StyledPanel | QFrame::Plain;
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return false; // Qt's own icons do not follow the theme
+    case SH_EtchDisabledText:
+        return false; // a light copy below the text is unreadable in dark themes
+    case SH_ItemView_ArrowKeysNavigateIntoChildren: return true;
+    case SH_ItemView_ShowDecorationSelected: return true;
+    case SH_MessageBox_TextInteractionFlags:
+        return Qt::TextSelectableByMouse | Qt::LinksAccessibleByMouse;
+    case SH_RubberBand_Mask: return false; // the band is translucent
+    case SH_ScrollBar_Transient: return false;
+    case SH_Table_GridLineColor:
+        if (const QBrush& border = getBorderBrush(true); border.style() != Qt::NoBrush)
+            return int(border.color().rgb());
+        break;
+    default: break;
+    }
+    return QProxyStyle::styleHint(hint, option, widget, returnData);
+}
+
+} // namespace BRELK
