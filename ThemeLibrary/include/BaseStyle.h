@@ -89,6 +89,19 @@ public:
                   const QWidget* widget = nullptr,
                   QStyleHintReturn* returnData = nullptr) const override;
 
+    /// The theme's icons for Qt's own; null where the icon theme lacks one. `SP_CustomBase` gives
+    /// the icon that the widget names in its property "highlightedIcon", in the theme's main color.
+    QIcon standardIcon(StandardPixmap pixmap, const QStyleOption* option = nullptr,
+                       const QWidget* widget = nullptr) const override;
+    QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption* option = nullptr,
+                           const QWidget* widget = nullptr) const override;
+    /// A label's pixmap in the disabled foreground; every other pixmap as it is.
+    QPixmap generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                                const QStyleOption* option) const override;
+    /// The image `xpm` in the text color of `palette`, and in its highlighted text color when
+    /// selected.
+    QIcon generateToolBarExpandButtonIcon(const char* const* xpm, const QPalette& palette) const;
+
     /// Whether Alt was pressed in the window of `widget` since it was opened.
     bool hasSeenAlt(const QWidget* widget) const;
 
@@ -110,6 +123,27 @@ public:
     /// apart, at `pos` across.
     void drawGrips(QPainter& painter, Qt::Orientation orientation, int from, int to, int pos,
                    int step, int size, int darkSize) const;
+
+    /// The tick of a check box, in `brush`.
+    void drawCheckMark(QPainter* painter, const QRect& rect, QBrush brush) const;
+    /// The dot of a radio button, in `brush`.
+    void drawRadioMark(QPainter* painter, const QRect& rect, QBrush brush) const;
+    /// One button of a button group, in the painter's pen and brush: a segment, or a step of a
+    /// workflow with the dots of its links. Leaves the pen and brush it used.
+    void drawButtonGroup(const QRectF& rect, QPainter* painter, const QStyleOption* option,
+                         int radius, ButtonBrushes brushes, const QWidget* widget) const;
+    /// One button of a title bar. Only the active sub-control is drawn enabled.
+    void drawTitleBarButton(QPainter* painter, const QStyleOptionTitleBar* option, SubControl part,
+                            StandardPixmap icon, const QWidget* widget) const;
+    /// The arrow that a tool button shows in place of an icon, by the elements of `style`; nothing
+    /// for `Qt::NoArrow`.
+    void drawToolButtonArrow(const QStyle* style, const QStyleOptionToolButton* option,
+                             const QRect& rect, QPainter* painter, const QWidget* widget) const;
+    /// `palette` with the light role lightened and the dark role darkened, for raised and sunken
+    /// frames.
+    QPalette generateShadeBorderPalette(const QPalette& palette) const;
+    /// `palette` with the roles of a two-line frame.
+    QPalette generateWinBorderPalette(const QPalette& palette) const;
 
     /// The theme brush `name`, or with `enabled` false its twin `name` + "Disabled"; `Qt::NoBrush`
     /// when the theme lacks it.

@@ -1,5 +1,8 @@
 #include "Families.h"
+#include "PainterSaver.h"
 #include "StyleContext.h"
+
+#include <QPainterPath>
 
 // Check boxes, radio buttons and switches.
 
@@ -92,3 +95,39 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton&)
 }
 
 } // namespace BRELK::CheckBoxes
+
+namespace BRELK {
+
+void BaseStyle::drawCheckMark(QPainter* painter, const QRect& rect, QBrush brush) const
+{
+    constexpr qreal PenWidth = 1.8;
+    constexpr int Margin = 3;
+    constexpr qreal Inset = 4;
+    if (!painter)
+        return;
+    const PainterSaver saver(*painter);
+    QPainterPath tick;
+    tick.moveTo(Inset, rect.height() / 2.0);
+    tick.lineTo(rect.width() / 2.0, rect.height() - Margin);
+    tick.lineTo(rect.width() - Margin - 0.5, Inset);
+    tick.translate(rect.topLeft());
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(brush, PenWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawPath(tick);
+}
+
+void BaseStyle::drawRadioMark(QPainter* painter, const QRect& rect, QBrush brush) const
+{
+    constexpr qreal SizeInRect = 0.5;
+    if (!painter)
+        return;
+    const PainterSaver saver(*painter);
+    const qreal radius = qMin(rect.width(), rect.height()) * SizeInRect / 2;
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(brush);
+    painter->drawEllipse(QRectF(rect).center(), radius, radius);
+}
+
+} // namespace BRELK

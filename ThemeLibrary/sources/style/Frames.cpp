@@ -45,3 +45,33 @@ void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame&)
 }
 
 } // namespace BRELK::Frames
+
+namespace BRELK {
+
+namespace {
+
+constexpr int BorderShade = 115; ///< percent
+
+} // namespace
+
+QPalette BaseStyle::generateShadeBorderPalette(const QPalette& palette) const
+{
+    QPalette shaded = palette;
+    const QPalette::ColorGroup group = palette.currentColorGroup();
+    shaded.setBrush(group, QPalette::Light, palette.light().color().lighter(BorderShade));
+    shaded.setBrush(group, QPalette::Dark, palette.dark().color().darker(BorderShade));
+    return shaded;
+}
+
+QPalette BaseStyle::generateWinBorderPalette(const QPalette& palette) const
+{
+    QPalette shaded = palette;
+    const QPalette::ColorGroup group = palette.currentColorGroup();
+    shaded.setBrush(group, QPalette::Light, palette.light().color().lighter(BorderShade));
+    shaded.setBrush(group, QPalette::Midlight, palette.midlight().color().darker(BorderShade));
+    // Deliberate: the dark role is lightened.
+    shaded.setBrush(group, QPalette::Dark, palette.dark().color().lighter(BorderShade));
+    return shaded;
+}
+
+} // namespace BRELK

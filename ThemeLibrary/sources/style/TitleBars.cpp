@@ -1,5 +1,6 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "Shapes.h"
+#include "ThemeColorHelper.h"
 
 // The title bars of sub-windows and docks, and the frames of windows.
 
@@ -49,3 +50,34 @@ void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titl
 }
 
 } // namespace BRELK::TitleBars
+
+namespace BRELK {
+
+void BaseStyle::drawTitleBarButton(QPainter* painter, const QStyleOptionTitleBar* option,
+                                   SubControl part, StandardPixmap icon,
+                                   const QWidget* widget) const
+{
+    if (!painter || !option)
+        return;
+    const QRect rect = proxy()->subControlRect(CC_TitleBar, option, part, widget);
+    if (!rect.isValid())
+        return;
+    QStyleOptionButton button;
+    button.rect = rect;
+    button.palette = option->palette;
+    button.state = State_None;
+    // Deliberate: a button that is not the active one is drawn without State_Enabled.
+    if (option->activeSubControls & part)
+        button.state =
+            option->state
+            & (State_MouseOver | State_Sunken | State_HasFocus | State_Active | State_Enabled);
+    proxy()->drawPrimitive(PE_PanelButtonBevel, &button, painter, widget);
+
+    const QIcon colored = ThemeColorHelper::getModifiedIconWithForegroundBrush(
+        standardIcon(icon, nullptr, widget), buttonBrushes(&button, widget).foregroundBrush);
+    proxy()->drawItemPixmap(
+        painter, rect, Qt::AlignCenter,
+        Shapes::iconPixmap(*painter, colored, {TitleBars::IconSize, TitleBars::IconSize}));
+}
+
+} // namespace BRELK

@@ -1,3 +1,4 @@
+#include "ButtonContent.h"
 #include "Families.h"
 #include "StyleContext.h"
 
@@ -33,3 +34,27 @@ void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& 
 }
 
 } // namespace BRELK::ToolButtons
+
+namespace BRELK {
+
+void BaseStyle::drawToolButtonArrow(const QStyle* style, const QStyleOptionToolButton* option,
+                                    const QRect& rect, QPainter* painter,
+                                    const QWidget* widget) const
+{
+    if (!style || !option || !painter)
+        return;
+    PrimitiveElement element;
+    switch (option->arrowType) {
+    case Qt::UpArrow: element = PE_IndicatorArrowUp; break;
+    case Qt::DownArrow: element = PE_IndicatorArrowDown; break;
+    case Qt::LeftArrow: element = PE_IndicatorArrowLeft; break;
+    case Qt::RightArrow: element = PE_IndicatorArrowRight; break;
+    default: return;
+    }
+    QStyleOption arrow = *option;
+    arrow.rect = rect;
+    ButtonContent::commonCallButtonText(arrow, widget);
+    style->drawPrimitive(element, &arrow, painter, widget);
+}
+
+} // namespace BRELK

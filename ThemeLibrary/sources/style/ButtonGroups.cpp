@@ -1,0 +1,77 @@
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+#include "ThemeResources.h"
+
+// The segments of button groups.
+
+namespace BRELK {
+
+namespace {
+
+Helpers::StraightCornerFlags segmentCorners(int index, int count, bool horizontal)
+{
+    if (count == 1)
+        return Helpers::None;
+    if (index == 0)
+        return horizontal ? Helpers::RightCorners : Helpers::BottomCorners;
+    if (index == count - 1)
+        return horizontal ? Helpers::LeftCorners : Helpers::TopCorners;
+    return Helpers::AllCorners;
+}
+
+/// A pill with the dots of the links to its neighbours at its ends.
+void drawWorkflowStep(const QRectF& rect, QPainter& painter, int diameter, const QBrush& dotBrush,
+                      int index, int count, bool horizontal)
+{
+    const qreal inset = diameter / 2.0;
+    painter.setBrush(Qt::NoBrush);
+    Helpers::drawRoundedRectShape(rect.adjusted(inset, inset, -inset, -inset),
+                                  int((rect.height() - diameter) / 2), Helpers::None, &painter);
+    painter.setBrush(dotBrush);
+    painter.setPen(ThemeResources::getBrush(ThemeNames::listBackgroundBrush()).color());
+    if (index < 0)
+        return;
+    QRectF first(0, 0, diameter, diameter);
+    first.moveCenter(rect.center());
+    QRectF second = first;
+    if (horizontal) {
+        first.moveLeft(rect.left());
+        second.moveLeft(rect.right() - diameter);
+    } else {
+        first.moveTop(rect.top());
+        second.moveTop(rect.bottom() - diameter);
+    }
+    if (index != 0)
+        painter.drawEllipse(first);
+    if (index == 0 || index != count - 1)
+        painter.drawEllipse(second);
+}
+
+} // namespace
+
+void BaseStyle::drawButtonGroup(const QRectF& rect, QPainter* painter, const QStyleOption* option,
+                                int radius, ButtonBrushes brushes, const QWidget* widget) const
+{
+    if (!painter || !option)
+        return;
+    const QObject* group = widget ? widget->parent() : nullptr;
+    const QVariant visibleIndex =
+        WidgetProperties::value(widget, WidgetProperties::ButtonVisibleIndex);
+    const int index = visibleIndex.toInt();
+    const int count =
+        WidgetProperties::value(group, WidgetProperties::ButtonGroupVisibleCount).toInt();
+    const bool horizontal =
+        WidgetProperties::value(group, WidgetProperties::Orientation).toInt() == Qt::Horizontal;
+
+    // Deliberate: the painter keeps the pen and brush that are set here.
+    if (WidgetProperties::flag(group, WidgetProperties::ButtonGroupWorkflow)) {
+        const int diameter = proxy()->pixelMetric(PM_RadioButtonLabelSpacing, option, widget);
+        drawWorkflowStep(rect, *painter, diameter, brushes.borderBrush, index, count, horizontal);
+    } else if (index >= 0) {
+        Helpers::drawRoundedRectShape(rect, radius, segmentCorners(index, count, horizontal),
+                                      painter);
+    }
+}
+
+} // namespace BRELK

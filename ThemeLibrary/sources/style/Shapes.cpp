@@ -1,0 +1,85 @@
+#include "Shapes.h"
+
+#include "PainterSaver.h"
+#include "ThemeColorHelper.h"
+#include "ThemeResources.h"
+
+#include <QGuiApplication>
+
+namespace BRELK::Shapes {
+
+QRectF onPixels(const QRect& rect)
+{
+    return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
+}
+
+QPen borderPen(const QBrush& border)
+{
+    if (border.style() == Qt::NoBrush)
+        return QPen(Qt::NoPen);
+    return QPen(border, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+}
+
+int cornerRadius(const QString& name)
+{
+    return int(ThemeResources::getCornerRadius(name));
+}
+
+void drawBox(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill,
+             const QBrush& border, Helpers::StraightCornerFlags straightCorners)
+{
+    const bool hasBorder = border.style() != Qt::NoBrush;
+    if (!hasBorder && fill.style() == Qt::NoBrush)
+        return;
+    const PainterSaver saver(context.painter);
+    context.painter.setPen(borderPen(border));
+    context.painter.setBrush(fill);
+    Helpers::drawRoundedRectShape(hasBorder ? onPixels(rect) : QRectF(rect), radius,
+                                  straightCorners, &context.painter);
+}
+
+void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
+              const QBrush& brush)
+{
+    // A filled rectangle covers the same pixels at every scale; a line need not.
+    context.painter.fillRect(QRect(from, to).normalized(), brush);
+}
+
+QPixmap iconPixmap(const QPainter& painter, const QIcon& icon, const QSize& size, QIcon::Mode mode,
+                   QIcon::State state)
+{
+    // QIcon itself looks at the ratio only when the application asked for it.
+    const qreal ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1;
+    const qreal known =
+        QGuiApplication::testAttribute(Qt::AA_UseHighDpiPixmaps) ? qGuiApp->devicePixelRatio() : 1;
+    QPixmap pixmap = icon.pixmap(size * (ratio / known), mode, state);
+    if (!qFuzzyCompare(pixmap.devicePixelRatioF(), ratio))
+        pixmap.setDevicePixelRatio(ratio);
+    return pixmap;
+}
+
+void drawIcon(const PaintContext& context, const QIcon& icon, const QBrush& brush,
+              const QRect& rect, int size)
+{
+    if (icon.isNull() || rect.isEmpty())
+        return;
+    const QIcon colored = ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush);
+    context.proxy().drawItemPixmap(&context.painter, rect, Qt::AlignCenter,
+                                   iconPixmap(context.painter, colored, {size, size}));
+}
+
+void drawText(const PaintContext& context, const QRect& rect, int flags, const QString& text,
+              const QBrush& brush, Qt::TextElideMode elide)
+{
+    if (text.isEmpty() || rect.isEmpty())
+        return;
+    const QString shown =
+        context.painter.fontMetrics().elidedText(text, elide, rect.width(), flags);
+    const QPen pen = context.painter.pen();
+    context.painter.setPen(QPen(brush, 1));
+    context.proxy().drawItemText(&context.painter, rect, flags, context.option.palette,
+                                 context.enabled(), shown, QPalette::NoRole);
+    context.painter.setPen(pen);
+}
+
+} // namespace BRELK::Shapes

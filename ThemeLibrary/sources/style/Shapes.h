@@ -1,0 +1,41 @@
+#pragma once
+
+#include "Helpers.h"
+#include "StyleContext.h"
+
+#include <QPen>
+
+/// How borders, boxes, lines, icons and texts are drawn: on whole pixels, and the same way by every
+/// family.
+namespace BRELK::Shapes {
+
+/// `rect` shrunk by half a pixel, so that a border of one pixel fills whole pixels inside `rect`.
+QRectF onPixels(const QRect& rect);
+
+/// A pen of one pixel with square corners; none for a brush that paints nothing.
+QPen borderPen(const QBrush& border);
+
+/// The theme's radius of the size `name` in whole pixels.
+int cornerRadius(const QString& name);
+
+/// A box filled with `fill` inside a border of one pixel; either may be `Qt::NoBrush`.
+void drawBox(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill,
+             const QBrush& border, Helpers::StraightCornerFlags straightCorners = Helpers::None);
+
+/// A horizontal or vertical line of one pixel, both ends included.
+void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
+              const QBrush& brush);
+
+/// `icon` at `size` logical pixels, as sharp as the painter's device can show it.
+QPixmap iconPixmap(const QPainter& painter, const QIcon& icon, const QSize& size,
+                   QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off);
+
+/// `icon` recolored with `brush`, drawn by the proxy in the middle of `rect`.
+void drawIcon(const PaintContext& context, const QIcon& icon, const QBrush& brush,
+              const QRect& rect, int size);
+
+/// `text` in `brush`, drawn by the proxy; what does not fit is elided.
+void drawText(const PaintContext& context, const QRect& rect, int flags, const QString& text,
+              const QBrush& brush, Qt::TextElideMode elide = Qt::ElideRight);
+
+} // namespace BRELK::Shapes

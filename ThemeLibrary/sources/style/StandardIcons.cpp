@@ -1,0 +1,167 @@
+#include "BaseStyle.h"
+#include "Helpers.h"
+#include "ThemeColorHelper.h"
+#include "ThemeNames.h"
+#include "ThemeResources.h"
+#include "WidgetProperties.h"
+
+#include <QIcon>
+#include <QLabel>
+#include <QStyleOption>
+
+// The icons that Qt asks the style for, and how a pixmap looks when disabled.
+
+namespace BRELK {
+
+namespace {
+
+constexpr int TitleBarIconSize = 16;
+
+// clang-format off
+const char* const toolbarHorizontal[] = {
+    "8 5 3 1",
+    "            c None",
+    ".            c #000000",
+    "+            c none",
+    "..++..++",
+    "+..++..+",
+    "++..++..",
+    "+..++..+",
+    "..++..++"};
+
+const char* const toolbarVertical[] = {
+    "5 8 3 1",
+    "            c None",
+    ".            c #000000",
+    "+            c none",
+    ".+++.",
+    "..+..",
+    "+...+",
+    "++.++",
+    ".+++.",
+    "..+..",
+    "+...+",
+    "++.++"};
+
+QString titleBarIconName(QStyle::StandardPixmap pixmap)
+{
+    switch (pixmap) {
+    case QStyle::SP_TitleBarCloseButton:
+    case QStyle::SP_DockWidgetCloseButton:
+    case QStyle::SP_DialogCloseButton:     return QStringLiteral("action.close");
+    // Deliberate: restoring shows the icon of maximizing.
+    case QStyle::SP_TitleBarMaxButton:
+    case QStyle::SP_TitleBarNormalButton:  return QStringLiteral("action.app.maximize");
+    case QStyle::SP_TitleBarMinButton:     return QStringLiteral("action.app.minimize");
+    default:                               return {};
+    }
+}
+
+QString iconName(QStyle::StandardPixmap pixmap)
+{
+    switch (pixmap) {
+    case QStyle::SP_LineEditClearButton:   return QStringLiteral("action.close");
+    case QStyle::SP_MessageBoxInformation: return QStringLiteral("status.info.circular.colored");
+    case QStyle::SP_MessageBoxWarning:     return QStringLiteral("status.warning.circular.colored");
+    case QStyle::SP_MessageBoxCritical:    return QStringLiteral("status.danger.circular.colored");
+    case QStyle::SP_MessageBoxQuestion:    return QStringLiteral("status.help.circular.colored");
+    case QStyle::SP_TrashIcon:             return QStringLiteral("action.delete");
+    case QStyle::SP_ArrowUp:               return QStringLiteral("arrow.up.small");
+    case QStyle::SP_ArrowDown:             return QStringLiteral("arrow.down.small");
+    case QStyle::SP_ArrowLeft:
+    case QStyle::SP_ArrowBack:             return QStringLiteral("arrow.left.small");
+    case QStyle::SP_ArrowRight:
+    case QStyle::SP_ArrowForward:
+    case QStyle::SP_CommandLink:           return QStringLiteral("arrow.right.small");
+    default:                               return titleBarIconName(pixmap);
+    }
+}
+
+// clang-format on
+
+QPixmap tinted(QImage image, const QColor& color)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(line[x]) != 0)
+                line[x] = qRgba(color.red(), color.green(), color.blue(), qAlpha(line[x]));
+        }
+    }
+    return QPixmap::fromImage(image);
+}
+
+/// The icon that a widget names in its property "highlightedIcon", in the theme's main color.
+QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
+{
+    static const QStringList sSpecificIcons{QStringLiteral("status.checked.circular.colored")};
+    const QString name =
+        WidgetProperties::value(widget, WidgetProperties::HighlightedIcon).toString();
+    if (name.isEmpty())
+        return {};
+    const bool enabled = !option || option->state & QStyle::State_Enabled;
+    const QBrush mainBrush = BaseStyle::getBrush(ThemeNames::mainBrush(), enabled);
+    const QIcon icon = QIcon::fromTheme(name);
+    if (!sSpecificIcons.contains(name))
+        return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, mainBrush);
+    const QColor reference(0xF6, 0xB4, 0x36);
+    return Helpers::getModifiedIconWithForegroundBrush(icon, reference, mainBrush, false);
+}
+
+} // namespace
+
+QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
+                              const QWidget* widget) const
+{
+    static QIcon toolbarHorizontalIcon;
+    static QIcon toolbarVerticalIcon;
+    const QString name = iconName(pixmap);
+    if (!name.isEmpty())
+        return QIcon::fromTheme(name);
+    switch (pixmap) {
+    case SP_ToolBarHorizontalExtensionButton:
+        if (toolbarHorizontalIcon.isNull())
+            toolbarHorizontalIcon = generateToolBarExpandButtonIcon(toolbarHorizontal, m_palette);
+        return toolbarHorizontalIcon;
+    case SP_ToolBarVerticalExtensionButton:
+        if (toolbarVerticalIcon.isNull())
+            toolbarVerticalIcon = generateToolBarExpandButtonIcon(toolbarVertical, m_palette);
+        return toolbarVerticalIcon;
+    case SP_CustomBase: return highlightedIcon(option, widget);
+    default: return QProxyStyle::standardIcon(pixmap, option, widget);
+    }
+}
+
+QPixmap BaseStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* option,
+                                  const QWidget* widget) const
+{
+    const QString name = titleBarIconName(pixmap);
+    if (!name.isEmpty())
+        return QIcon::fromTheme(name).pixmap(TitleBarIconSize, QIcon::Normal, QIcon::Off);
+    return QProxyStyle::standardPixmap(pixmap, option, widget);
+}
+
+QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
+                                       const QStyleOption* option) const
+{
+    // Other widgets than labels get their icons ready for the state before they are painted.
+    if (!option || mode != QIcon::Disabled || !qobject_cast<const QLabel*>(option->styleObject))
+        return pixmap;
+    const QBrush brush = getBrush(ThemeNames::foregroundBrush(), false);
+    const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon(pixmap), brush);
+    const qreal ratio = pixmap.devicePixelRatioF();
+    return icon.pixmap(int(pixmap.width() / ratio), int(pixmap.height() / ratio), QIcon::Normal,
+                       QIcon::Off);
+}
+
+QIcon BaseStyle::generateToolBarExpandButtonIcon(const char* const* xpm,
+                                                 const QPalette& palette) const
+{
+    const QImage image = QImage(xpm).convertToFormat(QImage::Format_ARGB32);
+    QIcon icon;
+    icon.addPixmap(tinted(image, palette.color(QPalette::Text)), QIcon::Normal);
+    icon.addPixmap(tinted(image, palette.color(QPalette::HighlightedText)), QIcon::Selected);
+    return icon;
+}
+
+} // namespace BRELK
