@@ -1,18 +1,22 @@
-// Draws contact sheets of icons and cursors with Qt's own SVG renderer, the one that applications
-// see.
+// Draws contact sheets of the icons and cursors through Qt's image plugins, as applications see
+// them.
 //
 //   varn-icon-sheets RESOURCES OUTPUT
 //
 // One picture for each icon group: every icon at 16, 24 and 48 pixels on the grounds of the Dark
-// and Light themes, the reference color shown as the text color there; and one for the cursors, on
-// black, grey and white.
+// and Light themes, the reference color shown as the text color there; and one of the cursors, in
+// both their sizes on black, gray and white.
 
+#include <QBuffer>
 #include <QDir>
 #include <QGuiApplication>
+#include <QImageReader>
 #include <QMap>
 #include <QPainter>
-#include <QSvgRenderer>
+#include <QSet>
 #include <QTextStream>
+
+#include <algorithm>
 
 namespace {
 
@@ -24,78 +28,105 @@ struct Ground
 
 const Ground grounds[] = {{QColor(0x1E, 0x23, 0x2A), "#E5EEF4"},
                           {QColor(0xF7, 0xF9, 0xFB), "#1E232A"}};
+const QColor cursorGrounds[] = {QColor(Qt::black), QColor(0x80, 0x80, 0x80), QColor(Qt::white)};
+const QColor pageColor(0xD5, 0xDB, 0xE1);
 constexpr int iconSizes[] = {16, 24, 48};
 constexpr int gap = 6;
-constexpr int panelWidth = 16 + 24 + 48 + 4 * gap;
-constexpr int panelHeight = 48 + 2 * gap;
+constexpr int iconPanelWidth = 16 + 24 + 48 + 4 * gap;
+constexpr int cursorPanelWidth = 32 + 64 + 3 * gap;
 constexpr int captionHeight = 16;
 constexpr int columns = 4;
-const QColor pageColor(0xD5, 0xDB, 0xE1);
 
-void drawIcon(QPainter& painter, const QByteArray& svg, const Ground& ground, const QPoint& corner)
+// A kind of sheet: the size of a cell without its caption, and how to fill it from a file.
+struct Sheet
 {
-    painter.fillRect(QRect(corner, QSize(panelWidth, panelHeight)), ground.background);
-    QSvgRenderer renderer(QByteArray(svg).replace("#E5EEF4", ground.foreground));
-    int x = corner.x() + gap;
-    for (const int size : iconSizes) {
-        const QRect place(x, corner.y() + (panelHeight - size) / 2, size, size);
-        renderer.render(&painter, place);
-        x += size + gap;
-    }
-}
+    QSize cell;
+    void (*draw)(QPainter& painter, const QString& path, QPoint corner);
+};
 
-void drawCursor(QPainter& painter, const QPixmap& cursor, const QPoint& corner)
-{
-    int x = corner.x();
-    for (const QColor& ground : {QColor(Qt::black), QColor(Qt::gray), QColor(Qt::white)}) {
-        const QRect panel(x, corner.y(), 2 * panelWidth / 3, panelHeight);
-        painter.fillRect(panel, ground);
-        painter.drawPixmap(panel.center() - cursor.rect().center(), cursor);
-        x += panel.width();
-    }
-}
-
-using DrawCell = void (*)(QPainter&, const QString& path, const QPoint& corner);
-
-void drawIconCell(QPainter& painter, const QString& path, const QPoint& corner)
+QByteArray contentsOf(const QString& path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        qFatal("cannot read %s", qPrintable(path));
-    const QByteArray svg = file.readAll();
-    drawIcon(painter, svg, grounds[0], corner);
-    drawIcon(painter, svg, grounds[1], corner + QPoint(panelWidth, 0));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-void drawCursorCell(QPainter& painter, const QString& path, const QPoint& corner)
+QImage rendered(QByteArray svg, int size)
 {
-    drawCursor(painter, QPixmap(path), corner);
+    QBuffer buffer(&svg);
+    QImageReader reader(&buffer, "svg");
+    reader.setScaledSize({size, size});
+    return reader.read();
 }
 
-// Few colors are in use, so a palette keeps most pixels as they are and makes the file a third of
-// the size.
-bool saveSheet(const QString& path, const QStringList& files, DrawCell drawCell)
+void drawIcon(QPainter& painter, const QString& path, QPoint corner)
 {
-    const QSize cell(2 * panelWidth + gap, panelHeight + captionHeight + gap);
+    const QByteArray svg = contentsOf(path);
+    for (const Ground& ground : grounds) {
+        const QRect panel(corner, QSize(iconPanelWidth, 48 + 2 * gap));
+        painter.fillRect(panel, ground.background);
+        int x = panel.x() + gap;
+        for (const int size : iconSizes) {
+            const QByteArray text = QByteArray(svg).replace("#E5EEF4", ground.foreground);
+            painter.drawImage(x, panel.y() + (panel.height() - size) / 2, rendered(text, size));
+            x += size + gap;
+        }
+        corner.rx() += panel.width();
+    }
+}
+
+void drawCursor(QPainter& painter, const QString& path, QPoint corner)
+{
+    for (const QColor& ground : cursorGrounds) {
+        const QRect panel(corner, QSize(cursorPanelWidth, 64 + 2 * gap));
+        painter.fillRect(panel, ground);
+        QImageReader reader(path);
+        int x = panel.x() + gap;
+        for (QImage image = reader.read(); !image.isNull(); image = reader.read()) {
+            painter.drawImage(x, panel.y() + (panel.height() - image.height()) / 2, image);
+            x += image.width() + gap;
+            if (!reader.jumpToNextImage())
+                break;
+        }
+        corner.rx() += panel.width();
+    }
+}
+
+// The picture with the palette of its own most frequent colors, a third of the size as a file.
+QImage withPalette(const QImage& image)
+{
+    QHash<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            ++counts[line[x]];
+    }
+    QVector<QRgb> colors = counts.keys().toVector();
+    std::sort(colors.begin(), colors.end(), [&counts](QRgb left, QRgb right) {
+        return counts[left] != counts[right] ? counts[left] > counts[right] : left < right;
+    });
+    return image.convertToFormat(QImage::Format_Indexed8, colors.mid(0, 256));
+}
+
+bool saveSheet(const QString& path, const QStringList& files, const Sheet& sheet)
+{
+    const QSize cell = sheet.cell + QSize(gap, captionHeight + gap);
     const int rows = (files.size() + columns - 1) / columns;
     const int used = qMin(columns, files.size());
-    QImage sheet(used * cell.width() + gap, rows * cell.height() + gap, QImage::Format_RGB32);
-    sheet.fill(pageColor);
-    QPainter painter(&sheet);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::black);
+    QImage page(used * cell.width() + gap, rows * cell.height() + gap, QImage::Format_RGB32);
+    page.fill(pageColor);
+    QPainter painter(&page);
     QFont font = painter.font();
     font.setPixelSize(11);
     painter.setFont(font);
     for (int i = 0; i < files.size(); ++i) {
         const QPoint corner(gap + i % columns * cell.width(), gap + i / columns * cell.height());
-        drawCell(painter, files.at(i), corner);
-        const QRect caption(corner + QPoint(0, panelHeight), QSize(2 * panelWidth, captionHeight));
-        painter.drawText(caption, Qt::AlignLeft | Qt::AlignVCenter,
-                         QFileInfo(files.at(i)).completeBaseName());
+        sheet.draw(painter, files.at(i), corner);
+        const QRect caption(corner.x(), corner.y() + sheet.cell.height(), cell.width(),
+                            captionHeight);
+        painter.drawText(caption, Qt::AlignVCenter, QFileInfo(files.at(i)).completeBaseName());
     }
     painter.end();
-    return sheet.convertToFormat(QImage::Format_Indexed8, Qt::ThresholdDither).save(path, "PNG", 0);
+    return withPalette(page).save(path, "PNG", 0);
 }
 
 QStringList filesIn(const QString& directory)
@@ -105,6 +136,25 @@ QStringList filesIn(const QString& directory)
     for (const QFileInfo& entry : entries)
         files.append(entry.filePath());
     return files;
+}
+
+bool saveSheets(const QDir& resources, const QDir& output)
+{
+    const Sheet iconSheet{{2 * iconPanelWidth, 48 + 2 * gap}, drawIcon};
+    const Sheet cursorSheet{{3 * cursorPanelWidth, 64 + 2 * gap}, drawCursor};
+    QMap<QString, QStringList> groups;
+    const QStringList icons = filesIn(resources.filePath(QStringLiteral("Icons")));
+    for (const QString& file : icons)
+        groups[QFileInfo(file).fileName().section(QLatin1Char('.'), 0, 0)].append(file);
+
+    bool saved = output.mkpath(QStringLiteral("."))
+                 && saveSheet(output.filePath(QStringLiteral("cursors.png")),
+                              filesIn(resources.filePath(QStringLiteral("Cursors"))), cursorSheet);
+    for (auto group = groups.cbegin(); group != groups.cend(); ++group)
+        saved = saved
+                && saveSheet(output.filePath(group.key() + QLatin1String(".png")), group.value(),
+                             iconSheet);
+    return saved;
 }
 
 } // namespace
@@ -118,20 +168,5 @@ int main(int argc, char* argv[])
         QTextStream(stderr) << "usage: varn-icon-sheets RESOURCES OUTPUT\n";
         return 2;
     }
-    const QDir resources(arguments.at(1));
-    const QDir output(arguments.at(2));
-    QMap<QString, QStringList> groups;
-    const QStringList icons = filesIn(resources.filePath(QStringLiteral("Icons")));
-    for (const QString& file : icons)
-        groups[QFileInfo(file).fileName().section(QLatin1Char('.'), 0, 0)].append(file);
-
-    bool saved =
-        output.mkpath(QStringLiteral("."))
-        && saveSheet(output.filePath(QStringLiteral("cursors.png")),
-                     filesIn(resources.filePath(QStringLiteral("Cursors"))), drawCursorCell);
-    for (auto group = groups.cbegin(); group != groups.cend(); ++group)
-        saved = saved
-                && saveSheet(output.filePath(group.key() + QLatin1String(".png")), group.value(),
-                             drawIconCell);
-    return saved ? 0 : 1;
+    return saveSheets(QDir(arguments.at(1)), QDir(arguments.at(2))) ? 0 : 1;
 }

@@ -1,0 +1,187 @@
+"""Tests of the icon generator and of the files that it wrote."""
+
+import math
+import re
+import struct
+import sys
+import unittest
+import xml.etree.ElementTree as ElementTree
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tools" / "icons"))
+
+# pylint: disable=wrong-import-position
+import cutting
+import dashing
+import drawing
+import generate
+import pathdata
+from compose import PALETTE, REFERENCE, compose
+from geometry import Similarity, ellipse, polyline, rectangle
+
+MANIFEST = {row["name"]: row for row in drawing.table(ROOT / "tools/icons/manifest.tsv")}
+CURSORS = {row["name"]: row for row in drawing.table(ROOT / "tools/icons/cursors.tsv")}
+GLYPHS = drawing.read_glyphs()
+GENERATED = generate.files()
+ICONS = {name[len("Icons/"):-len(".svg")]: data.decode() for name, data in GENERATED.items() if name.endswith(".svg")}
+WITHOUT_REFERENCE = ("mimetype", "swatch")
+
+SHAPES = {"path", "rect", "circle", "ellipse", "line", "polyline", "polygon"}
+ELEMENTS = SHAPES | {"svg", "g", "defs", "linearGradient", "radialGradient", "stop"}
+ATTRIBUTES = {"width", "height", "viewBox", "d", "x", "y", "rx", "ry", "cx", "cy", "r", "x1", "y1", "x2", "y2", "id",
+              "gradientUnits", "offset", "stop-color", "fill", "fill-opacity", "fill-rule", "stroke", "stroke-width",
+              "stroke-linecap", "stroke-linejoin"}
+# A dotted lower-case word in the sources that begins with an icon group is a name asked for.
+ASKED_FOR = re.compile(r'"([a-z]+(?:\.[a-z]+)+)"')
+NOT_NAMES = {"svg", "cur", "png", "xml", "qss", "rcc", "theme", "conf"}
+
+
+def colors_of(svg):
+    return set(re.findall(r"#[0-9A-Fa-f]{3,8}", svg))
+
+
+class Files(unittest.TestCase):
+    def test_are_what_the_tables_give(self):
+        self.assertEqual(generate.differences(GENERATED), [])
+
+    def test_names(self):
+        self.assertEqual((len(ICONS), len(CURSORS)), (710, 28))
+        for name in ICONS:
+            self.assertRegex(name, r"^[a-z]+(\.[a-z]+)+$")
+            self.assertRegex(name, r"^((?!\.(small|colored)).)*(\.small)?(\.colored)?$")
+        for name in CURSORS.keys() - {"_blank"}:
+            self.assertIn(name.replace("mangicwand", "magicwand"), ICONS)
+
+    def test_color_classes(self):
+        with_reference = {name for name, svg in ICONS.items() if REFERENCE in colors_of(svg)}
+        self.assertEqual(len(with_reference), 561)
+        for name, svg in ICONS.items():
+            colors = colors_of(svg)
+            expected = {"reference": colors == {REFERENCE}, "mixed": REFERENCE in colors and len(colors) > 1,
+                        "colored": REFERENCE not in colors}
+            self.assertTrue(expected[MANIFEST[name]["class"]], name)
+            group = name.partition(".")[0]
+            if group != "swatch":
+                self.assertLessEqual(colors, {REFERENCE, *PALETTE.values()}, name)
+            plain = name in with_reference or group in WITHOUT_REFERENCE
+            self.assertEqual(name.endswith(".colored"), not plain, name)
+        # A checked mark is highlighted by replacing its ground, so nothing else may share that color.
+        self.assertEqual(colors_of(ICONS["status.checked.circular.colored"]), {PALETTE["warning"], PALETTE["ink"]})
+
+    def test_hold_only_what_a_tiny_renderer_paints(self):
+        for name, svg in ICONS.items():
+            self.assertLessEqual(len(svg.encode()), 4096, name)
+            root = ElementTree.fromstring(svg)
+            size = "16" if MANIFEST[name]["base"].endswith("@16") else "24"
+            self.assertEqual([root.get(key) for key in ("width", "height", "viewBox")],
+                             [size, size, f"0 0 {size} {size}"])
+            for element in root.iter():
+                tag = element.tag.rpartition("}")[2]
+                self.assertIn(tag, ELEMENTS, name)
+                self.assertLessEqual(set(element.keys()), ATTRIBUTES, name)
+                if tag in SHAPES:
+                    self.assertIsNotNone(element.get("fill"), name)
+            for color in colors_of(svg):
+                self.assertRegex(color, "^#[0-9A-F]{6}$", name)
+
+    def test_paint_keeps_its_distance_from_the_edge(self):
+        for name, row in MANIFEST.items():
+            icon = compose(row, GLYPHS)
+            margin = 2 if icon.size == 24 else 1
+            for shape in icon.shapes:
+                half_width = 0 if shape.paint in (drawing.FILL, drawing.TONE) else .75
+                for point in (p for contour in shape.contours for p in contour.points()):
+                    for place in (point.real, point.imag):
+                        self.assertGreaterEqual(min(place, icon.size - place) - half_width, margin - .03, name)
+
+    def test_every_name_that_the_sources_ask_for_exists(self):
+        groups = {name.partition(".")[0] for name in ICONS}
+        for folder in ("ThemeLibrary", "CommonUtils", "gallery"):
+            for path in (ROOT / folder).rglob("*"):
+                if path.suffix not in (".cpp", ".h"):
+                    continue
+                for name in ASKED_FOR.findall(path.read_text(encoding="utf-8")):
+                    words = name.split(".")
+                    if words[0] in groups and words[-1] not in NOT_NAMES:
+                        self.assertTrue(name in ICONS or name in CURSORS, f"{path.name}: {name}")
+
+    def test_every_glyph_is_used(self):
+        text = " ".join(f"{row['base']} {row['modifiers']}" for row in MANIFEST.values())
+        text += " ".join(row["drawing"] for row in CURSORS.values())
+        words = set(re.split(r"[ :;]+", text))
+        self.assertEqual(GLYPHS.keys() - words, set())
+
+
+class Cursors(unittest.TestCase):
+    def test_hold_two_images_and_the_hot_spot(self):
+        for name, row in CURSORS.items():
+            data = GENERATED[f"Cursors/{name}.cur"]
+            self.assertEqual(struct.unpack_from("<HHH", data), (0, 2, 2))
+            for index, size in enumerate((32, 64)):
+                width, height, _, _, x, y, length, offset = struct.unpack_from("<BBBBHHII", data, 6 + 16 * index)
+                spot = (int(row["hotspot.x"]) * size // 32, int(row["hotspot.y"]) * size // 32)
+                self.assertEqual((width, height, x, y), (size, size, *spot), name)
+                self.assertEqual(data[offset:offset + 8], b"\x89PNG\r\n\x1a\n")
+                self.assertTrue(data[:offset + length].endswith(b"IEND\xaeB`\x82"), name)
+
+
+class Geometry(unittest.TestCase):
+    def assert_close(self, contour, other):
+        for a, b in zip(contour.points(), other.points(), strict=True):
+            self.assertLess(abs(a - b), .05)
+
+    def test_path_data_survives_reading_and_writing(self):
+        for data in ("M4 5h7.5v-3L2 2.5zM1 1l.5.5", "M3 12A12 8 30 1 0 18 9a2 2 0 0 1 .5-3",
+                     "M1 2c3 4 5 6 7 8s-9 10 11 12S3 4 5 6", "M12 2.75a9.25 9.25 0 0 1 8 13.85z"):
+            first = pathdata.read(data)
+            second = pathdata.read(pathdata.write(first))
+            for contour, other in zip(first, second, strict=True):
+                self.assert_close(contour, other)
+                self.assertEqual(contour.closed, other.closed)
+
+    def test_arcs_turn_and_mirror_with_their_ends(self):
+        arc = pathdata.read("M3 12A12 8 30 1 0 18 9")[0]
+        for similarity in (Similarity.turning(12 + 12j, 90), Similarity.about(12 + 12j, -1, True),
+                           Similarity.about(12 + 12j, .6j, True)):
+            moved = arc.moved(similarity)
+            for a, b in zip(arc.points(), moved.points(), strict=True):
+                self.assertLess(abs(similarity(a) - b), 1e-9)
+
+    def test_a_badge_cuts_outlines_and_areas_along_a_circle(self):
+        region = cutting.OutsideDisc(18 + 18j, 6)
+        square = rectangle(4, 4, 16, 16)
+        runs = cutting.cut_stroke(square, region)
+        self.assertEqual(len(runs), 1)
+        self.assertAlmostEqual(runs[0].length, 64 - 2 * (2 + math.sqrt(32)), 2)
+        area, = cutting.cut_area(square, region)
+        self.assertTrue(area.closed)
+        self.assertTrue(all(region(point) > -1e-6 for point in area.points()))
+        self.assertEqual(cutting.cut_area(ellipse(18 + 18j, 2, 2), region), [])
+        self.assertEqual(len(cutting.cut_area(rectangle(2, 2, 30, 30), region)), 2)
+
+    def test_a_slash_parts_an_area_in_two(self):
+        normal = 1 - 1j
+        halves = [cutting.cut_area(ellipse(12 + 12j, 8, 8), cutting.HalfPlane(12 + 12j + side * normal, side * normal))
+                  for side in (1, -1)]
+        self.assertEqual([len(half) for half in halves], [1, 1])
+
+    def test_pieces_too_short_to_read_are_dropped(self):
+        region = cutting.OutsideDisc(18 + 18j, 6)
+        self.assertEqual(cutting.cut_stroke(polyline([11 + 18j, 24 + 18j]), region), [])
+
+    def test_dashes_are_symmetrical_and_keep_corners(self):
+        dashes = dashing.dashes(rectangle(3.75, 3.75, 16.5, 16.5, 1.5))
+        lengths = sorted(round(dash.length, 2) for dash in dashes)
+        self.assertEqual(lengths, [dashing.DASH] * 4 + [lengths[-1]] * 4)
+        corners = [sum(dash.points()) / len(dash.points()) for dash in dashes if dash.length > 2]
+        self.assertLess(abs(sum(corners) / 4 - (12 + 12j)), 1e-6)
+        self.assertAlmostEqual(sum(d.length for d in dashing.dashes(polyline([0j, 6 + 0j]))), 3)
+
+    def test_bad_tables_are_named(self):
+        with self.assertRaisesRegex(ValueError, "icon x: modifier nonsense"):
+            compose({"name": "x", "base": "plus", "modifiers": "nonsense"}, GLYPHS)
+
+
+if __name__ == "__main__":
+    unittest.main()
