@@ -71,6 +71,12 @@ public:
     void polish(QPalette& palette) override;
     QPalette standardPalette() const override;
 
+    /// Disabled text is not etched: only its brush tells.
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text,
+                      QPalette::ColorRole role = QPalette::NoRole) const override;
+    void drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
+                        const QPixmap& pixmap) const override;
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -1,7 +1,16 @@
+#include "ButtonContent.h"
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+#include "WidgetTraits.h"
+
+#include <QComboBox>
 
 // Push buttons, command links, and the panels of everything that looks like a button.
+//
+// Properties: "circular", "drawErrorIndicator", "frameless", "outline", and those that compose the
+// brushes.
 
 namespace BRELK::Buttons {
 
@@ -13,6 +22,15 @@ constexpr int IconOnlyPadding = 6;
 constexpr int SmallestTextWidth = 72;
 constexpr int Margin = 8;
 constexpr int IconSize = 16;
+constexpr int IconSpacing = 4;
+
+/// Half the shorter side makes a circle, or a pill.
+int panelRadius(const StyleContext& context, const QRect& rect)
+{
+    if (context.flag(WidgetProperties::Circular))
+        return qMin(rect.width(), rect.height()) / 2;
+    return Shapes::cornerRadius(ThemeNames::baseSize());
+}
 
 } // namespace
 
@@ -42,29 +60,187 @@ QSize buttonSize(const MeasureContext& context, const QStyleOptionButton& button
     return {diameter, diameter};
 }
 
+namespace {
+
+using Corners = Helpers::StraightCornerFlags;
+
+/// A part that joins another one at its left or, in a right-to-left layout, its right.
+Corners joinedBehind(const StyleContext& context)
+{
+    return context.rightToLeft() ? Helpers::RightCorners : Helpers::LeftCorners;
+}
+
+Corners joinedBefore(const StyleContext& context)
+{
+    return context.rightToLeft() ? Helpers::LeftCorners : Helpers::RightCorners;
+}
+
+/// The two buttons of a spin box lie inside its border: each has one round corner.
+Corners spinButtonCorners(const StyleContext& context)
+{
+    const bool isUpper = context.option.rect.center().y() < context.widget->rect().center().y();
+    return joinedBehind(context) | (isUpper ? Helpers::BottomCorners : Helpers::TopCorners);
+}
+
+Corners toolButtonCorners(const StyleContext& context, const QStyleOptionToolButton& button)
+{
+    if (!(button.features & QStyleOptionToolButton::MenuButtonPopup)
+        || context.flag(WidgetProperties::Circular))
+        return Helpers::None;
+    const bool isMenuPart = button.subControls == QStyle::SC_ToolButtonMenu;
+    return isMenuPart ? joinedBehind(context) : joinedBefore(context);
+}
+
+Corners straightCorners(const StyleContext& context)
+{
+    if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(&context.option))
+        return toolButtonCorners(context, *button);
+    const auto* comboBox = qobject_cast<const QComboBox*>(context.widget);
+    // Deliberate: combo boxes keep their sides in right-to-left layouts.
+    if ((comboBox && comboBox->isEditable()) || WidgetTraits::isCalendarPopupEditor(context.widget))
+        return Helpers::LeftCorners;
+    return WidgetTraits::isSpinBox(context.widget) ? spinButtonCorners(context)
+                                                   : Corners(Helpers::None);
+}
+
+/// An outline button is empty until it is pointed at, pressed or checked; a flat one shows nothing
+/// at all then.
+bool isFilled(const StyleContext& context)
+{
+    const bool isIdle =
+        !BaseStyle::isDown(context.option) && !BaseStyle::isHovered(&context.option);
+    return !isIdle
+           || !(context.flag(WidgetProperties::Outline)
+                || BaseStyle::isFlatButton(&context.option));
+}
+
+void paintSegment(const PaintContext& context, const BaseStyle::ButtonBrushes& brushes)
+{
+    const PainterSaver saver(context.painter);
+    context.painter.setRenderHint(QPainter::Antialiasing);
+    context.painter.setPen(Shapes::borderPen(brushes.borderBrush));
+    context.painter.setBrush(brushes.backgroundBrush);
+    context.style.drawButtonGroup(Shapes::onPixels(context.option.rect), &context.painter,
+                                  &context.option, Shapes::cornerRadius(ThemeNames::baseSize()),
+                                  brushes, context.widget);
+}
+
+/// Where the label goes: left of the menu arrow, right of it in a right-to-left layout.
+QRect labelRect(const StyleContext& context, const QStyleOptionButton& button)
+{
+    if (!(button.features & QStyleOptionButton::HasMenu))
+        return button.rect;
+    const int indicator = context.metric(QStyle::PM_MenuButtonIndicator);
+    return context.visual(button.rect.adjusted(0, 0, -indicator, 0));
+}
+
+QSize shownIconSize(const QStyleOptionButton& button, const QRect& rect)
+{
+    return button.icon.isNull() ? QSize()
+                                : button.icon.actualSize(button.iconSize.boundedTo(rect.size()));
+}
+
+} // namespace
+
 void paintDefaultFrame(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_FrameDefaultButton);
+    if (!BaseStyle::isFlatButton(&context.option))
+        return;
+    const PainterSaver saver(context.painter);
+    const QRectF rect = Shapes::onPixels(context.option.rect);
+    const int radius = panelRadius(context, context.option.rect);
+    context.painter.setRenderHint(QPainter::Antialiasing);
+    context.painter.setPen(
+        Shapes::borderPen(BaseStyle::buttonBrushes(&context.option, context.widget).borderBrush));
+    context.painter.setBrush(Qt::NoBrush);
+    context.painter.drawRoundedRect(rect, radius, radius);
 }
 
 void paintPanel(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_PanelButtonCommand);
+    BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&context.option, context.widget);
+    if (context.widget && WidgetTraits::isSegmentedGroup(context.widget->parent())) {
+        paintSegment(context, brushes);
+        return;
+    }
+    const bool filled = isFilled(context);
+    const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
+    if (!filled && !hasError && BaseStyle::isFlatButton(&context.option))
+        return;
+    const QColor errorColor = context.color(ThemeNames::statusDangerColor());
+    if (hasError)
+        brushes.borderBrush = errorColor;
+    else if (context.flag(WidgetProperties::Frameless))
+        brushes.borderBrush = Qt::NoBrush;
+
+    const QRect& rect = context.option.rect;
+    const int radius = panelRadius(context, rect);
+    Shapes::drawBox(context, rect, radius, filled ? brushes.backgroundBrush : QBrush(),
+                    brushes.borderBrush, straightCorners(context));
+    if (hasError)
+        Helpers::drawInputStatusIndicator(rect, radius, errorColor, &context.painter);
 }
 
-void paintButton(const PaintContext& context, const QStyleOptionButton&)
+void paintButton(const PaintContext& context, const QStyleOptionButton& button)
 {
-    context.drawByBase(QStyle::CE_PushButton);
+    context.draw(QStyle::CE_PushButtonBevel, button);
+
+    QStyleOptionButton label = button;
+    label.rect = context.part(QStyle::SE_PushButtonContents);
+    context.draw(QStyle::CE_PushButtonLabel, label);
+
+    if (context.has(QStyle::State_HasFocus)) {
+        QStyleOptionFocusRect focus;
+        focus.QStyleOption::operator=(button);
+        focus.rect = context.part(QStyle::SE_PushButtonFocusRect);
+        context.draw(QStyle::PE_FrameFocusRect, focus);
+    }
 }
 
-void paintBevel(const PaintContext& context, const QStyleOptionButton&)
+void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
 {
-    context.drawByBase(QStyle::CE_PushButtonBevel);
+    context.draw(QStyle::PE_PanelButtonCommand, button);
+    if (button.features & QStyleOptionButton::DefaultButton)
+        context.draw(QStyle::PE_FrameDefaultButton, button);
+    if (button.features & QStyleOptionButton::HasMenu) {
+        const int indicator = context.metric(QStyle::PM_MenuButtonIndicator);
+        QStyleOptionButton arrow = button;
+        arrow.rect = context.visual({button.rect.right() - indicator - IconSpacing,
+                                     button.rect.y() + (button.rect.height() - indicator) / 2,
+                                     indicator, indicator});
+        ButtonContent::commonCallButtonText(arrow, context.widget);
+        context.draw(QStyle::PE_IndicatorArrowDown, arrow);
+    }
 }
 
-void paintLabel(const PaintContext& context, const QStyleOptionButton&)
+void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
 {
-    context.drawByBase(QStyle::CE_PushButtonLabel);
+    QBrush themed = BaseStyle::buttonBrushes(&button, context.widget).foregroundBrush;
+    if (themed.style() == Qt::NoBrush)
+        themed = context.color(ThemeNames::foregroundColor());
+    const QBrush foreground =
+        ButtonContent::textBrush(button, context.widget, QPalette::ButtonText, themed);
+
+    QRect rect = labelRect(context, button);
+    const QSize iconSize = shownIconSize(button, rect);
+    if (!iconSize.isEmpty()) {
+        const QFontMetrics& metrics = button.fontMetrics;
+        const int textWidth =
+            button.text.isEmpty() ? 0 : metrics.size(Qt::TextShowMnemonic, button.text).width();
+        const int spacing = textWidth > 0 ? IconSpacing : 0;
+        const int width = qMin(iconSize.width() + spacing + textWidth, rect.width());
+        const QRect content(rect.x() + (rect.width() - width) / 2, rect.y(), width, rect.height());
+        const QRect iconRect(content.x(), content.y() + (content.height() - iconSize.height()) / 2,
+                             iconSize.width(), iconSize.height());
+        const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(button.icon, foreground);
+        const QIcon::State state = BaseStyle::isChecked(button) ? QIcon::On : QIcon::Off;
+        context.proxy().drawItemPixmap(
+            &context.painter, context.visual(iconRect), Qt::AlignCenter,
+            Shapes::iconPixmap(context.painter, icon, iconSize, QIcon::Normal, state));
+        rect = context.visual(content.adjusted(iconSize.width() + spacing, 0, 0, 0));
+    }
+    constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
+    Shapes::drawText(context, rect, Flags, button.text, foreground);
 }
 
 } // namespace BRELK::Buttons

@@ -8,6 +8,21 @@
 
 namespace BRELK::Shapes {
 
+namespace {
+
+QString elided(const QFontMetrics& metrics, const QString& text, Qt::TextElideMode mode, int width,
+               int flags)
+{
+    if (!text.contains(QLatin1Char('\n')))
+        return metrics.elidedText(text, mode, width, flags);
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines)
+        line = metrics.elidedText(line, mode, width, flags);
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace
+
 QRectF onPixels(const QRect& rect)
 {
     return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
@@ -73,8 +88,7 @@ void drawText(const PaintContext& context, const QRect& rect, int flags, const Q
 {
     if (text.isEmpty() || rect.isEmpty())
         return;
-    const QString shown =
-        context.painter.fontMetrics().elidedText(text, elide, rect.width(), flags);
+    const QString shown = elided(context.painter.fontMetrics(), text, elide, rect.width(), flags);
     const QPen pen = context.painter.pen();
     context.painter.setPen(QPen(brush, 1));
     context.proxy().drawItemText(&context.painter, rect, flags, context.option.palette,
@@ -83,3 +97,27 @@ void drawText(const PaintContext& context, const QRect& rect, int flags, const Q
 }
 
 } // namespace BRELK::Shapes
+
+namespace BRELK {
+
+void BaseStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                             const QPalette& palette, bool, const QString& text,
+                             QPalette::ColorRole role) const
+{
+    if (!painter || text.isEmpty())
+        return;
+    const QPen pen = painter->pen();
+    if (role != QPalette::NoRole)
+        painter->setPen(QPen(palette.brush(role), pen.widthF()));
+    painter->drawText(rect, flags, text);
+    painter->setPen(pen);
+}
+
+void BaseStyle::drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
+                               const QPixmap& pixmap) const
+{
+    if (painter && !pixmap.isNull())
+        QProxyStyle::drawItemPixmap(painter, rect, alignment, pixmap);
+}
+
+} // namespace BRELK
