@@ -5,8 +5,11 @@
 #include <QBrush>
 #include <QColor>
 #include <QMap>
+#include <QStringList>
 
 namespace BRELK {
+
+class ThemeEntries;
 
 /// Reads a theme's `config.xml`, and those of the themes that it extends. See docs/theme-format.md
 /// for the format.
@@ -40,6 +43,12 @@ public:
     const ThemeFont& getFont() const { return m_font; }
 
 private:
+    void readDisabledFactors(const ThemeEntries& entries);
+    void readPalette(ThemeEntries& colors, ThemeEntries& brushes);
+    void readOpacities(const ThemeEntries& entries);
+    void readCornerRadius(const ThemeEntries& entries);
+    void readFont(const ThemeEntries& settings, const QStringList& families);
+
     Status m_status = NO_ERROR;
     QMap<QString, QColor> m_colors;
     QMap<QString, QColor> m_internalColors;

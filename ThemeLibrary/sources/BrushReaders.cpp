@@ -1,0 +1,142 @@
+#include "BrushReaders.h"
+
+#include <QLinearGradient>
+
+#include <algorithm>
+
+namespace BRELK {
+
+namespace {
+
+constexpr int LargestPercentage = 1000;
+constexpr double LargestCoordinate = 10;
+
+QColor literalColor(const QString& text)
+{
+    // Qt reads more forms than these; their digits would be easily misread.
+    const bool isCode = text.startsWith(u'#');
+    if (isCode && text.size() != 4 && text.size() != 7 && text.size() != 9)
+        return {};
+    return QColor(text);
+}
+
+QPointF readPoint(const ThemeElement& element, const QString& attribute, const QPointF& missing,
+                  bool& ok)
+{
+    if (!element.hasAttribute(attribute))
+        return missing;
+    const QString text = element.getAttribute(attribute);
+    const QStringList parts = text.split(u',');
+    if (parts.size() != 2) {
+        element.reject(attribute + QLatin1Char(' ') + quoted(text)
+                       + QLatin1String(" is not of the form x,y"));
+        ok = false;
+        return {};
+    }
+    const double x = element.readNumber(parts.first(), -LargestCoordinate, LargestCoordinate, ok);
+    const double y =
+        ok ? element.readNumber(parts.last(), -LargestCoordinate, LargestCoordinate, ok) : 0;
+    return {x, y};
+}
+
+void addStop(QGradientStops& stops, const ThemeElement& element, const ThemeColors& colors)
+{
+    if (element.getTag() != QLatin1String("GradientStop")) {
+        element.rejectUnknown();
+        return;
+    }
+    element.checkTextElement({"offset", "alpha", "lighter", "darker"});
+    bool ok = true;
+    const double offset =
+        element.readNumber(element.getAttribute(QStringLiteral("offset")), 0, 1, ok);
+    if (!ok)
+        return;
+    const auto isAtOffset = [offset](const QGradientStop& stop) { return stop.first == offset; };
+    if (std::any_of(stops.begin(), stops.end(), isAtOffset)) {
+        element.reject(QStringLiteral("there is another stop at this offset"));
+        return;
+    }
+    const QColor color = readColor(element, colors, ok);
+    if (ok)
+        stops.append({offset, color});
+}
+
+} // namespace
+
+QColor readColor(const ThemeElement& element, const ThemeColors& colors, bool& ok)
+{
+    const QString text = element.getText();
+    const auto named = colors.find(text);
+    QColor color = named == colors.end() ? literalColor(text) : *named;
+    if (!color.isValid()) {
+        element.reject(quoted(text)
+                       + QLatin1String(" is neither a color of the theme nor a color value"));
+        ok = false;
+    }
+    const auto has = [&element, &ok](const char* name) {
+        return ok && element.hasAttribute(QLatin1String(name));
+    };
+    const auto percentage = [&element, &ok](const char* name) {
+        return element.readInteger(element.getAttribute(QLatin1String(name)), 1, LargestPercentage,
+                                   ok);
+    };
+    if (has("lighter"))
+        color = color.lighter(percentage("lighter"));
+    if (has("darker"))
+        color = color.darker(percentage("darker"));
+    if (has("alpha"))
+        color.setAlphaF(
+            element.readNumber(element.getAttribute(QStringLiteral("alpha")), 0, 1, ok));
+    return ok ? color : QColor();
+}
+
+const BrushReader* BrushReader::forTag(const QString& tag)
+{
+    static const SolidBrushReader sSolid;
+    static const LinearGradientBrushReader sLinearGradient;
+    static const QHash<QString, const BrushReader*> sBrushReaders{
+        {QStringLiteral("SolidBrush"), &sSolid},
+        {QStringLiteral("LinearGradientBrush"), &sLinearGradient}};
+    return sBrushReaders.value(tag);
+}
+
+QBrush SolidBrushReader::readBrush(const ThemeElement& element, const ThemeColors& colors,
+                                   bool& ok) const
+{
+    element.checkTextElement({"name", "internal", "alpha", "lighter", "darker"});
+    const QColor color = readColor(element, colors, ok);
+    return ok ? QBrush(color) : QBrush();
+}
+
+QBrush LinearGradientBrushReader::readBrush(const ThemeElement& element, const ThemeColors& colors,
+                                            bool& ok) const
+{
+    element.checkAttributes({"name", "internal", "startPoint", "endPoint"});
+    const QPointF start = readPoint(element, QStringLiteral("startPoint"), {0, 0}, ok);
+    const QPointF end = ok ? readPoint(element, QStringLiteral("endPoint"), {0, 1}, ok) : QPointF();
+    if (!ok)
+        return {};
+    if (start == end) {
+        element.reject(QStringLiteral("it starts where it ends"));
+        ok = false;
+        return {};
+    }
+    QGradientStops stops;
+    for (const ThemeElement& child : element.getChildren())
+        addStop(stops, child, colors);
+    if (stops.isEmpty()) {
+        element.reject(QStringLiteral("it has no stop"));
+        ok = false;
+        return {};
+    }
+    QLinearGradient gradient(start, end);
+    gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
+    const auto isBefore = [](const QGradientStop& a, const QGradientStop& b) {
+        return a.first < b.first;
+    };
+    std::sort(stops.begin(), stops.end(), isBefore);
+    gradient.setStops(stops);
+    return gradient;
+}
+
+} // namespace BRELK

@@ -1,0 +1,321 @@
+#include "ThemeConfigurationReader.h"
+
+#include "ThemeConfigurationReader_p.h"
+#include "ThemeResources.h"
+
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+
+namespace BRELK {
+
+namespace {
+
+constexpr int LargestFactor = 1000;
+constexpr int LargestRadius = 1000;
+constexpr double SmallestFontSize = 1;
+constexpr double LargestFontSize = 500;
+constexpr double DefaultRubberBandOpacity = 0.25;
+
+struct Size
+{
+    const char* tag;
+    ThemeFont::ThemeFontId font;
+    double defaultFontScale;
+    int defaultRadius;
+};
+
+constexpr Size Sizes[] = {{"SmallSize", ThemeFont::SMALL_FONT, 0.9, 2},
+                          {"BaseSize", ThemeFont::BASE_FONT, 1.0, 4},
+                          {"MediumSize", ThemeFont::MEDIUM_FONT, 1.2, 6},
+                          {"LargeSize", ThemeFont::LARGE_FONT, 1.5, 8}};
+
+bool isSize(const QString& tag)
+{
+    const auto hasTag = [&tag](const Size& size) { return tag == QLatin1String(size.tag); };
+    return std::any_of(std::begin(Sizes), std::end(Sizes), hasTag);
+}
+
+struct Weight
+{
+    const char* name;
+    QFont::Weight weight;
+};
+
+constexpr Weight Weights[] = {
+    {"Thin", QFont::Thin},     {"ExtraLight", QFont::ExtraLight}, {"Light", QFont::Light},
+    {"Normal", QFont::Normal}, {"Medium", QFont::Medium},         {"DemiBold", QFont::DemiBold},
+    {"Bold", QFont::Bold},     {"ExtraBold", QFont::ExtraBold},   {"Black", QFont::Black}};
+
+/// What the files of a theme define, before any of it is evaluated.
+struct Definitions
+{
+    ThemeEntries factors;
+    ThemeEntries colors;
+    ThemeEntries brushes;
+    ThemeEntries opacities;
+    ThemeEntries radii;
+    ThemeEntries fontSettings;
+    QStringList families;
+};
+
+bool isName(const QString& name)
+{
+    const auto isForbidden = [](QChar c) { return c.isSpace() || c == u'/' || c == u'@'; };
+    return !name.isEmpty() && std::none_of(name.begin(), name.end(), isForbidden);
+}
+
+bool readInternal(const ThemeElement& element, bool& ok)
+{
+    const QString text = element.getAttribute(QStringLiteral("internal"));
+    const bool isTrue = text == QLatin1String("true");
+    if (!isTrue && !text.isEmpty() && text != QLatin1String("false")) {
+        element.reject(quoted(text) + QLatin1String(" for internal is neither true nor false"));
+        ok = false;
+    }
+    return isTrue;
+}
+
+void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
+{
+    const QString name = element.getAttribute(QStringLiteral("name"));
+    if (!isName(name)) {
+        element.reject(QStringLiteral("it needs a name without blanks, \"/\" and \"@\""));
+        return;
+    }
+    bool ok = true;
+    const bool internal = readInternal(element, ok);
+    if (ok)
+        entries.add(name, {element, level, internal});
+}
+
+void collectNamed(ThemeEntries& entries, const ThemeElement& list, const char* tag, int level)
+{
+    list.checkAttributes({});
+    for (const ThemeElement& element : list.getChildren()) {
+        if (element.getTag() == QLatin1String(tag))
+            addNamed(entries, element, level);
+        else
+            element.rejectUnknown();
+    }
+}
+
+void collectBrushes(ThemeEntries& entries, const ThemeElement& list, int level)
+{
+    list.checkAttributes({});
+    for (const ThemeElement& element : list.getChildren()) {
+        if (ThemeBrushResolver::isBrush(element.getTag()))
+            addNamed(entries, element, level);
+        else
+            element.rejectUnknown();
+    }
+}
+
+void collectPalette(Definitions& definitions, const ThemeElement& palette, int level)
+{
+    palette.checkAttributes({});
+    for (const ThemeElement& list : palette.getChildren()) {
+        if (list.getTag() == QLatin1String("ColorsList"))
+            collectNamed(definitions.colors, list, "Color", level);
+        else if (list.getTag() == QLatin1String("BrushesList"))
+            collectBrushes(definitions.brushes, list, level);
+        else
+            list.rejectUnknown();
+    }
+}
+
+void collectFont(Definitions& definitions, const ThemeElement& font, int level)
+{
+    font.checkAttributes({});
+    QStringList families;
+    for (const ThemeElement& element : font.getChildren()) {
+        const QString tag = element.getTag();
+        const bool isFamily = tag == QLatin1String("Family");
+        if (!isFamily && !isSize(tag) && tag != QLatin1String("Weight")) {
+            element.rejectUnknown();
+            continue;
+        }
+        element.checkTextElement({});
+        if (!isFamily)
+            definitions.fontSettings.add(tag, {element, level});
+        else if (element.getText().isEmpty())
+            element.reject(QStringLiteral("it names no font"));
+        else
+            families.append(element.getText());
+    }
+    if (definitions.families.isEmpty())
+        definitions.families = families;
+}
+
+void collectRadii(ThemeEntries& entries, const ThemeElement& list, int level)
+{
+    list.checkAttributes({});
+    for (const ThemeElement& element : list.getChildren()) {
+        if (isSize(element.getTag())) {
+            element.checkTextElement({});
+            entries.add(element.getTag(), {element, level});
+        } else {
+            element.rejectUnknown();
+        }
+    }
+}
+
+void collect(Definitions& definitions, const ThemeDocument& document, int level)
+{
+    const ThemeElement root = document.getRoot();
+    root.checkAttributes({"extends"});
+    for (const ThemeElement& section : root.getChildren()) {
+        const QString tag = section.getTag();
+        if (tag == QLatin1String("Factors"))
+            collectNamed(definitions.factors, section, "Factor", level);
+        else if (tag == QLatin1String("Palette"))
+            collectPalette(definitions, section, level);
+        else if (tag == QLatin1String("Font"))
+            collectFont(definitions, section, level);
+        else if (tag == QLatin1String("Opacities"))
+            collectNamed(definitions.opacities, section, "Opacity", level);
+        else if (tag == QLatin1String("CornerRadius"))
+            collectRadii(definitions.radii, section, level);
+        else
+            section.rejectUnknown();
+    }
+}
+
+QFont::Weight readWeight(const ThemeElement& element, bool& ok)
+{
+    const QString text = element.getText();
+    for (const Weight& weight : Weights) {
+        if (text == QLatin1String(weight.name))
+            return weight.weight;
+    }
+    element.reject(quoted(text) + QLatin1String(" is no weight"));
+    ok = false;
+    return QFont::Normal;
+}
+
+/// The first of `families` that is installed, otherwise the platform's font.
+QFont chooseFont(const QStringList& families)
+{
+    if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return families.isEmpty() ? QFont() : QFont(families.first());
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    const QFontDatabase database;
+    const auto isInstalled = [&database](const QString& family) {
+        return database.hasFamily(family);
+    };
+    const auto family = std::find_if(families.begin(), families.end(), isInstalled);
+    if (family != families.end())
+        font.setFamily(*family);
+    return font;
+}
+
+double toHalfPoint(double size)
+{
+    return std::round(size * 2) / 2;
+}
+
+} // namespace
+
+ThemeConfigurationReader::ThemeConfigurationReader(const QString& path)
+{
+    const ThemeDocuments documents = readThemeDocuments(path, QStringLiteral("Config"));
+    m_status = Status(documents.front()->getStatus());
+    Definitions definitions;
+    if (m_status == NO_ERROR) {
+        for (size_t level = 0; level < documents.size(); ++level)
+            collect(definitions, *documents.at(level), int(level));
+        readOpacities(definitions.opacities);
+        readCornerRadius(definitions.radii);
+    }
+    readFont(definitions.fontSettings, definitions.families);
+    // Disabled colors depend on the factors, so these come first.
+    readDisabledFactors(definitions.factors);
+    readPalette(definitions.colors, definitions.brushes);
+}
+
+void ThemeConfigurationReader::readDisabledFactors(const ThemeEntries& entries)
+{
+    const auto read = [](const ThemeElement& element, bool& ok) {
+        element.checkTextElement({"name"});
+        return element.readInteger(element.getText(), 0, LargestFactor, ok);
+    };
+    QVariantMap factors;
+    for (const QString& name : entries.getNames()) {
+        const int factor = evaluate(entries, name, -1, read);
+        if (factor < 0)
+            continue;
+        m_disabledFactors.insert(name, factor);
+        factors.insert(name, factor);
+    }
+    if (QCoreApplication* app = QCoreApplication::instance())
+        app->setProperty(ThemeResources::getInternalThemeVariablePropertyName().data(),
+                         QVariantMap{{ThemeResources::getDisabledFactorsVarPrefix(), factors}});
+}
+
+void ThemeConfigurationReader::readPalette(ThemeEntries& colors, ThemeEntries& brushes)
+{
+    colors.addTwins();
+    ThemeColorResolver colorResolver(colors);
+    colorResolver.resolve();
+    m_colors = colorResolver.getColors(false);
+    m_internalColors = colorResolver.getColors(true);
+
+    brushes.addTwins();
+    ThemeBrushResolver brushResolver(brushes, colorResolver.getColors());
+    brushResolver.resolve();
+    m_brushes = brushResolver.getBrushes(false);
+    m_internalBrushes = brushResolver.getBrushes(true);
+}
+
+void ThemeConfigurationReader::readOpacities(const ThemeEntries& entries)
+{
+    const auto read = [](const ThemeElement& element, bool& ok) {
+        element.checkTextElement({"name"});
+        return element.readNumber(element.getText(), 0, 1, ok);
+    };
+    m_opacities.insert(QStringLiteral("RubberBandOpacity"), DefaultRubberBandOpacity);
+    for (const QString& name : entries.getNames()) {
+        const double opacity = evaluate(entries, name, -1.0, read);
+        if (opacity >= 0)
+            m_opacities.insert(name, opacity);
+    }
+}
+
+void ThemeConfigurationReader::readCornerRadius(const ThemeEntries& entries)
+{
+    const auto read = [](const ThemeElement& element, bool& ok) {
+        return element.readInteger(element.getText(), 0, LargestRadius, ok);
+    };
+    for (const Size& size : Sizes) {
+        const QString name = QLatin1String(size.tag);
+        m_cornerRadius.insert(name, evaluate(entries, name, size.defaultRadius, read));
+    }
+}
+
+void ThemeConfigurationReader::readFont(const ThemeEntries& settings, const QStringList& families)
+{
+    QFont font = chooseFont(families);
+    font.setWeight(evaluate(settings, QStringLiteral("Weight"), QFont::Normal, readWeight));
+    const auto read = [](const ThemeElement& element, bool& ok) {
+        return element.readNumber(element.getText(), SmallestFontSize, LargestFontSize, ok);
+    };
+    const auto readSize = [&settings, &read](const char* tag, double missing) {
+        return evaluate(settings, QLatin1String(tag), missing, read);
+    };
+    // The platform's font may be sized in pixels.
+    const double platformSize =
+        font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
+    const double baseSize = readSize("BaseSize", platformSize);
+    for (const Size& size : Sizes) {
+        const bool isBase = size.font == ThemeFont::BASE_FONT;
+        font.setPointSizeF(
+            isBase ? baseSize : readSize(size.tag, toHalfPoint(baseSize * size.defaultFontScale)));
+        m_font.setFont(size.font, font);
+    }
+}
+
+} // namespace BRELK

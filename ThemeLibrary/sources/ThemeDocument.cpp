@@ -1,0 +1,309 @@
+#include "ThemeDocument.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTextCodec>
+#include <QXmlStreamReader>
+
+#include <algorithm>
+
+namespace BRELK {
+
+namespace {
+
+constexpr int MaxDepth = 64;
+constexpr int MaxDocuments = 8;
+constexpr int MaxReports = 200;
+constexpr int MaxQuotedLength = 60;
+/// Parsers compare each attribute of a tag with all others of it.
+constexpr int MaxAttributes = 1000;
+
+QString leftOut()
+{
+    return QStringLiteral("left out");
+}
+
+QString ignored()
+{
+    return QStringLiteral("ignored");
+}
+
+QString decoded(const QByteArray& bytes)
+{
+    constexpr int LongestDeclaration = 200;
+    QXmlStreamReader declaration(bytes.left(LongestDeclaration));
+    declaration.readNext();
+    QTextCodec* codec =
+        QTextCodec::codecForName(declaration.documentEncoding().toString().toLatin1());
+    if (!codec)
+        codec = QTextCodec::codecForName("UTF-8");
+    return QTextCodec::codecForUtfText(bytes, codec)->toUnicode(bytes);
+}
+
+QString range(double smallest, double largest)
+{
+    return QLatin1String(" from ") + QString::number(smallest) + QLatin1String(" to ")
+           + QString::number(largest);
+}
+
+/// Counts equals signs, as an attribute has one, between one "<" and the next.
+bool hasTooManyAttributes(const QString& text)
+{
+    int count = 0;
+    for (const QChar character : text) {
+        if (character == u'<')
+            count = 0;
+        else if (character == u'=' && ++count > MaxAttributes)
+            return true;
+    }
+    return false;
+}
+
+bool isPlainDoctype(const QXmlStreamReader& reader)
+{
+    return reader.dtdSystemId().isEmpty() && reader.dtdPublicId().isEmpty()
+           && !reader.text().contains(u'[');
+}
+
+/// Reads on to the end of the content, or to what must not be given to the document parser.
+QString scan(QXmlStreamReader& reader, ThemeFileBudget& budget)
+{
+    int depth = 0;
+    while (!reader.atEnd()) {
+        const QXmlStreamReader::TokenType token = reader.readNext();
+        if (token == QXmlStreamReader::StartElement) {
+            if (++depth > MaxDepth)
+                return QStringLiteral("elements are nested too deeply");
+            if (--budget.elements < 0)
+                return QStringLiteral("there are too many elements");
+        } else if (token == QXmlStreamReader::EndElement) {
+            --depth;
+        } else if (token == QXmlStreamReader::DTD && !isPlainDoctype(reader)) {
+            return QStringLiteral("document type definitions are not supported");
+        }
+    }
+    return {};
+}
+
+/// Why `base` cannot be the theme that a file extends; empty when it can.
+QString problemOfBase(const QString& base, const QStringList& themes)
+{
+    if (themes.contains(base))
+        return QStringLiteral("extends itself through ") + quoted(base);
+    const bool isName = !base.isEmpty() && base != QLatin1String(".") && base != QLatin1String("..")
+                        && !base.contains(u'/') && !base.contains(u'\\');
+    if (!isName)
+        return QStringLiteral("extends ") + quoted(base)
+               + QStringLiteral(", which is no theme's name");
+    if (themes.size() >= MaxDocuments)
+        return QStringLiteral("extends ") + quoted(base) + QStringLiteral(" as one theme too many");
+    return {};
+}
+
+bool hasRoot(const ThemeDocument& document, const QString& rootTag)
+{
+    const ThemeElement root = document.getRoot();
+    if (root.getTag() == rootTag)
+        return true;
+    root.report(QStringLiteral("the root element is ") + quoted(root.getTag())
+                    + QStringLiteral(", not ") + quoted(rootTag),
+                QStringLiteral("the file is not used"));
+    return false;
+}
+
+} // namespace
+
+QString quoted(const QString& text)
+{
+    QString shown = text.left(MaxQuotedLength).simplified();
+    if (text.size() > MaxQuotedLength)
+        shown += QLatin1String("...");
+    return QLatin1Char('"') + shown + QLatin1Char('"');
+}
+
+ThemeElement::ThemeElement(const ThemeDocument& document, const QDomElement& element)
+    : m_document(&document), m_element(element)
+{ }
+
+QString ThemeElement::getText() const
+{
+    QString text;
+    for (QDomNode node = m_element.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        if (node.isText())
+            text += node.nodeValue();
+    }
+    return text.trimmed();
+}
+
+std::vector<ThemeElement> ThemeElement::getChildren() const
+{
+    std::vector<ThemeElement> children;
+    for (QDomNode node = m_element.firstChild(); !node.isNull(); node = node.nextSibling()) {
+        if (node.isElement())
+            children.emplace_back(*m_document, node.toElement());
+        else if (node.isText())
+            report(QStringLiteral("text ") + quoted(node.nodeValue().trimmed()), ignored());
+    }
+    return children;
+}
+
+double ThemeElement::readNumber(const QString& text, double smallest, double largest,
+                                bool& ok) const
+{
+    bool isNumber = false;
+    const double number = text.trimmed().toDouble(&isNumber);
+    if (isNumber && number >= smallest && number <= largest)
+        return number;
+    reject(quoted(text) + QLatin1String(" is not a number") + range(smallest, largest));
+    ok = false;
+    return smallest;
+}
+
+int ThemeElement::readInteger(const QString& text, int smallest, int largest, bool& ok) const
+{
+    bool isNumber = false;
+    const int number = text.trimmed().toInt(&isNumber);
+    if (isNumber && number >= smallest && number <= largest)
+        return number;
+    reject(quoted(text) + QLatin1String(" is not a whole number") + range(smallest, largest));
+    ok = false;
+    return smallest;
+}
+
+void ThemeElement::checkAttributes(std::initializer_list<const char*> known) const
+{
+    const QDomNamedNodeMap attributes = m_element.attributes();
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QString name = attributes.item(i).nodeName();
+        const auto isName = [&name](const char* other) { return name == QLatin1String(other); };
+        if (std::none_of(known.begin(), known.end(), isName))
+            report(QStringLiteral("unknown attribute ") + quoted(name), ignored());
+    }
+}
+
+void ThemeElement::checkTextElement(std::initializer_list<const char*> knownAttributes) const
+{
+    checkAttributes(knownAttributes);
+    for (QDomElement child = m_element.firstChildElement(); !child.isNull();
+         child = child.nextSiblingElement())
+        ThemeElement(*m_document, child).rejectUnknown();
+}
+
+void ThemeElement::reject(const QString& problem) const
+{
+    report(problem, leftOut());
+}
+
+void ThemeElement::rejectUnknown() const
+{
+    m_document->report(m_element.lineNumber(),
+                       QStringLiteral("unknown element ") + quoted(getTag()), leftOut());
+}
+
+void ThemeElement::report(const QString& what, const QString& done) const
+{
+    QString subject = getTag();
+    for (const QString& key :
+         {QStringLiteral("name"), QStringLiteral("role"), QStringLiteral("group")}) {
+        if (hasAttribute(key))
+            subject += QLatin1Char(' ') + quoted(getAttribute(key));
+    }
+    m_document->report(m_element.lineNumber(), subject + QStringLiteral(": ") + what, done);
+}
+
+ThemeDocument::ThemeDocument(const QString& path, ThemeFileBudget& budget) : m_path(path)
+{
+    QFile file(path);
+    // Opening a pipe or a device would wait for ever.
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        m_status = FILE_NOT_FOUND_ERROR;
+        return;
+    }
+    const QByteArray bytes = file.read(qint64(budget.bytes) + 1);
+    budget.bytes -= bytes.size();
+    if (budget.bytes < 0)
+        fail(1, QStringLiteral("the file is too large"));
+    else
+        parse(decoded(bytes), budget);
+}
+
+void ThemeDocument::parse(const QString& text, ThemeFileBudget& budget)
+{
+    if (hasTooManyAttributes(text)) {
+        fail(1, QStringLiteral("an element has too many attributes"));
+        return;
+    }
+    QXmlStreamReader reader(text);
+    reader.setNamespaceProcessing(false);
+    const QString problem = scan(reader, budget);
+    if (!problem.isEmpty()) {
+        fail(int(reader.lineNumber()), problem);
+        return;
+    }
+    if (reader.hasError())
+        fail(int(reader.lineNumber()), reader.errorString());
+
+    QString error;
+    int line = 0;
+    const QString checked = reader.hasError() ? text.left(int(reader.characterOffset())) : text;
+    if (!m_content.setContent(checked, &error, &line) && m_status == NO_ERROR)
+        fail(line, error);
+}
+
+void ThemeDocument::fail(int line, const QString& what)
+{
+    m_status = READ_ERROR;
+    report(line, what, QStringLiteral("the file is not used"));
+}
+
+void ThemeDocument::report(int line, const QString& what, const QString& done) const
+{
+    if (++m_reports > MaxReports)
+        return;
+    const QString message = m_path + QLatin1Char(':') + QString::number(line) + QLatin1String(": ");
+    if (m_reports < MaxReports)
+        qDebug().noquote() << QString(message + what + QLatin1String("; ") + done);
+    else
+        qDebug().noquote() << QString(
+            message + QLatin1String("too many problems; the rest is not reported"));
+}
+
+ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag)
+{
+    ThemeFileBudget budget;
+    ThemeDocuments documents;
+    documents.push_back(std::make_unique<ThemeDocument>(path, budget));
+    if (documents.front()->getStatus() != ThemeDocument::NO_ERROR
+        || !hasRoot(*documents.front(), rootTag))
+        return documents;
+
+    const QFileInfo file(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+    const QString repository = QFileInfo(file.absolutePath()).absolutePath();
+    QStringList themes{file.absoluteDir().dirName()};
+    const QString extends = QStringLiteral("extends");
+    for (ThemeElement root = documents.back()->getRoot(); root.hasAttribute(extends);
+         root = documents.back()->getRoot()) {
+        const QString base = root.getAttribute(extends);
+        QString problem = problemOfBase(base, themes);
+        std::unique_ptr<ThemeDocument> document;
+        if (problem.isEmpty()) {
+            const QString basePath =
+                repository + QLatin1Char('/') + base + QLatin1Char('/') + file.fileName();
+            document = std::make_unique<ThemeDocument>(basePath, budget);
+            if (document->getStatus() != ThemeDocument::NO_ERROR || !hasRoot(*document, rootTag))
+                problem = QStringLiteral("extends ") + quoted(base)
+                          + QStringLiteral(", which has no readable ") + file.fileName();
+        }
+        if (!problem.isEmpty()) {
+            root.report(problem, QStringLiteral("read without it"));
+            break;
+        }
+        themes += base;
+        documents.push_back(std::move(document));
+    }
+    return documents;
+}
+
+} // namespace BRELK

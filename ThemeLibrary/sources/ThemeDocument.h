@@ -1,0 +1,112 @@
+#pragma once
+
+#include <QDomDocument>
+#include <QString>
+
+#include <initializer_list>
+#include <memory>
+#include <vector>
+
+namespace BRELK {
+
+class ThemeDocument;
+
+/// An element of a theme file that knows how to report problems with itself. Valid as long as its
+/// document.
+class ThemeElement
+{
+public:
+    ThemeElement(const ThemeDocument& document, const QDomElement& element);
+
+    QString getTag() const { return m_element.tagName(); }
+
+    /// The text without the blanks around it.
+    QString getText() const;
+
+    bool hasAttribute(const QString& name) const { return m_element.hasAttribute(name); }
+
+    QString getAttribute(const QString& name) const { return m_element.attribute(name); }
+
+    /// The elements within this one; other content is reported.
+    std::vector<ThemeElement> getChildren() const;
+
+    /// `text` as a number from `smallest` to `largest`. Any other text makes `ok` false and has the
+    /// element rejected.
+    double readNumber(const QString& text, double smallest, double largest, bool& ok) const;
+
+    /// The same for whole numbers.
+    int readInteger(const QString& text, int smallest, int largest, bool& ok) const;
+
+    /// Reports each attribute that is not among `known`.
+    void checkAttributes(std::initializer_list<const char*> known) const;
+
+    /// The same for an element that holds only text; elements within it are reported too.
+    void checkTextElement(std::initializer_list<const char*> knownAttributes) const;
+
+    /// Reports that this element is left out because of `problem`.
+    void reject(const QString& problem) const;
+
+    /// Reports that this element is left out because its tag means nothing where it stands.
+    void rejectUnknown() const;
+
+    /// Reports `what` is wrong here, and what was `done` about it.
+    void report(const QString& what, const QString& done) const;
+
+private:
+    const ThemeDocument* m_document;
+    QDomElement m_element;
+};
+
+/// What may be read of a theme file and the files it extends together. It is far more than any
+/// theme needs, and little enough to be read in no time.
+struct ThemeFileBudget
+{
+    int bytes = 1 << 20;
+    int elements = 20000;
+};
+
+/// A theme file that is safe to walk: of bounded size and depth, free of entities.
+class ThemeDocument
+{
+public:
+    enum Status : unsigned { NO_ERROR = 0, FILE_NOT_FOUND_ERROR = 1, READ_ERROR = 2 };
+
+    /// Reads the file at `path`; the budget loses what was read. A file that is not well-formed or
+    /// too large is reported.
+    ThemeDocument(const QString& path, ThemeFileBudget& budget);
+    Q_DISABLE_COPY(ThemeDocument)
+
+    /// `FILE_NOT_FOUND_ERROR` when there is no such file or it cannot be opened, `READ_ERROR` when
+    /// it is not well-formed XML, too large or too deep.
+    Status getStatus() const { return m_status; }
+
+    /// The file's content. Of a file that is not well-formed, what stands before the error.
+    const QDomDocument& getContent() const { return m_content; }
+
+    ThemeElement getRoot() const { return {*this, m_content.documentElement()}; }
+
+    /// Writes `file:line: what; done` to the debug logger.
+    void report(int line, const QString& what, const QString& done) const;
+
+private:
+    void parse(const QString& text, ThemeFileBudget& budget);
+    void fail(int line, const QString& what);
+
+    QString m_path;
+    QDomDocument m_content;
+    Status m_status = NO_ERROR;
+    mutable int m_reports = 0;
+};
+
+/// A theme file, followed by the one it extends, and so on. Never empty.
+using ThemeDocuments = std::vector<std::unique_ptr<ThemeDocument>>;
+
+/// Reads the theme file at `path` and, as its root's attribute "extends" says, the files of the
+/// same name in sibling theme directories. Only the first document's status can differ from
+/// `NO_ERROR`; a base that cannot be read is reported and ends the list.
+ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag);
+
+/// `text` as it appears in reports: in quotes, on one line, and of moderate length.
+QString quoted(const QString& text);
+
+} // namespace BRELK
