@@ -1,10 +1,14 @@
+#include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
-#include "StyleContext.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 
 #include <QPainterPath>
 
 // Check boxes, radio buttons and switches.
+//
+// Properties: "drawErrorIndicator", "switch", "textAlignment".
 
 namespace BRELK::CheckBoxes {
 
@@ -74,24 +78,129 @@ QRect contentsRect(const StyleContext& context, const QStyleOptionButton& button
                            rect.width() - indicator.width() - spacing, rect.height()});
 }
 
+namespace {
+
+/// What the indicators' parts are painted in.
+struct IndicatorBrushes
+{
+    QBrush background;
+    QBrush border;
+    QBrush mark;
+};
+
+/// A checked indicator is filled with what is its border at rest, so that its mark stands out from
+/// it; the mouse and a press brighten border or mark.
+IndicatorBrushes indicatorBrushes(const PaintContext& context)
+{
+    const bool hovered = BaseStyle::isHovered(&context.option);
+    IndicatorBrushes brushes{context.brush(ThemeNames::controlBackgroundBrush()),
+                             context.brush(ThemeNames::controlBorderBrush()),
+                             context.brush(ThemeNames::foregroundMouseOverBrush())};
+    if (hovered || BaseStyle::isPressed(context.option))
+        brushes.border = brushes.mark;
+    if (context.flag(WidgetProperties::DrawErrorIndicator))
+        brushes.border = context.color(ThemeNames::statusDangerColor());
+    return brushes;
+}
+
+/// The track of a switch and its knob: at the end when on, in the middle when partially on.
+void paintSwitch(const PaintContext& context, const IndicatorBrushes& brushes)
+{
+    constexpr int KnobMargin = 3;
+    const QRect& rect = context.option.rect;
+    const bool on = context.has(QStyle::State_On);
+    Shapes::drawBox(context, rect, rect.height() / 2, brushes.background, brushes.border);
+
+    const int diameter = rect.height() - 2 * KnobMargin;
+    const int travel = rect.width() - 2 * KnobMargin - diameter;
+    const int offset = on ? travel : context.has(QStyle::State_NoChange) ? travel / 2 : 0;
+    const QRect knob(rect.x() + KnobMargin + offset, rect.y() + KnobMargin, diameter, diameter);
+    const PainterSaver saver(context.painter);
+    context.painter.setRenderHint(QPainter::Antialiasing);
+    context.painter.setPen(Qt::NoPen);
+    context.painter.setBrush(context.brush(on ? ThemeNames::switchForegroundCheckedEllipseBrush()
+                                              : ThemeNames::switchEllipseBrush()));
+    context.painter.drawEllipse(context.visual(knob));
+}
+
+void paintPartialMark(const PaintContext& context, const QBrush& brush)
+{
+    constexpr int Inset = 4;
+    constexpr int Thickness = 2;
+    const QRect& rect = context.option.rect;
+    const QRect bar(rect.x() + Inset, rect.y() + (rect.height() - Thickness) / 2,
+                    rect.width() - 2 * Inset, Thickness);
+    context.painter.fillRect(bar, brush);
+}
+
+} // namespace
+
 void paintIndicator(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorCheckBox);
+    const IndicatorBrushes brushes = indicatorBrushes(context);
+    const QRect& rect = context.option.rect;
+    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
+    if (context.flag(WidgetProperties::Switch)) {
+        paintSwitch(context, brushes);
+    } else {
+        Shapes::drawBox(context, rect, radius, brushes.background, brushes.border);
+        if (context.has(QStyle::State_NoChange))
+            paintPartialMark(context, brushes.mark);
+        else if (context.has(QStyle::State_On))
+            context.style.drawCheckMark(&context.painter, rect, brushes.mark);
+    }
+    if (context.flag(WidgetProperties::DrawErrorIndicator))
+        Helpers::drawInputStatusIndicator(rect, radius, brushes.border.color(), &context.painter);
 }
 
 void paintRadioIndicator(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorRadioButton);
+    const IndicatorBrushes brushes = indicatorBrushes(context);
+    const QRect& rect = context.option.rect;
+    Shapes::drawBox(context, rect, qMin(rect.width(), rect.height()) / 2, brushes.background,
+                    brushes.border);
+    if (context.has(QStyle::State_On))
+        context.style.drawRadioMark(&context.painter, rect.adjusted(2, 2, -2, -2), brushes.mark);
 }
 
-void paintCheckBox(const PaintContext& context, const QStyleOptionButton&)
+void paintCheckBox(const PaintContext& context, const QStyleOptionButton& button)
 {
-    context.drawByBase(QStyle::CE_CheckBox);
+    QStyleOptionButton part = button;
+    part.rect = context.part(QStyle::SE_CheckBoxIndicator);
+    context.draw(QStyle::PE_IndicatorCheckBox, part);
+
+    part.rect = context.part(QStyle::SE_CheckBoxContents);
+    context.draw(QStyle::CE_CheckBoxLabel, part);
+
+    if (context.has(QStyle::State_HasFocus)) {
+        QStyleOptionFocusRect focus;
+        focus.QStyleOption::operator=(button);
+        focus.rect = context.part(QStyle::SE_CheckBoxFocusRect);
+        context.draw(QStyle::PE_FrameFocusRect, focus);
+    }
 }
 
-void paintLabel(const PaintContext& context, const QStyleOptionButton&)
+void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
 {
-    context.drawByBase(QStyle::CE_CheckBoxLabel);
+    const QVariant alignment = context.property(WidgetProperties::TextAlignment);
+    const int flags =
+        alignment.isValid() ? alignment.toInt() : int(Qt::AlignLeft | Qt::AlignVCenter);
+    const QBrush foreground = button.palette.brush(QPalette::WindowText);
+
+    QRect rect = button.rect;
+    if (!button.icon.isNull()) {
+        constexpr int IconSpacing = 4;
+        const QSize size = button.icon.actualSize(button.iconSize);
+        const QRect iconRect(rect.x(), rect.y() + (rect.height() - size.height()) / 2, size.width(),
+                             size.height());
+        const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(button.icon, foreground);
+        context.proxy().drawItemPixmap(&context.painter, context.visual(iconRect), Qt::AlignCenter,
+                                       Shapes::iconPixmap(context.painter, icon, size));
+        rect = context.visual(rect.adjusted(size.width() + IconSpacing, 0, 0, 0));
+    }
+    const auto visualFlags = QStyle::visualAlignment(button.direction, Qt::Alignment(flags));
+    Shapes::drawText(context, rect, int(visualFlags) | Qt::TextShowMnemonic, button.text,
+                     foreground);
 }
 
 } // namespace BRELK::CheckBoxes

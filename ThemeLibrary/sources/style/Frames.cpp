@@ -1,6 +1,7 @@
 #include "Families.h"
 #include "StyleContext.h"
 
+#include <QAbstractScrollArea>
 #include <QLineEdit>
 
 // Focus marks, tool tips and the frames of QFrame.
@@ -10,6 +11,7 @@ namespace BRELK::Frames {
 namespace {
 
 constexpr int FrameWidth = 1;
+constexpr int ScrollAreaFrameWidth = 2;
 constexpr int LineEditPadding = 4;
 constexpr int ToolTipPadding = 4;
 constexpr int FocusMargin = 2;
@@ -23,6 +25,9 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
     case QStyle::PM_FocusFrameHMargin:
     case QStyle::PM_FocusFrameVMargin: return context.dpiScaled(FocusMargin);
     default:
+        // The square viewport of a scroll area stays clear of the frame's round corners.
+        if (qobject_cast<const QAbstractScrollArea*>(context.widget))
+            return ScrollAreaFrameWidth;
         // A line edit counts the room between border and text as part of its frame.
         return qobject_cast<const QLineEdit*>(context.widget) ? context.dpiScaled(LineEditPadding)
                                                               : FrameWidth;

@@ -1,7 +1,16 @@
+#include "ButtonContent.h"
 #include "Families.h"
-#include "StyleContext.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+#include "WidgetTraits.h"
+
+#include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
+#include <QComboBox>
 
 // Line edits, and the frames that text editors and views share with them.
+//
+// Properties: "drawErrorIndicator".
 
 namespace BRELK::LineEdits {
 
@@ -14,14 +23,96 @@ QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame
             qMax(contents.height() + 2 * frame.lineWidth, context.controlHeight())};
 }
 
-void paintFrame(const PaintContext& context, const QStyleOptionFrame&)
+namespace {
+
+using Corners = Helpers::StraightCornerFlags;
+
+bool isEditorOfOther(const QWidget* widget)
 {
-    context.drawByBase(QStyle::PE_FrameLineEdit);
+    const QWidget* parent = widget ? widget->parentWidget() : nullptr;
+    return qobject_cast<const QComboBox*>(parent) || qobject_cast<const QAbstractSpinBox*>(parent);
 }
 
-void paintPanel(const PaintContext& context, const QStyleOptionFrame&)
+/// An editable combo box, or a date edit that looks like one: its frame meets the arrow's panel.
+bool isComboBox(const QWidget* widget)
 {
-    context.drawByBase(QStyle::PE_PanelLineEdit);
+    return qobject_cast<const QComboBox*>(widget) || WidgetTraits::isCalendarPopupEditor(widget);
+}
+
+/// What lies between the border and the contents.
+QBrush background(const PaintContext& context, const QBrush& themed)
+{
+    if (const auto* area = qobject_cast<const QAbstractScrollArea*>(context.widget)) {
+        const QWidget* viewport = area->viewport();
+        return viewport->palette().brush(viewport->backgroundRole());
+    }
+    return ButtonContent::textBrush(context.option, context.widget, QPalette::Base, themed);
+}
+
+QBrush inputBackground(const PaintContext& context)
+{
+    if (context.has(QStyle::State_HasFocus) && !context.has(QStyle::State_ReadOnly))
+        return context.brush(ThemeNames::inputBackgroundActiveBrush());
+    // A read-only field stands back like a disabled one, but its text does not.
+    const bool editable = context.enabled() && !context.has(QStyle::State_ReadOnly);
+    return BaseStyle::getBrush(ThemeNames::inputUncheckedBackgroundBrush(), editable);
+}
+
+QBrush inputBorder(const PaintContext& context)
+{
+    return context.brush(context.has(QStyle::State_HasFocus) ? ThemeNames::inputBorderActiveBrush()
+                                                             : ThemeNames::inputBorderBrush());
+}
+
+/// Only inputs and views are filled: a line edit's panel is already, and a plain frame shows what
+/// it stands on.
+bool isFilledByFrame(const QWidget* widget)
+{
+    return isComboBox(widget) || qobject_cast<const QAbstractScrollArea*>(widget);
+}
+
+} // namespace
+
+void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
+{
+    if (WidgetTraits::isInComboBoxPopup(context.widget)
+        || WidgetTraits::isComboBoxPopup(context.widget)) {
+        Shapes::drawBox(context, frame.rect, 0, Qt::NoBrush, context.borderBrush());
+        return;
+    }
+    QBrush fill = Qt::NoBrush;
+    QBrush border = inputBorder(context);
+    Corners corners = Helpers::None;
+    if (isComboBox(context.widget)) {
+        const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&frame, context.widget);
+        fill = brushes.backgroundBrush;
+        border = brushes.borderBrush;
+        corners = Helpers::RightCorners;
+    } else if (isFilledByFrame(context.widget)) {
+        fill = background(context, inputBackground(context));
+    }
+
+    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
+    const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
+    const QColor errorColor = hasError ? context.color(ThemeNames::statusDangerColor()) : QColor();
+    Shapes::drawBox(context, frame.rect, radius, fill, hasError ? QBrush(errorColor) : border,
+                    corners);
+    if (hasError)
+        Helpers::drawInputStatusIndicator(frame.rect, radius, errorColor, &context.painter);
+}
+
+void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame)
+{
+    if (isEditorOfOther(context.widget))
+        return;
+    const QBrush fill = background(context, inputBackground(context));
+    if (frame.lineWidth <= 0) {
+        context.painter.fillRect(frame.rect, fill);
+        return;
+    }
+    const int radius = qMax(0, Shapes::cornerRadius(ThemeNames::baseSize()) - 1);
+    Shapes::drawBox(context, frame.rect.adjusted(1, 1, -1, -1), radius, fill, Qt::NoBrush);
+    context.draw(QStyle::PE_FrameLineEdit, frame);
 }
 
 } // namespace BRELK::LineEdits

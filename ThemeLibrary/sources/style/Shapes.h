@@ -3,6 +3,7 @@
 #include "Helpers.h"
 #include "StyleContext.h"
 
+#include <QPainter>
 #include <QPen>
 
 /// How borders, boxes, lines, icons and texts are drawn: on whole pixels, and the same way by every
