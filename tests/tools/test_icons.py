@@ -106,6 +106,12 @@ class Files(unittest.TestCase):
                     if words[0] in groups and words[-1] not in NOT_NAMES:
                         self.assertTrue(name in ICONS or name in CURSORS, f"{path.name}: {name}")
 
+    def test_the_documentation_shows_every_group(self):
+        text = (ROOT / "docs/icons.md").read_text(encoding="utf-8")
+        shown = set(re.findall(r"\(images/icons/(\w+)\.png\)", text))
+        self.assertEqual(shown, {name.partition(".")[0] for name in ICONS} | {"cursors"})
+        self.assertEqual(shown, {path.stem for path in (ROOT / "docs/images/icons").glob("*.png")})
+
     def test_every_glyph_is_used(self):
         text = " ".join(f"{row['base']} {row['modifiers']}" for row in MANIFEST.values())
         text += " ".join(row["drawing"] for row in CURSORS.values())
