@@ -45,14 +45,21 @@ Type=Scalable
 MinSize=1
 MaxSize=512
 ")
+    set(bundled)
     set(entries "<file alias=\"index.theme\">${index}</file>\n")
     foreach(icon IN LISTS icons)
         get_filename_component(base ${icon} NAME)
+        # Of two files of one name Qt shows the bundle's, so a theme's own icon goes into it.
+        set(own ${CMAKE_CURRENT_SOURCE_DIR}/${name}/Images/${name}/scalable/${base})
+        if(EXISTS ${own})
+            set(icon ${own})
+        endif()
+        list(APPEND bundled ${icon})
         string(APPEND entries "<file alias=\"scalable/${base}\">${icon}</file>\n")
     endforeach()
     file(CONFIGURE OUTPUT ${file} @ONLY CONTENT
 "<RCC><qresource prefix=\"/icons/@name@\">
 @entries@</qresource></RCC>
 ")
-    set(${iconsVariable} ${icons} PARENT_SCOPE)
+    set(${iconsVariable} ${bundled} PARENT_SCOPE)
 endfunction()
