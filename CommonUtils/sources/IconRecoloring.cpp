@@ -1,10 +1,172 @@
 #include "Helpers.h"
+#include "PixelRecoloring.h"
+
+#include <QCache>
+#include <QCoreApplication>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmapCache>
+
+#include <cmath>
 
 namespace BRELK {
 
-QIcon Helpers::getModifiedIconWithForegroundBrush(QIcon icon, QBrush, QBrush, bool)
+namespace {
+
+constexpr int MostIcons = 512;
+constexpr int LargestSide = 2048;
+
+/// The icon inside is asked in device pixels, as this engine is; without the guard `QIcon` would
+/// scale by the device pixel ratio once more.
+class DevicePixels
 {
-    return icon;
+public:
+    DevicePixels() : m_highDpi(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
+    {
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
+    }
+
+    ~DevicePixels() { QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, m_highDpi); }
+
+    Q_DISABLE_COPY_MOVE(DevicePixels)
+
+private:
+    bool m_highDpi;
+};
+
+/// What makes two recolored icons the same. The icon theme is part of it because icons found in it
+/// by name change with it.
+struct Recoloring
+{
+    QIcon icon;
+    QBrush reference;
+    QBrush replacement;
+    bool disabled = false;
+    QString iconTheme = QIcon::themeName();
+
+    /// The color to replace; transparent if there is none, or nothing to replace it with.
+    QRgb referenceColor() const
+    {
+        return reference.style() == Qt::SolidPattern && replacement.style() != Qt::NoBrush
+                   ? reference.color().rgb()
+                   : 0;
+    }
+
+    friend bool operator==(const Recoloring& one, const Recoloring& other)
+    {
+        return one.icon.cacheKey() == other.icon.cacheKey() && one.disabled == other.disabled
+               && one.reference == other.reference && one.replacement == other.replacement
+               && one.iconTheme == other.iconTheme;
+    }
+
+    friend uint qHash(const Recoloring& recoloring, uint seed = 0)
+    {
+        // Gradients and textures share black as their color; the comparison tells them apart.
+        return ::qHash(recoloring.icon.cacheKey(), seed)
+               ^ (recoloring.replacement.color().rgba() * 31U + recoloring.disabled);
+    }
+};
+
+class RecoloredIconEngine : public QIconEngine
+{
+public:
+    explicit RecoloredIconEngine(const Recoloring& recoloring)
+        : m_recoloring(recoloring), m_name(recoloring.icon.name())
+    { }
+
+    QIconEngine* clone() const override { return new RecoloredIconEngine(*this); }
+
+    QString iconName() const override { return m_name; }
+
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State state) const override
+    {
+        return m_recoloring.icon.availableSizes(QIcon::Normal, state);
+    }
+
+    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State state) override
+    {
+        const DevicePixels devicePixels;
+        return m_recoloring.icon.actualSize(size, QIcon::Normal, state);
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        const bool disabled = m_recoloring.disabled || mode == QIcon::Disabled;
+        const QString key = cacheKey(size, state, disabled);
+        QPixmap result;
+        if (!QPixmapCache::find(key, &result)) {
+            result = QPixmap::fromImage(drawn(size, state, disabled));
+            if (!result.isNull())
+                QPixmapCache::insert(key, result);
+        }
+        return result;
+    }
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        const QTransform transform = painter->deviceTransform();
+        const qreal scale = std::sqrt(std::abs(transform.determinant()));
+        const QSize size = (QSizeF(rect.size()) * scale).toSize();
+        const QSize largest(LargestSide, LargestSide);
+        painter->drawPixmap(rect, pixmap(size.boundedTo(largest), mode, state));
+    }
+
+    void virtual_hook(int id, void* data) override
+    {
+        if (id == IsNullHook)
+            *static_cast<bool*>(data) = m_recoloring.icon.isNull();
+        else
+            QIconEngine::virtual_hook(id, data);
+    }
+
+private:
+    QString cacheKey(const QSize& size, QIcon::State state, bool disabled) const
+    {
+        const auto number = [](quint64 value) { return QString::number(value, 36); };
+        return QLatin1String("varn-icon-") % number(m_serial) % QLatin1Char('-')
+               % number(quint64(size.width()) << 32 | quint64(size.height()) << 2
+                        | quint64(state == QIcon::On) << 1 | quint64(disabled))
+               % QIcon::themeName();
+    }
+
+    QImage drawn(const QSize& size, QIcon::State state, bool disabled) const
+    {
+        const DevicePixels devicePixels;
+        QImage icon = m_recoloring.icon.pixmap(size, QIcon::Normal, state).toImage();
+        icon.setDevicePixelRatio(1);
+        if (icon.isNull())
+            return icon;
+        QImage fill(icon.size(), QImage::Format_ARGB32_Premultiplied);
+        fill.fill(Qt::transparent);
+        QPainter(&fill).fillRect(fill.rect(), m_recoloring.replacement);
+        return recoloredImage(icon, m_recoloring.referenceColor(), fill, disabled);
+    }
+
+    static quint64 nextSerial()
+    {
+        static quint64 sSerial = 0;
+        return ++sSerial;
+    }
+
+    Recoloring m_recoloring;
+    QString m_name;
+    quint64 m_serial = nextSerial();
+};
+
+} // namespace
+
+QIcon Helpers::getModifiedIconWithForegroundBrush(QIcon icon, QBrush reference, QBrush replacement,
+                                                  bool disabled)
+{
+    if (icon.isNull())
+        return icon;
+    static QCache<Recoloring, QIcon> sIcons(MostIcons);
+    const Recoloring recoloring{icon, reference, replacement, disabled};
+    if (const QIcon* known = sIcons.object(recoloring))
+        return *known;
+    const QIcon recolored(new RecoloredIconEngine(recoloring));
+    sIcons.insert(recoloring, new QIcon(recolored));
+    return recolored;
 }
 
 } // namespace BRELK

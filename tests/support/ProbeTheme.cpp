@@ -67,12 +67,15 @@ QHash<QRgb, QByteArray>& namesByColor()
     return sNames;
 }
 
-/// A new color, far from the one before: multiplying by an odd number visits each once.
+/// A new color, far from the one before: multiplying by an odd number visits each once. Its
+/// channels are multiples of 4, so that it is known after the rounding of a faded icon.
 QColor nextColor(const QByteArray& name)
 {
     constexpr unsigned Stride = 0x9E3779;
     const auto index = static_cast<unsigned>(namesByColor().size() + 1);
-    const QRgb color = 0xff000000 | ((index * Stride) & 0xffffff);
+    const unsigned sixBitChannels = index * Stride;
+    const QRgb color = 0xff000000 | (sixBitChannels & 0x3f000) << 6 | (sixBitChannels & 0xfc0) << 4
+                       | (sixBitChannels & 0x3f) << 2;
     namesByColor().insert(color, name);
     return QColor::fromRgb(color);
 }

@@ -98,18 +98,25 @@ QByteArray penStyleText(const QPen& pen)
     return words.join(' ');
 }
 
-/// The color of most of the opaque pixels, so that a recolored icon tells with which brush.
+/// The color of most of the pixels that are not edges, so that a recolored icon, faded or not,
+/// tells with which brush.
 QByteArray mainColorOf(const QImage& source)
 {
     const QImage image = source.convertToFormat(QImage::Format_ARGB32);
     QMap<QRgb, int> counts;
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x)
-            if (qAlpha(image.pixel(x, y)) == 255)
-                ++counts[image.pixel(x, y)];
-    const auto most = std::max_element(counts.cbegin(), counts.cend());
-    return most == counts.cend() ? QByteArrayLiteral("none")
-                                 : ProbeTheme::nameOf(QColor::fromRgb(most.key()));
+            ++counts[image.pixel(x, y)];
+    const int alpha = counts.isEmpty() ? 0 : qAlpha(counts.lastKey());
+    if (alpha == 0)
+        return QByteArrayLiteral("none");
+    const auto most = std::max_element(counts.lowerBound(qRgba(0, 0, 0, alpha)), counts.end());
+    const QColor color = QColor::fromRgb(most.key());
+    const QByteArray name = ProbeTheme::nameOf(color);
+    const auto rounded = [](int channel) { return (channel + 2) & 0xfc; };
+    const QByteArray nearby = ProbeTheme::nameOf(
+        QColor(rounded(color.red()), rounded(color.green()), rounded(color.blue())));
+    return nearby.startsWith('#') ? name : nearby;
 }
 
 } // namespace

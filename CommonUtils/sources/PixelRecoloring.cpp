@@ -1,0 +1,201 @@
+#include "PixelRecoloring.h"
+
+#include <QColor>
+#include <QPainter>
+#include <QRect>
+
+#include <algorithm>
+#include <cmath>
+
+namespace BRELK {
+
+namespace {
+
+constexpr int Opaque = 255;
+
+/// How far from a pixel the two colors that it blends are looked for: the width of a soft edge.
+constexpr int EdgeWidth = 2;
+
+/// How far a blend may be from the line between its two colors.
+constexpr float LargestDeviation = 12;
+
+constexpr int DisabledOpacity = 178;
+
+struct Rgb
+{
+    explicit Rgb(QRgb color)
+        : red(float(qRed(color))), green(float(qGreen(color))), blue(float(qBlue(color)))
+    { }
+
+    Rgb(float r, float g, float b) : red(r), green(g), blue(b) { }
+
+    Rgb operator-(const Rgb& other) const
+    {
+        return {red - other.red, green - other.green, blue - other.blue};
+    }
+
+    Rgb operator*(float factor) const { return {red * factor, green * factor, blue * factor}; }
+
+    float dot(const Rgb& other) const
+    {
+        return red * other.red + green * other.green + blue * other.blue;
+    }
+
+    float length() const { return std::sqrt(dot(*this)); }
+
+    float red;
+    float green;
+    float blue;
+};
+
+/// What the channels of a premultiplied color may be off after dividing by its alpha.
+int roundingError(int alpha)
+{
+    return 2 + Opaque / std::max(alpha, 1);
+}
+
+bool isNear(QRgb color, QRgb other, int tolerance)
+{
+    return std::abs(qRed(color) - qRed(other)) <= tolerance
+           && std::abs(qGreen(color) - qGreen(other)) <= tolerance
+           && std::abs(qBlue(color) - qBlue(other)) <= tolerance;
+}
+
+/// An opaque color in a pixel, next to the reference color.
+struct Blend
+{
+    float referenceShare = 0;
+    QRgb other = 0;
+};
+
+class IconReader
+{
+public:
+    IconReader(const QImage& icon, QRgb reference)
+        : m_icon(icon.convertToFormat(QImage::Format_ARGB32)), m_reference(reference)
+    { }
+
+    QRgb at(int x, int y) const
+    {
+        return reinterpret_cast<const QRgb*>(m_icon.constScanLine(y))[x];
+    }
+
+    Blend blendAt(int x, int y) const
+    {
+        const QRgb color = at(x, y);
+        if (isReference(color))
+            return {1, color};
+        if (isFlat(x, y) || !anyNear(x, y, [this](QRgb near) { return isReference(near); }))
+            return {0, color};
+        return unmixed(x, y);
+    }
+
+private:
+    bool isReference(QRgb color) const
+    {
+        return qAlpha(m_reference) == Opaque && qAlpha(color)
+               && isNear(color, m_reference, roundingError(qAlpha(color)));
+    }
+
+    QRect around(int x, int y, int distance) const
+    {
+        return QRect(x - distance, y - distance, 2 * distance + 1, 2 * distance + 1)
+               & m_icon.rect();
+    }
+
+    template <class Predicate>
+    bool anyNear(int x, int y, Predicate predicate) const
+    {
+        const QRect area = around(x, y, EdgeWidth);
+        for (int row = area.top(); row <= area.bottom(); ++row)
+            for (int column = area.left(); column <= area.right(); ++column)
+                if (predicate(at(column, row)))
+                    return true;
+        return false;
+    }
+
+    /// Whether the pixel lies inside an area of its color and so is no blend.
+    bool isFlat(int x, int y) const
+    {
+        const QRgb color = at(x, y);
+        const QRect area = around(x, y, 1);
+        for (int row = area.top(); row <= area.bottom(); ++row)
+            for (int column = area.left(); column <= area.right(); ++column)
+                if (qAlpha(at(column, row)) != qAlpha(color)
+                    || !isNear(at(column, row), color, roundingError(qAlpha(color))))
+                    return false;
+        return true;
+    }
+
+    /// Takes the pixel for a blend of the reference with the nearby color that explains it best:
+    /// the one for which it lies closest to the line between the two, and short of its end.
+    Blend unmixed(int x, int y) const
+    {
+        const QRgb color = at(x, y);
+        const Rgb reference(m_reference);
+        const Rgb difference = Rgb(color) - reference;
+        Blend best{0, color};
+        float smallest = LargestDeviation + float(roundingError(qAlpha(color)));
+        anyNear(x, y, [&](QRgb other) {
+            const Rgb line = Rgb(other) - reference;
+            const float share = difference.dot(line) / std::max(line.dot(line), 1.0F);
+            const float deviation = (difference - line * share).length();
+            if (qAlpha(other) && share > 0 && share < 1 && deviation < smallest) {
+                smallest = deviation;
+                best = {1 - share, other};
+            }
+            return false;
+        });
+        return best;
+    }
+
+    QImage m_icon;
+    QRgb m_reference;
+};
+
+QRgb withoutColor(QRgb color)
+{
+    const int gray = qGray(color);
+    return qRgba(gray, gray, gray, qAlpha(color));
+}
+
+/// The premultiplied color of a pixel with the given opacity.
+QRgb mixed(QRgb replacement, const Blend& blend, int alpha)
+{
+    const float covered = float(alpha) * blend.referenceShare / Opaque;
+    const float rest = float(alpha) * (1 - blend.referenceShare) / Opaque;
+    const auto channel = [&](int ofReplacement, int ofOther) {
+        return int(std::lround(float(ofReplacement) * covered + float(ofOther) * rest));
+    };
+    return qRgba(channel(qRed(replacement), qRed(blend.other)),
+                 channel(qGreen(replacement), qGreen(blend.other)),
+                 channel(qBlue(replacement), qBlue(blend.other)),
+                 channel(qAlpha(replacement), Opaque));
+}
+
+} // namespace
+
+QImage recoloredImage(const QImage& icon, QRgb reference, const QImage& replacement, bool disabled)
+{
+    const IconReader reader(icon, reference);
+    QImage result(icon.size(), QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < result.height(); ++y) {
+        const auto* fill = reinterpret_cast<const QRgb*>(replacement.constScanLine(y));
+        auto* line = reinterpret_cast<QRgb*>(result.scanLine(y));
+        for (int x = 0; x < result.width(); ++x) {
+            int alpha = qAlpha(reader.at(x, y));
+            line[x] = 0;
+            if (alpha == 0)
+                continue;
+            Blend blend = reader.blendAt(x, y);
+            if (disabled) {
+                alpha = alpha * DisabledOpacity / Opaque;
+                blend.other = withoutColor(blend.other);
+            }
+            line[x] = mixed(fill[x], blend, alpha);
+        }
+    }
+    return result;
+}
+
+} // namespace BRELK
