@@ -161,9 +161,10 @@ void addStandardIcons(Section& section)
     constexpr int PrefixLength = 3; // "SP_"
     auto* sheet = new Sheet(6);
     const auto names = QMetaEnum::fromType<QStyle::StandardPixmap>();
-    for (int index = 0; names.value(index) < QStyle::SP_CustomBase && index < names.keyCount();
-         ++index) {
+    for (int index = 0; index < names.keyCount(); ++index) {
         const auto id = static_cast<QStyle::StandardPixmap>(names.value(index));
+        if (id == QStyle::SP_CustomBase)
+            continue;
         const QIcon icon = section.style()->standardIcon(id, nullptr, &section);
         sheet->add(icon.pixmap(3 * Unit, 3 * Unit),
                    QString::fromLatin1(names.key(index) + PrefixLength));

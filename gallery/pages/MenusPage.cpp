@@ -2,8 +2,7 @@
 #include "ThemeResources.h"
 #include "kit/Page.h"
 #include "kit/Picture.h"
-#include "kit/Properties.h"
-#include "kit/ThemeValues.h"
+#include "kit/Specimen.h"
 
 #include <QActionGroup>
 #include <QLabel>
@@ -117,7 +116,7 @@ QMenuBar* makeMenuBar()
         menu->setParent(bar, menu->windowFlags());
         bar->addMenu(menu);
     }
-    bar->addAction(getIcon(QStringLiteral("action.help")), QStringLiteral("&Help"));
+    bar->addAction(QStringLiteral("&Help"))->setIcon(getIcon(QStringLiteral("action.help")));
     bar->addAction(QStringLiteral("&Disabled"))->setEnabled(false);
     return bar;
 }
