@@ -47,6 +47,7 @@ QPixmap picture(const PageEntry& entry)
     window.resize(width, height);
     window.show();
     QApplication::setActiveWindow(&window);
+    settle();
     focus.setFocus(Qt::TabFocusReason);
     settle();
     return window.grab();

@@ -10,7 +10,6 @@ Picture::Picture(QWidget* popup, QWidget* owner) : m_popup(popup)
     owner->setParent(this, owner->windowFlags());
     owner->hide();
     m_popup->ensurePolished();
-    m_popup->adjustSize();
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

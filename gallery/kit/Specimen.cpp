@@ -63,7 +63,7 @@ private:
 class PointerAt : public QObject
 {
 public:
-    using Place = std::function<QPoint(const QWidget&)>;
+    using Place = std::function<QPoint()>;
 
     PointerAt(QWidget& widget, State state, Place place)
         : QObject(&widget), m_state(state), m_place(std::move(place))
@@ -83,10 +83,12 @@ private:
     void point()
     {
         auto& widget = *qobject_cast<QWidget*>(parent());
-        const QPoint place = m_place(widget);
+        const QPoint place = m_place();
         widget.setAttribute(Qt::WA_UnderMouse);
         QHoverEvent hover(QEvent::HoverEnter, place, QPoint(-1, -1));
         QCoreApplication::sendEvent(&widget, &hover);
+        QMouseEvent move(QEvent::MouseMove, place, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &move);
         if (m_state == State::Pressed && !m_pressed) {
             QMouseEvent press(QEvent::MouseButtonPress, place, Qt::LeftButton, Qt::LeftButton,
                               Qt::NoModifier);
@@ -135,27 +137,6 @@ void freeze(QWidget& widget)
     widget.setFocusPolicy(Qt::NoFocus);
 }
 
-void forceWith(QWidget& widget, State state, PointerAt::Place place)
-{
-    switch (state) {
-    case State::Normal: return;
-    case State::Disabled: widget.setEnabled(false); return;
-    case State::Focused:
-        freeze(widget);
-        SharedFocus::instance().add(widget);
-        return;
-    case State::Pressed:
-        if (auto* button = qobject_cast<QAbstractButton*>(&widget))
-            button->setDown(true);
-        break;
-    case State::Hovered: break;
-    }
-    freeze(widget);
-    widget.setAttribute(Qt::WA_UnderMouse);
-    const bool pressedByButton = qobject_cast<QAbstractButton*>(&widget) != nullptr;
-    new PointerAt(widget, pressedByButton ? State::Hovered : state, std::move(place));
-}
-
 } // namespace
 
 QString nameOf(State state)
@@ -172,15 +153,27 @@ QString nameOf(State state)
 
 void force(QWidget& widget, State state)
 {
-    forceWith(widget, state, usualPlace);
+    forceAt(widget, state, [&widget] { return usualPlace(widget); });
 }
 
-void forceAt(QWidget& widget, State state, const QPoint& where)
+void forceAt(QWidget& widget, State state, std::function<QPoint()> place)
 {
-    forceWith(widget, state, [where](const QWidget& specimen) {
-        const bool mirrored = specimen.layoutDirection() == Qt::RightToLeft;
-        return mirrored ? QPoint(specimen.width() - 1 - where.x(), where.y()) : where;
-    });
+    switch (state) {
+    case State::Normal: return;
+    case State::Disabled: widget.setEnabled(false); return;
+    case State::Focused:
+        freeze(widget);
+        SharedFocus::instance().add(widget);
+        return;
+    case State::Pressed:
+    case State::Hovered: break;
+    }
+    freeze(widget);
+    widget.setAttribute(Qt::WA_UnderMouse);
+    auto* button = qobject_cast<QAbstractButton*>(&widget);
+    if (button)
+        button->setDown(state == State::Pressed);
+    new PointerAt(widget, button ? State::Hovered : state, std::move(place));
 }
 
 } // namespace Gallery

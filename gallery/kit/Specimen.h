@@ -3,6 +3,8 @@
 #include <QPoint>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace Gallery {
@@ -17,8 +19,8 @@ QString nameOf(State state);
 /// person did it, so a style cannot tell the difference.
 void force(QWidget& widget, State state);
 
-/// As above with the mouse at `where`, in coordinates of `widget` in a left-to-right layout, which
-/// complex widgets such as tab bars and views need to know what is hovered or pressed.
-void forceAt(QWidget& widget, State state, const QPoint& where);
+/// As above with the mouse at `place`, in coordinates of `widget`, which complex widgets such as
+/// tab bars and views need to know what is hovered or pressed. It is asked anew after each resize.
+void forceAt(QWidget& widget, State state, std::function<QPoint()> place);
 
 } // namespace Gallery

@@ -136,7 +136,7 @@ QCommandLinkButton* makeCommandLink()
     auto* link = new QCommandLinkButton(QStringLiteral("Open a project"),
                                         QStringLiteral("Go on where you left off"));
     link->setIcon(getIcon(QStringLiteral("action.open")));
-    link->setMinimumWidth(26 * Unit);
+    link->setMinimumWidth(23 * Unit);
     return link;
 }
 

@@ -18,6 +18,7 @@ namespace Gallery {
 namespace {
 
 constexpr int FieldWidth = 19 * Unit;
+constexpr int PopupRows = 6;
 
 QComboBox* makeComboBox()
 {
@@ -117,12 +118,15 @@ QComboBox* makeTreeBox()
     return box;
 }
 
-/// The open list of `box` as a picture.
+/// The open list of `box` as a picture, its second item hovered.
 QWidget* popupOf(QComboBox* box)
 {
-    box->view()->setMinimumWidth(FieldWidth);
-    box->view()->setCurrentIndex(box->model()->index(1, 0));
-    return new Picture(box->view()->window(), box);
+    QAbstractItemView* view = box->view();
+    QWidget* popup = view->window();
+    popup->ensurePolished();
+    popup->resize(FieldWidth, view->sizeHintForRow(0) * PopupRows + 2 * Unit);
+    view->setCurrentIndex(box->model()->index(1, 0));
+    return new Picture(popup, box);
 }
 
 void addPopups(Section& section)

@@ -110,7 +110,7 @@ QMainWindow* makeDocks()
 {
     auto* window = new QMainWindow;
     window->setWindowFlags(Qt::Widget);
-    window->setCentralWidget(makeFiller(QStringLiteral("Central widget")));
+    window->setCentralWidget(new QTextEdit(QStringLiteral("Central widget")));
     window->addDockWidget(Qt::LeftDockWidgetArea, makeDock(QStringLiteral("Plain")));
     QDockWidget* upright = makeDock(QStringLiteral("Upright title"));
     upright->setFeatures(upright->features() | QDockWidget::DockWidgetVerticalTitleBar);

@@ -21,12 +21,13 @@ namespace Gallery {
 
 namespace {
 
-constexpr int GridWidth = 14 * Unit;
-constexpr int LabelHeight = 5 * Unit;
+constexpr int GridWidth = 17 * Unit;
+constexpr int LabelHeight = 3 * Unit;
 
 QStandardItemModel* makeIconModel(QObject* parent)
 {
-    QStringList names = BRELK::ThemeResources::getIcons(QRegularExpression(QStringLiteral("\\.")));
+    QStringList names =
+        BRELK::ThemeResources::getIcons(QRegularExpression(QStringLiteral("\\.(svg|png)$")));
     names.sort();
     auto* model = new QStandardItemModel(parent);
     for (const QString& name : names) {
@@ -49,7 +50,7 @@ QListView* makeIconGrid()
     grid->setMovement(QListView::Static);
     grid->setResizeMode(QListView::Adjust);
     grid->setUniformItemSizes(true);
-    grid->setWordWrap(true);
+    grid->setFont(BRELK::ThemeResources::getFont(QStringLiteral("small")));
     grid->setTextElideMode(Qt::ElideMiddle);
     grid->setFixedHeight(80 * Unit);
     grid->setAccessibleName(QStringLiteral("Icons"));

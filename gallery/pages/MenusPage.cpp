@@ -86,6 +86,8 @@ QWidget* pictureOf(QMenu* menu, int current = -1)
 {
     if (current >= 0)
         menu->setActiveAction(menu->actions().at(current));
+    menu->ensurePolished();
+    menu->adjustSize();
     return new Picture(menu, menu);
 }
 
@@ -125,8 +127,8 @@ QMenuBar* makeMenuBar()
 QMenuBar* makeActiveMenuBar()
 {
     QMenuBar* bar = makeMenuBar();
-    force(*bar, State::Hovered);
-    bar->setActiveAction(bar->actions().at(1));
+    forceAt(*bar, State::Hovered,
+            [bar] { return bar->actionGeometry(bar->actions().at(1)).center(); });
     return bar;
 }
 

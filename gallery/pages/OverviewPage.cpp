@@ -126,7 +126,6 @@ QWidget* makeLog()
                                           "09:41:07  Median filter, radius 3\n"
                                           "09:41:19  Surface \"Blade\": 184 320 triangles"));
     log->setReadOnly(true);
-    log->setMaximumHeight(10 * Unit);
     return log;
 }
 
@@ -145,7 +144,7 @@ QWidget* makeCenter()
     splitter->addWidget(makeTabs());
     splitter->addWidget(makeTable());
     splitter->addWidget(makeLog());
-    splitter->setStretchFactor(0, 1);
+    splitter->setSizes({36 * Unit, 26 * Unit, 10 * Unit});
     return splitter;
 }
 

@@ -53,7 +53,7 @@ void addStates(Section& section)
 {
     const auto addRow = [&section](const QString& label, const std::function<QTabBar*()>& make) {
         QTabBar* hovered = make();
-        forceAt(*hovered, State::Hovered, hovered->tabRect(0).center());
+        forceAt(*hovered, State::Hovered, [hovered] { return hovered->tabRect(0).center(); });
         QTabBar* focused = make();
         force(*focused, State::Focused);
         QTabBar* disabled = make();

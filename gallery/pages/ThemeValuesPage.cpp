@@ -158,17 +158,18 @@ QWidget* makeNumberCell(const QString& name, const QString& value, const QBrush&
 
 void addNumbers(Section& section)
 {
-    const QVariantMap radii = variables(BRELK::ThemeResources::getCornerRadiusVarPrefix());
     const QVariantMap opacities = variables(BRELK::ThemeResources::getOpacitiesVarPrefix());
     auto* cells = new QWidget;
     auto* grid = new QGridLayout(cells);
     grid->setContentsMargins(0, 0, 0, 0);
     grid->setSpacing(2 * Unit);
     int column = 0;
-    for (auto radius = radii.begin(); radius != radii.end(); ++radius) {
-        grid->addWidget(makeNumberCell(radius.key(), radius.value().toString(),
-                                       ThemeValues::accent(), radius.value().toInt()),
-                        0, column++);
+    for (const char* size : {"SmallSize", "BaseSize", "MediumSize", "LargeSize"}) {
+        const QString name = QString::fromLatin1(size);
+        const int radius = ThemeValues::radius(name);
+        grid->addWidget(
+            makeNumberCell(name, QString::number(radius), ThemeValues::accent(), radius), 0,
+            column++);
     }
     column = 0;
     for (auto opacity = opacities.begin(); opacity != opacities.end(); ++opacity) {

@@ -93,10 +93,12 @@ QColumnView* makeColumns()
 template <class View>
 View* focusedAndHovered(View* view)
 {
-    constexpr QPoint InThirdRow(6 * Unit, 8 * Unit);
-    view->ensurePolished();
     force(*view, State::Focused);
-    forceAt(*view->viewport(), State::Hovered, InThirdRow);
+    forceAt(*view->viewport(), State::Hovered, [view] {
+        constexpr int Inset = Unit;
+        const QRect current = view->visualRect(view->currentIndex());
+        return current.center() + QPoint(0, 2 * current.height() - Inset);
+    });
     return view;
 }
 
