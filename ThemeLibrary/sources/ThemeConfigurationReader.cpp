@@ -87,10 +87,11 @@ bool readInternal(const ThemeElement& element, bool& ok)
 void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
 {
     const QString pattern = element.getAttribute(QStringLiteral("name"));
-    const int most = std::min(MostNamesOfElement, MostNames - entries.getNameCount());
+    const int most = std::min(MostNamesOfElement, MostNames - entries.getNames().size());
     const QStringList names = expandNamePattern(pattern, most);
     if (names.isEmpty() && !pattern.isEmpty()) {
-        element.reject(QStringLiteral("the braces in its name do not match, or spell too many names"));
+        element.reject(
+            QStringLiteral("the braces in its name do not match, or spell too many names"));
         return;
     }
     if (names.isEmpty() || !std::all_of(names.begin(), names.end(), isName)) {

@@ -38,8 +38,6 @@ public:
 
     QStringList getNames() const { return m_definitions.keys(); }
 
-    int getNameCount() const { return m_definitions.size(); }
-
     Definitions getDefinitions(const QString& name) const { return m_definitions.value(name); }
 
 private:
