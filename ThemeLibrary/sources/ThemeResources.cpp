@@ -3,6 +3,7 @@
 #include "ThemeResources_p.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QRegularExpression>
 
 namespace BRELK::ThemeResources {
@@ -16,18 +17,37 @@ QVariantMap readProperty(const QLatin1String& name)
     return QCoreApplication::instance()->property(name.data()).toMap();
 }
 
-QVariantMap readGroup(const QLatin1String& property, const QString& group)
+template <class Value>
+Value convert(const QVariant& value)
 {
-    return readProperty(property).value(group).toMap();
+    return value.value<Value>();
 }
 
-/// A typed lookup in a snapshot. A missing name is remembered as an empty entry, so it costs the
-/// same the next time.
-template <class Value>
-Value lookUp(QVariantMap& snapshot, const QString& name)
+/// A color is no brush, although QVariant would convert it.
+template <>
+QBrush convert(const QVariant& value)
 {
-    return snapshot[name].value<Value>();
+    return value.userType() == QMetaType::QBrush ? value.value<QBrush>() : QBrush();
 }
+
+/// A group as it was at its first use. Painting asks for most of its values, so they are hashed and
+/// in the type that is asked for.
+template <class Value>
+class Snapshot
+{
+public:
+    Snapshot(const QLatin1String& property, const QString& group)
+    {
+        const QVariantMap values = readProperty(property).value(group).toMap();
+        for (auto entry = values.begin(); entry != values.end(); ++entry)
+            m_values.insert(entry.key(), convert<Value>(entry.value()));
+    }
+
+    Value value(const QString& name) const { return m_values.value(name); }
+
+private:
+    QHash<QString, Value> m_values;
+};
 
 } // namespace
 
@@ -116,55 +136,53 @@ QColor getColor(const QString& name)
 {
     if (!QCoreApplication::instance())
         return {};
-    static QVariantMap sColors = readGroup(getThemeVariablePropertyName(), getColorsVarPrefix());
-    return lookUp<QColor>(sColors, name);
+    static const Snapshot<QColor> sColors(getThemeVariablePropertyName(), getColorsVarPrefix());
+    return sColors.value(name);
 }
 
 QBrush getBrush(const QString& name)
 {
     if (!QCoreApplication::instance())
         return {};
-    static QVariantMap sBrushes = readGroup(getThemeVariablePropertyName(), getBrushesVarPrefix());
-    const QVariant& value = sBrushes[name];
-    // A color is no brush, although QVariant would convert it.
-    return value.userType() == QMetaType::QBrush ? value.value<QBrush>() : QBrush();
+    static const Snapshot<QBrush> sBrushes(getThemeVariablePropertyName(), getBrushesVarPrefix());
+    return sBrushes.value(name);
 }
 
 QFont getFont(const QString& name)
 {
     if (!QCoreApplication::instance())
         return {};
-    static QVariantMap sFonts = readGroup(getThemeVariablePropertyName(), getFontsVarPrefix());
-    return lookUp<QFont>(sFonts, name);
+    static const Snapshot<QFont> sFonts(getThemeVariablePropertyName(), getFontsVarPrefix());
+    return sFonts.value(name);
 }
 
 double getOpacity(const QString& name)
 {
     if (!QCoreApplication::instance())
         return 1.0;
-    static QVariantMap sOpacities =
-        readGroup(getThemeVariablePropertyName(), getOpacitiesVarPrefix());
+    static const Snapshot<double> sOpacities(getThemeVariablePropertyName(),
+                                             getOpacitiesVarPrefix());
     // Deliberate: an unknown name is 0, although the default without an application is 1.
-    return lookUp<double>(sOpacities, name);
+    return sOpacities.value(name);
 }
 
 double getCornerRadius(const QString& name)
 {
     if (!QCoreApplication::instance())
         return 0.0;
-    static QVariantMap sRadii =
-        readGroup(getThemeVariablePropertyName(), getCornerRadiusVarPrefix());
-    return lookUp<double>(sRadii, name);
+    static const Snapshot<double> sRadii(getThemeVariablePropertyName(),
+                                         getCornerRadiusVarPrefix());
+    return sRadii.value(name);
 }
 
 int getDisabledFactor(const QString& name)
 {
     if (!QCoreApplication::instance())
         return 100;
-    static QVariantMap sFactors =
-        readGroup(getInternalThemeVariablePropertyName(), getDisabledFactorsVarPrefix());
+    static const Snapshot<int> sFactors(getInternalThemeVariablePropertyName(),
+                                        getDisabledFactorsVarPrefix());
     // Deliberate: an unknown name is 0, although the default without an application is 100.
-    return lookUp<int>(sFactors, name);
+    return sFactors.value(name);
 }
 
 QStringList getColors(const QRegularExpression& re)
