@@ -57,6 +57,12 @@ QString findIconPath(const QString& name)
     return findFilePath(name, QDir::searchPaths(iconsPrefix()), readableExtensions());
 }
 
+bool isIconFile(const QString& fileName, const QRegularExpression& re)
+{
+    // Files named after a brush are variants of an icon, not icons of their own.
+    return fileName.contains(re) && !fileName.contains(QLatin1String("Brush.svg"));
+}
+
 /// The next two bytes of a Windows cursor file, low byte first.
 int readCoordinate(QFile& file)
 {
@@ -118,15 +124,11 @@ QStringList getIcons(const QRegularExpression& re)
         QDirIterator files(searchPath, QDir::Files);
         while (files.hasNext()) {
             files.next();
-            const QString fileName = files.fileName();
-            // Files named after a brush are variants of an icon, not icons of their own.
-            if (!fileName.contains(re) || fileName.contains(QLatin1String("Brush.svg")))
-                continue;
             const QString name = files.fileInfo().completeBaseName();
-            if (!known.contains(name)) {
-                known.insert(name);
-                names.append(name);
-            }
+            if (!isIconFile(files.fileName(), re) || known.contains(name))
+                continue;
+            known.insert(name);
+            names.append(name);
         }
     }
     return names;
