@@ -1,0 +1,141 @@
+#include "TemporaryRepository.h"
+#include "ThemeColorHelper.h"
+#include "ThemeResources.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QLinearGradient>
+#include <QtTest>
+
+using namespace BRELK;
+using ThemeColorHelper::getModifiedIconWithForegroundBrush;
+
+namespace {
+
+void publish(const QVariantMap& brushes)
+{
+    qApp->setProperty("theme_var", QVariantMap{{QStringLiteral("brushes"), brushes}});
+}
+
+QColor colorOf(const QIcon& icon)
+{
+    return icon.pixmap(16).toImage().pixelColor(8, 8);
+}
+
+} // namespace
+
+class tst_ThemeColorHelper : public QObject
+{
+    Q_OBJECT
+
+private:
+    const TemporaryRepository m_files;
+
+    static QIcon themed(const char* name) { return QIcon::fromTheme(QString::fromLatin1(name)); }
+
+private Q_SLOTS:
+
+    void initTestCase()
+    {
+        const QVariantMap factors{{QStringLiteral("LightForegroundDisableFactor"), 200},
+                                  {QStringLiteral("LightBackgroundDisableFactor"), 125},
+                                  {QStringLiteral("DarkForegroundDisableFactor"), 150}};
+        qApp->setProperty("theme_var_internal", QVariantMap{{QStringLiteral("factors"), factors}});
+
+        m_files.write(QStringLiteral("a/index.theme"),
+                      "[Icon Theme]\nName=x\n[i]\nSize=16\nType=Scalable\nMinSize=1\n"
+                      "MaxSize=512\n");
+        const auto draw = [this](const char* name, const char* color) {
+            m_files.write(QStringLiteral("a/i/%1.svg").arg(QLatin1String(name)), svgSquare(color));
+        };
+        draw("plain", "#E5EEF4");
+        draw("made", "#E5EEF4");
+        draw("made.MainBrush", "#010203");
+        draw("made.InkDisabledBrush", "#040506");
+        // Qt cuts names at hyphens, so a missing "cut-off.MainBrush" leads to "cut".
+        draw("cut", "#E5EEF4");
+        draw("cut-off", "#E5EEF4");
+        QIcon::setThemeSearchPaths({m_files.path()});
+        QIcon::setThemeName(QStringLiteral("a"));
+    }
+
+    void init()
+    {
+        publish({{QStringLiteral("MainBrush"), QBrush(Qt::red)},
+                 {QStringLiteral("InkBrush"), QBrush(Qt::blue)},
+                 {QStringLiteral("InkBrushDisabled"), QBrush(QColor(0x303030))}});
+    }
+
+    void disabledColors_data()
+    {
+        QTest::addColumn<QColor>("color");
+        QTest::addColumn<bool>("foreground");
+        QTest::addColumn<QColor>("expected");
+        const QColor bright(131, 131, 131), dark(130, 130, 130), veiled(255, 255, 255, 40);
+        QTest::newRow("bright text") << QColor(Qt::white) << true << QColor(Qt::white).darker(200);
+        QTest::newRow("bright ground") << bright << false << bright.darker(125);
+        QTest::newRow("at the limit") << dark << true << dark.lighter(150);
+        QTest::newRow("black") << QColor(Qt::black) << true << QColor(Qt::black);
+        QTest::newRow("no factor") << dark << false << dark;
+        QTest::newRow("alpha stays") << veiled << true << veiled.darker(200);
+    }
+
+    void disabledColors()
+    {
+        QFETCH(QColor, color);
+        QFETCH(bool, foreground);
+        QFETCH(QColor, expected);
+        QCOMPARE(ThemeColorHelper::disabled(color, foreground), expected);
+        QCOMPARE(ThemeColorHelper::disabled(color, foreground).alpha(), color.alpha());
+    }
+
+    void handMadeIconsComeFirst()
+    {
+        QCOMPARE(getModifiedIconWithForegroundBrush(themed("made"), QBrush(Qt::red)).name(),
+                 QStringLiteral("made.MainBrush"));
+        // The name says "InkBrushDisabled", the file "InkDisabledBrush".
+        QCOMPARE(getModifiedIconWithForegroundBrush(themed("made"), QColor(0x303030)).name(),
+                 QStringLiteral("made.InkDisabledBrush"));
+    }
+
+    void otherIconsAreRecolored()
+    {
+        const auto recolored = [](const char* name, const QBrush& brush) {
+            return colorOf(getModifiedIconWithForegroundBrush(themed(name), brush));
+        };
+        QCOMPARE(recolored("plain", QBrush(Qt::red)), QColor(Qt::red));
+        QCOMPARE(recolored("made", QBrush(Qt::blue)), QColor(Qt::blue));
+        QCOMPARE(recolored("cut-off", QBrush(Qt::red)), QColor(Qt::red));
+        QCOMPARE(recolored("made", QBrush(QColor(0x123456))), QColor(0x123456));
+        QVERIFY(getModifiedIconWithForegroundBrush({}, QBrush(Qt::red)).isNull());
+
+        // The same color is faded when the theme calls it a disabled one.
+        publish({{QStringLiteral("DullBrushDisabled"), QBrush(QColor(0x123456))}});
+        QVERIFY(recolored("plain", QBrush(QColor(0x123456))) != QColor(0x123456));
+    }
+
+    void resultsAreSharedUntilTheThemeChanges()
+    {
+        const QIcon icon = themed("plain");
+        const auto key = [&icon](const QBrush& brush) {
+            return getModifiedIconWithForegroundBrush(icon, brush).cacheKey();
+        };
+        QLinearGradient gradient(0, 0, 1, 0);
+        gradient.setColorAt(0, Qt::red);
+        QLinearGradient other = gradient;
+        other.setColorAt(1, Qt::blue);
+        QCOMPARE(key(QBrush(Qt::red)), key(QBrush(Qt::red)));
+        QVERIFY(key(QBrush(Qt::red)) != key(QBrush(Qt::blue)));
+        QVERIFY(key(gradient) != key(other));
+
+        // Red becomes a name that the icon theme has a drawing for.
+        QCOMPARE(getModifiedIconWithForegroundBrush(themed("made"), QBrush(Qt::blue)).name(),
+                 QStringLiteral("made"));
+        publish({{QStringLiteral("MainBrush"), QBrush(Qt::blue)}});
+        QCOMPARE(getModifiedIconWithForegroundBrush(themed("made"), QBrush(Qt::blue)).name(),
+                 QStringLiteral("made.MainBrush"));
+    }
+};
+
+QTEST_MAIN(tst_ThemeColorHelper)
+#include "tst_ThemeColorHelper.moc"
