@@ -4,6 +4,7 @@
 #include "ThemeFactory.h"
 
 #include <QDebug>
+#include <QFileInfo>
 
 #include <memory>
 #include <vector>
@@ -19,15 +20,23 @@ Theme& keep(Theme* theme)
     return *sThemes.emplace_back(theme);
 }
 
+QString knownThemes(const ThemeFactory& factory)
+{
+    const QString repository = factory.getThemesRepositoryPath();
+    if (repository.isEmpty())
+        return QStringLiteral("no theme repository was given");
+    if (!QFileInfo(repository).isDir())
+        return QLatin1String("there is no theme repository \"") + repository + QLatin1Char('"');
+    const QStringList themes = factory.getAvailableThemes();
+    return QLatin1String("the repository \"") + repository + QLatin1String("\" has ")
+           + (themes.isEmpty() ? QStringLiteral("no themes") : themes.join(QLatin1String(", ")));
+}
+
 void reportMissingTheme(const QString& name)
 {
-    const ThemeFactory& factory = ThemeFactory::getInstance();
-    const QString themes = factory.getAvailableThemes().join(QLatin1String(", "));
-    const QString known = themes.isEmpty() ? QStringLiteral("there are no themes")
-                                           : QString(QLatin1String("the themes are ") + themes);
-    qDebug().noquote() << QString(
-        QLatin1String("No theme \"") + name + QLatin1String("\" in the repository \"")
-        + factory.getThemesRepositoryPath() + QLatin1String("\": ") + known);
+    const QString reason = knownThemes(ThemeFactory::getInstance());
+    qDebug().noquote() << QString(QLatin1String("No theme \"") + name + QLatin1String("\": ")
+                                  + reason);
 }
 
 void readOption(const QStringList& args, const QString& option, QString& value)
