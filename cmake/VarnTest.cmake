@@ -2,6 +2,7 @@
 #
 # The sources see VARN_THEME_REPOSITORY, the build tree's theme repository. Statics keep the first theme they see, so a
 # class or family that needs a theme of its own has a program of its own.
+set(VARN_TEST_PROGRAMS ${PROJECT_BINARY_DIR}/tests)
 set(VARN_TEST_HOME ${PROJECT_BINARY_DIR}/tests/home)
 set(VARN_TEST_ENVIRONMENT
     QT_QPA_PLATFORM=offscreen QT_SCALE_FACTOR=1 QT_FONT_DPI=96 LC_ALL=C.UTF-8
@@ -12,12 +13,16 @@ set(VARN_TEST_ENVIRONMENT
 file(MAKE_DIRECTORY ${VARN_TEST_HOME})
 file(CHMOD ${VARN_TEST_HOME} DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
 
+# Leak suppressions name functions of Qt, which is built without frame pointers: only the slow unwinder sees them,
+# and a dozen frames are enough for it.
+list(APPEND VARN_TEST_ENVIRONMENT ASAN_OPTIONS=fast_unwind_on_malloc=0:malloc_context_size=12)
+
 function(varn_add_test name label)
     add_executable(${name} ${ARGN})
     varn_compile_options(${name})
     target_link_libraries(${name} PRIVATE varn_common_theme varn_test_support Qt5::Test)
     target_compile_definitions(${name} PRIVATE VARN_THEME_REPOSITORY="${VARN_THEMES_DIR}")
-    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/tests)
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${VARN_TEST_PROGRAMS})
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES LABELS ${label} ENVIRONMENT "${VARN_TEST_ENVIRONMENT}" TIMEOUT 120)
 endfunction()
