@@ -1,0 +1,63 @@
+#include "BaseTheme.h"
+#include "MessageRecorder.h"
+#include "TemporaryRepository.h"
+#include "ThemeColorHelper.h"
+#include "ThemeFactory.h"
+#include "ThemeResources.h"
+
+#include <QtTest>
+
+#include <memory>
+
+using namespace BRELK;
+
+/// What the library answers while there is no application object, and how it goes on afterwards.
+class tst_NoApplication : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+
+    void lookupsAnswerWithDefaults()
+    {
+        const QString name = QStringLiteral("Main");
+        QVERIFY(!QCoreApplication::instance());
+        QVERIFY(!ThemeResources::getColor(name).isValid());
+        QCOMPARE(ThemeResources::getBrush(name), QBrush());
+        QCOMPARE(ThemeResources::getOpacity(name), 1.0);
+        QCOMPARE(ThemeResources::getCornerRadius(name), 0.0);
+        QCOMPARE(ThemeResources::getDisabledFactor(name), 100);
+        QCOMPARE(ThemeResources::getColorKey(Qt::red), QString());
+        QCOMPARE(ThemeResources::getBrushKey(QBrush(Qt::red)), QString());
+        QCOMPARE(ThemeColorHelper::disabled(Qt::white, true), QColor(Qt::white));
+    }
+
+    void themesAreListedAndRead()
+    {
+        const TemporaryRepository repository;
+        repository.addTheme(QStringLiteral("a"), "Title");
+        ThemeFactory::getInstance().setThemesRepositoryPath(repository.path());
+        const std::unique_ptr<Theme> theme(
+            ThemeFactory::getInstance().getTheme(QStringLiteral("a")));
+        QCOMPARE(theme->getName(), QStringLiteral("Title"));
+
+        MessageRecorder messages;
+        theme->customize(nullptr);
+        QCOMPARE(messages.take().size(), 1);
+    }
+
+    /// The defaults are not kept: the first lookup with an application finds its variables.
+    void lookupsStartWithTheApplication()
+    {
+        int argc = 0;
+        QCoreApplication app(argc, nullptr);
+        const QVariantMap colors{{QStringLiteral("Main"), QColor(Qt::red)}};
+        app.setProperty("theme_var", QVariantMap{{QStringLiteral("colors"), colors}});
+        QCOMPARE(ThemeResources::getColor(QStringLiteral("Main")), QColor(Qt::red));
+        QCOMPARE(ThemeResources::getOpacity(QStringLiteral("Main")), 0.0);
+        QCOMPARE(ThemeResources::getDisabledFactor(QStringLiteral("Main")), 0);
+    }
+};
+
+QTEST_APPLESS_MAIN(tst_NoApplication)
+#include "tst_NoApplication.moc"

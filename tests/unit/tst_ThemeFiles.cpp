@@ -1,0 +1,150 @@
+#include "MessageRecorder.h"
+#include "TemporaryRepository.h"
+#include "ThemeResources.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QRegularExpression>
+#include <QtTest>
+
+using namespace BRELK;
+
+namespace {
+
+/// A ".cur" file of the library with another hot spot: the four bytes of its x and y.
+QByteArray cursorFile(const QByteArray& hotSpot)
+{
+    QFile file(QStringLiteral(":/Cursors/tool.brush.cur"));
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    return file.readAll().replace(10, 4, hotSpot);
+}
+
+QRgb centre(const QImage& image)
+{
+    return image.pixel(image.width() / 2, image.height() / 2);
+}
+
+} // namespace
+
+class tst_ThemeFiles : public QObject
+{
+    Q_OBJECT
+
+private:
+    const TemporaryRepository m_files;
+
+    QIcon icon(const char* name) { return ThemeResources::getIcon(QString::fromLatin1(name)); }
+
+    QPoint hotSpot(const QString& name) { return ThemeResources::getCursor(name).hotSpot(); }
+
+private Q_SLOTS:
+
+    void initTestCase()
+    {
+        m_files.write(QStringLiteral("icons/action.close.svg"), svgSquare("#ff0000"));
+        m_files.write(QStringLiteral("icons/action.close.ForegroundBrush.svg"), svgSquare("#000"));
+        m_files.write(QStringLiteral("icons/group/own.svg"), svgSquare("#0000ff"));
+        QImage(4, 4, QImage::Format_RGB32).save(m_files.path(QStringLiteral("icons/both.png")));
+        m_files.write(QStringLiteral("icons/both.svg"), svgSquare("#00ff00"));
+        QDir::setSearchPaths(QStringLiteral("icons"),
+                             {m_files.path(QStringLiteral("icons")),
+                              m_files.path() + QLatin1Char('/'), QStringLiteral(":/Icons")});
+        QDir().mkdir(m_files.path(QStringLiteral("cursors")));
+        QDir::setSearchPaths(QStringLiteral("cursors"), {m_files.path(QStringLiteral("cursors")),
+                                                         QStringLiteral(":/Cursors")});
+    }
+
+    void themeShadowsTheLibrary()
+    {
+        QCOMPARE(centre(icon("action.close").pixmap(16).toImage()), qRgb(255, 0, 0));
+        QVERIFY(!icon("action.add").isNull());
+        QVERIFY(icon("action.none").isNull());
+        QVERIFY(icon("").isNull());
+    }
+
+    void namesMayHaveAnExtensionOrALeadingSeparator()
+    {
+        QVERIFY(!icon("action.close.svg").isNull());
+        QCOMPARE(centre(icon("/group/own").pixmap(16).toImage()), qRgb(0, 0, 255));
+        QCOMPARE(centre(icon("group/own.svg").pixmap(16).toImage()), qRgb(0, 0, 255));
+        // "png" is before "svg" in the list of formats.
+        QCOMPARE(icon("both").actualSize(QSize(64, 64)), QSize(4, 4));
+    }
+
+    void iconsAreListedOnce()
+    {
+        const QStringList closing =
+            ThemeResources::getIcons(QRegularExpression(QStringLiteral("^action\\.close")));
+        QCOMPARE(closing.count(QStringLiteral("action.close")), 1);
+        QCOMPARE(closing.first(), QStringLiteral("action.close"));
+        QVERIFY(closing.contains(QStringLiteral("action.close.all")));
+        QVERIFY(closing.filter(QStringLiteral("Brush")).isEmpty());
+        QCOMPARE(ThemeResources::getIcons(QRegularExpression(QStringLiteral("^both\\.")))
+                     .count(QStringLiteral("both")),
+                 1);
+    }
+
+    void pixmapsHaveTheSizeAskedFor()
+    {
+        const QString name = QStringLiteral("action.close");
+        QCOMPARE(ThemeResources::getPixmap(name, {40, 20}).size(), QSize(40, 20));
+        QCOMPARE(ThemeResources::getPixmap(name, {}).size(), QSize(16, 16));
+        QVERIFY(ThemeResources::getPixmap(QStringLiteral("action.none"), {8, 8}).isNull());
+        QVERIFY(ThemeResources::getPixmap(QString(), {8, 8}).isNull());
+    }
+
+    void embeddedCursorsAreHotWhereTheirFilesSay()
+    {
+        const QFileInfoList files = QDir(QStringLiteral(":/Cursors")).entryInfoList();
+        QCOMPARE(files.size(), 28);
+        for (const QFileInfo& info : files) {
+            QFile file(info.filePath());
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QByteArray bytes = file.readAll();
+            const QCursor cursor = ThemeResources::getCursor(info.completeBaseName());
+            QCOMPARE(cursor.hotSpot(), QPoint(bytes.at(10), bytes.at(12)));
+            QVERIFY(!cursor.pixmap().isNull());
+        }
+    }
+
+    void hotSpots_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QPoint>("expected");
+        const QPoint middle(16, 16);
+        const auto row = [](const char* name, const QByteArray& content, const QPoint& expected) {
+            QTest::newRow(name) << QString::fromLatin1(name) << content << expected;
+        };
+        row("stated.cur", cursorFile(QByteArray("\x03\x00\x07\x00", 4)), {3, 7});
+        row("two bytes.cur", cursorFile(QByteArray("\x02\x01\x00\x00", 4)), {258, 0});
+        // A low byte of 128 or more makes a coordinate negative, which QCursor takes for the
+        // middle.
+        row("signed.cur", cursorFile(QByteArray("\x90\x00\x05\x00", 4)), {middle.x(), 5});
+        row("upper case.CUR", cursorFile(QByteArray("\x03\x00\x07\x00", 4)), middle);
+        row("icon.cur", cursorFile(QByteArray("\x03\x00\x07\x00", 4)).replace(2, 1, "\x01"), {});
+        row("picture.svg", svgSquare("#fff").replace("16", "32"), middle);
+    }
+
+    void hotSpots()
+    {
+        QFETCH(QString, name);
+        QFETCH(QByteArray, content);
+        QFETCH(QPoint, expected);
+        m_files.write(QLatin1String("cursors/") + name, content);
+        QCOMPARE(hotSpot(name), expected);
+    }
+
+    void withoutUsableFileTheCursorIsTheArrow()
+    {
+        m_files.write(QStringLiteral("cursors/truncated.cur"), cursorFile({}).left(11));
+        MessageRecorder messages;
+        for (const char* name : {"truncated", "none", ""})
+            QCOMPARE(ThemeResources::getCursor(QString::fromLatin1(name)).shape(), Qt::ArrowCursor);
+        QVERIFY(!messages.take().isEmpty());
+    }
+};
+
+QTEST_MAIN(tst_ThemeFiles)
+#include "tst_ThemeFiles.moc"
