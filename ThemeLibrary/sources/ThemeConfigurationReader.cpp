@@ -1,5 +1,6 @@
 #include "ThemeConfigurationReader.h"
 
+#include "NamePattern.h"
 #include "ThemeConfigurationReader_p.h"
 #include "ThemeResources.h"
 
@@ -15,6 +16,9 @@ namespace BRELK {
 
 namespace {
 
+/// Bounds on what a hostile file can make of patterns of names.
+constexpr int MostNamesOfElement = 256;
+constexpr int MostNames = 20000;
 constexpr int LargestFactor = 1000;
 constexpr int LargestRadius = 1000;
 constexpr double SmallestFontSize = 1;
@@ -82,14 +86,23 @@ bool readInternal(const ThemeElement& element, bool& ok)
 
 void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
 {
-    const QString name = element.getAttribute(QStringLiteral("name"));
-    if (!isName(name)) {
+    const QString pattern = element.getAttribute(QStringLiteral("name"));
+    const int most = std::min(MostNamesOfElement, MostNames - entries.getNames().size());
+    const QStringList names = expandNamePattern(pattern, most);
+    if (names.isEmpty() && !pattern.isEmpty()) {
+        element.reject(
+            QStringLiteral("the braces in its name do not match, or spell too many names"));
+        return;
+    }
+    if (names.isEmpty() || !std::all_of(names.begin(), names.end(), isName)) {
         element.reject(QStringLiteral("it needs a name without blanks, \"/\" and \"@\""));
         return;
     }
     bool ok = true;
     const bool internal = readInternal(element, ok);
-    if (ok)
+    if (!ok)
+        return;
+    for (const QString& name : names)
         entries.add(name, {element, level, internal});
 }
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Settings.h"
+
+#include <QWidget>
+
+class QBoxLayout;
+
+namespace Gallery {
+
+/// The bar above the pages, with a switch for the theme, the direction and the scale.
+class Header : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit Header(const Settings& settings);
+
+Q_SIGNALS:
+    void themeChosen(const QString& name);
+    void rightToLeftChosen(bool rightToLeft);
+    void scaleChosen(double scale);
+
+private:
+    void addThemes(QBoxLayout& bar, const QString& current);
+    void addDirection(QBoxLayout& bar, bool rightToLeft);
+    void addScales(QBoxLayout& bar, double current);
+};
+
+} // namespace Gallery

@@ -1,0 +1,77 @@
+#include "Rendering.h"
+
+#include "Pages.h"
+#include "Settings.h"
+#include "kit/Page.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTextStream>
+#include <QVBoxLayout>
+
+namespace Gallery {
+
+namespace {
+
+constexpr int PageWidth = 140 * Unit;
+
+/// Gives everything that happens after a window is shown the time to happen.
+void settle()
+{
+    constexpr int Rounds = 4;
+    for (int round = 0; round < Rounds; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+    }
+}
+
+QPixmap picture(const PageEntry& entry)
+{
+    QWidget window;
+    auto* layout = new QVBoxLayout(&window);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
+    layout->addWidget(buildPage(entry));
+    // Specimens share the focus of this widget, which shows nothing.
+    QWidget focus(&window);
+    focus.setFocusPolicy(Qt::StrongFocus);
+    focus.resize(0, 0);
+
+    window.setAttribute(Qt::WA_DontShowOnScreen);
+    window.ensurePolished();
+    const int width = qMax(PageWidth, layout->totalMinimumSize().width());
+    const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
+                                                   : window.sizeHint().height();
+    window.resize(width, height);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    settle();
+    focus.setFocus(Qt::TabFocusReason);
+    settle();
+    return window.grab();
+}
+
+} // namespace
+
+bool renderPages(const Settings& settings)
+{
+    QApplication::setCursorFlashTime(0);
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    const QDir directory(settings.renderDirectory);
+    QDir().mkpath(directory.path());
+    for (const PageEntry& entry : allPages()) {
+        if (!settings.page.isEmpty() && settings.page != entry.name)
+            continue;
+        const QString path = directory.absoluteFilePath(entry.name % QLatin1String(".png"));
+        if (!picture(entry).save(path)) {
+            qWarning().noquote() << QString(QLatin1String("Cannot write ") % path);
+            return false;
+        }
+        QTextStream(stdout) << path << '\n';
+    }
+    return true;
+}
+
+} // namespace Gallery

@@ -1,0 +1,127 @@
+#include "Settings.h"
+
+#include "Pages.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+#include <QDebug>
+#include <QDir>
+
+namespace Gallery {
+
+namespace {
+
+constexpr double LeastScale = 0.5;
+constexpr double GreatestScale = 4;
+
+/// The options by which a run does without a display.
+bool needsNoDisplay(const QStringList& arguments)
+{
+    const QStringList options{QStringLiteral("--render"), QStringLiteral("--list-pages"),
+                              QStringLiteral("--help"), QStringLiteral("-h")};
+    return std::any_of(options.begin(), options.end(),
+                       [&arguments](const QString& option) { return arguments.contains(option); });
+}
+
+/// The scale that `text` names, or 0 when it names none.
+double toScale(const QString& text)
+{
+    bool isNumber = false;
+    const double scale = text.toDouble(&isNumber);
+    return isNumber && scale >= LeastScale && scale <= GreatestScale ? scale : 0;
+}
+
+struct Options
+{
+    QCommandLineOption theme{
+        QStringLiteral("theme"),
+        QStringLiteral("Use the theme <name> of the repository (default: Dark)."),
+        QStringLiteral("name")};
+    QCommandLineOption repository{
+        QStringLiteral("theme-repository"),
+        QStringLiteral("Look themes up in <directory> (default: the installed ones)."),
+        QStringLiteral("directory")};
+    QCommandLineOption page{
+        QStringLiteral("page"),
+        QStringLiteral("Start with the page <name>; with --render, write only that page."),
+        QStringLiteral("name")};
+    QCommandLineOption render{
+        QStringLiteral("render"),
+        QStringLiteral("Write each page to <directory> as PNG, print the paths and quit."),
+        QStringLiteral("directory")};
+    QCommandLineOption scale{QStringLiteral("scale"),
+                             QStringLiteral("Draw everything <factor> times as large (0.5 to 4)."),
+                             QStringLiteral("factor")};
+    QCommandLineOption rightToLeft{QStringLiteral("rtl"),
+                                   QStringLiteral("Lay out from right to left.")};
+    QCommandLineOption listPages{QStringLiteral("list-pages"),
+                                 QStringLiteral("Print the names of the pages and quit.")};
+};
+
+QString knownPage(const QString& name)
+{
+    if (name.isEmpty() || pageNames().contains(name))
+        return name;
+    qWarning().noquote() << QString(QLatin1String("No page \"") % name
+                                    % QLatin1String("\": the pages are ")
+                                    % pageNames().join(QLatin1String(", ")));
+    return {};
+}
+
+} // namespace
+
+QStringList Settings::toArguments() const
+{
+    QStringList arguments{QStringLiteral("--theme"), theme, QStringLiteral("--theme-repository"),
+                          repository};
+    arguments << QStringLiteral("--page") << page;
+    arguments << QStringLiteral("--scale") << QString::number(scale);
+    if (rightToLeft)
+        arguments << QStringLiteral("--rtl");
+    return arguments;
+}
+
+StartUp prepareStart(int argc, char** argv)
+{
+    const QCoreApplication probe(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    const int scaleIndex = arguments.indexOf(QStringLiteral("--scale")) + 1;
+    if (scaleIndex > 0 && toScale(arguments.value(scaleIndex)) > 0)
+        qputenv("QT_SCALE_FACTOR", arguments.at(scaleIndex).toLatin1());
+    if (needsNoDisplay(arguments) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QDir programs(QCoreApplication::applicationDirPath());
+    return {QDir::cleanPath(programs.filePath(QStringLiteral("../share/varn/themes")))};
+}
+
+Settings readSettings(const QCoreApplication& application, const QString& defaultTheme,
+                      const QString& defaultRepository)
+{
+    QCommandLineParser parser;
+    const Options options;
+    parser.setApplicationDescription(
+        QStringLiteral("Shows every kind of widget in a theme, in every state."));
+    parser.addHelpOption();
+    parser.addOptions({options.theme, options.repository, options.page, options.render,
+                       options.scale, options.rightToLeft, options.listPages});
+    parser.process(application);
+
+    Settings settings;
+    settings.theme = parser.isSet(options.theme) ? parser.value(options.theme) : defaultTheme;
+    settings.repository =
+        parser.isSet(options.repository) ? parser.value(options.repository) : defaultRepository;
+    settings.page = knownPage(parser.value(options.page));
+    settings.renderDirectory = parser.value(options.render);
+    settings.rightToLeft = parser.isSet(options.rightToLeft);
+    settings.listPages = parser.isSet(options.listPages);
+    if (parser.isSet(options.scale)) {
+        const double scale = toScale(parser.value(options.scale));
+        if (scale > 0)
+            settings.scale = scale;
+        else
+            qWarning().noquote() << "The scale must be a number from 0.5 to 4; it stays 1.";
+    }
+    return settings;
+}
+
+} // namespace Gallery

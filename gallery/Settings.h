@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QCoreApplication;
+
+namespace Gallery {
+
+/// What a run of the gallery was asked for.
+struct Settings
+{
+    QString theme; ///< a directory of the repository
+    QString repository;
+    QString page;
+    QString renderDirectory; ///< empty: show the window
+    double scale = 1;
+    bool rightToLeft = false;
+    bool listPages = false;
+
+    /// The command-line arguments that ask for the same.
+    QStringList toArguments() const;
+};
+
+/// What must be known before the application object exists.
+struct StartUp
+{
+    QString repository; ///< the themes that were installed with this program
+};
+
+/// Reads the few options that Qt must know of before the application object is built, hands them to
+/// it through the environment, and finds the themes beside the program.
+StartUp prepareStart(int argc, char** argv);
+
+/// Reads the command line of `application`. `--help` and mistakes print their text and end the
+/// process.
+Settings readSettings(const QCoreApplication& application, const QString& defaultTheme,
+                      const QString& defaultRepository);
+
+} // namespace Gallery

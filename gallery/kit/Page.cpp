@@ -1,0 +1,134 @@
+#include "kit/Page.h"
+
+#include "Helpers.h"
+#include "kit/ThemeValues.h"
+
+#include <QBoxLayout>
+#include <QLabel>
+#include <QPainter>
+
+namespace Gallery {
+
+namespace {
+
+QWidget* lineUp(QBoxLayout::Direction direction, int spacing,
+                std::initializer_list<QWidget*> widgets)
+{
+    auto* line = new QWidget;
+    auto* layout = new QBoxLayout(direction, line);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(spacing);
+    for (QWidget* widget : widgets)
+        layout->addWidget(widget);
+    return line;
+}
+
+QLabel* makeText(const QString& text, const QColor& ink, const QString& font)
+{
+    auto* label = new QLabel(text);
+    ThemeValues::dress(*label, ink, ThemeValues::font(font));
+    return label;
+}
+
+} // namespace
+
+QLabel* makeLabel(const QString& text)
+{
+    return makeText(text, ThemeValues::text(), QStringLiteral("base"));
+}
+
+QLabel* makeCaption(const QString& text)
+{
+    return makeText(text, ThemeValues::quietText(), QStringLiteral("small"));
+}
+
+QWidget* captioned(const QString& caption, QWidget* widget)
+{
+    QWidget* group = lineUp(QBoxLayout::TopToBottom, Unit / 2, {makeCaption(caption), widget});
+    static_cast<QBoxLayout*>(group->layout())->addStretch();
+    return group;
+}
+
+QWidget* row(std::initializer_list<QWidget*> widgets)
+{
+    QWidget* line = lineUp(QBoxLayout::LeftToRight, 2 * Unit, widgets);
+    static_cast<QBoxLayout*>(line->layout())->addStretch();
+    return line;
+}
+
+QWidget* column(std::initializer_list<QWidget*> widgets)
+{
+    return lineUp(QBoxLayout::TopToBottom, Unit, widgets);
+}
+
+QWidget* pair(QWidget* enabled, QWidget* disabled)
+{
+    disabled->setEnabled(false);
+    QWidget* line = lineUp(QBoxLayout::LeftToRight, 3 * Unit,
+                           {captioned(QStringLiteral("Enabled"), enabled),
+                            captioned(QStringLiteral("Disabled"), disabled)});
+    auto* layout = static_cast<QBoxLayout*>(line->layout());
+    layout->setStretch(0, 1);
+    layout->setStretch(1, 1);
+    return line;
+}
+
+Section::Section(const QString& title, const QString& description)
+{
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(3 * Unit, 2 * Unit, 3 * Unit, 3 * Unit);
+    layout->setSpacing(Unit / 2);
+    layout->addWidget(makeText(title, ThemeValues::text(), QStringLiteral("medium")));
+    if (!description.isEmpty()) {
+        QLabel* words = makeCaption(description);
+        words->setWordWrap(true);
+        layout->addWidget(words);
+    }
+    layout->addSpacing(Unit);
+    m_contents = new QVBoxLayout;
+    m_contents->setSpacing(2 * Unit);
+    layout->addLayout(m_contents);
+}
+
+void Section::add(QWidget* widget, bool stretched)
+{
+    m_contents->addWidget(widget, 0, stretched ? Qt::Alignment() : Qt::AlignLeft);
+}
+
+void Section::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    painter.setPen(ThemeValues::border());
+    painter.setBrush(ThemeValues::surface());
+    BRELK::Helpers::drawRoundedRectShape(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5),
+                                         ThemeValues::radius(QStringLiteral("LargeSize")),
+                                         BRELK::Helpers::None, &painter);
+}
+
+Page::Page(const QString& title, const QString& description) : m_sections(new QVBoxLayout(this))
+{
+    m_sections->setContentsMargins(4 * Unit, 3 * Unit, 4 * Unit, 4 * Unit);
+    m_sections->setSpacing(2 * Unit);
+    QLabel* words = makeText(description, ThemeValues::quietText(), QStringLiteral("base"));
+    words->setWordWrap(true);
+    QWidget* heading =
+        lineUp(QBoxLayout::TopToBottom, Unit / 2,
+               {makeText(title, ThemeValues::text(), QStringLiteral("large")), words});
+    m_sections->addWidget(heading);
+    m_sections->addStretch();
+}
+
+Section& Page::addSection(const QString& title, const QString& description)
+{
+    auto* section = new Section(title, description);
+    addWidget(section);
+    return *section;
+}
+
+void Page::addWidget(QWidget* widget)
+{
+    m_sections->insertWidget(m_sections->count() - 1, widget);
+}
+
+} // namespace Gallery

@@ -1,0 +1,142 @@
+#include "Pages.h"
+#include "ThemeResources.h"
+#include "kit/Page.h"
+#include "kit/Properties.h"
+#include "kit/Specimen.h"
+#include "kit/StateGrid.h"
+
+#include <QLabel>
+#include <QTabBar>
+#include <QTabWidget>
+
+using BRELK::ThemeResources::getIcon;
+
+namespace Gallery {
+
+namespace {
+
+QTabBar* makeTabBar()
+{
+    auto* bar = new QTabBar;
+    for (const char* text : {"Volume", "Surface", "Report"})
+        bar->addTab(QString::fromLatin1(text));
+    bar->setCurrentIndex(1);
+    bar->setDrawBase(false);
+    return bar;
+}
+
+QTabBar* makeIconBar()
+{
+    QTabBar* bar = makeTabBar();
+    bar->setTabIcon(0, getIcon(QStringLiteral("layer.stack")));
+    bar->setTabIcon(1, getIcon(QStringLiteral("chart.line")));
+    bar->setTabIcon(2, getIcon(QStringLiteral("action.print")));
+    return bar;
+}
+
+QTabBar* makeClosable()
+{
+    QTabBar* bar = makeTabBar();
+    bar->setTabsClosable(true);
+    bar->setTabEnabled(2, false);
+    return bar;
+}
+
+QTabBar* makeShaped(QTabBar::Shape shape)
+{
+    QTabBar* bar = makeTabBar();
+    bar->setShape(shape);
+    return bar;
+}
+
+void addStates(Section& section)
+{
+    const auto addRow = [&section](const QString& label, const std::function<QTabBar*()>& make) {
+        QTabBar* hovered = make();
+        forceAt(*hovered, State::Hovered, [hovered] { return hovered->tabRect(0).center(); });
+        QTabBar* focused = make();
+        force(*focused, State::Focused);
+        QTabBar* disabled = make();
+        disabled->setEnabled(false);
+        section.add(captioned(label, row({make(), hovered, focused, disabled})));
+    };
+    addRow(QStringLiteral("Plain: normal, hovered, focused, disabled"), makeTabBar);
+    addRow(QStringLiteral("With icons"), makeIconBar);
+    addRow(QStringLiteral("Closable, last tab disabled"), makeClosable);
+    addRow(QStringLiteral("Current tab highlighted"),
+           [] { return with(makeTabBar(), "currentTabHighlighted"); });
+}
+
+void addSizes(Section& section)
+{
+    for (const char* size : {"smallTabSize", "baseTabSize", "mediumTabSize", "largeTabSize"}) {
+        section.add(captioned(QString(QLatin1Char('"') % QLatin1String(size) % QLatin1Char('"')),
+                              with(makeIconBar(), size)));
+    }
+}
+
+QTabWidget* makeTabWidget(QTabWidget::TabPosition position)
+{
+    auto* tabs = new QTabWidget;
+    tabs->setTabPosition(position);
+    for (const char* text : {"Volume", "Surface", "Report"}) {
+        auto* page = new QLabel(QString::fromLatin1(text));
+        page->setAlignment(Qt::AlignCenter);
+        tabs->addTab(page, QString::fromLatin1(text));
+    }
+    tabs->setFixedHeight(22 * Unit);
+    return tabs;
+}
+
+void addSides(Section& section)
+{
+    section.add(pair(makeTabWidget(QTabWidget::North), makeTabWidget(QTabWidget::North)), true);
+    const auto beside = [&section](const QString& firstLabel, QTabWidget* first,
+                                   const QString& secondLabel, QTabWidget* second) {
+        auto* line = row({captioned(firstLabel, first), captioned(secondLabel, second)});
+        first->setMinimumWidth(54 * Unit);
+        second->setMinimumWidth(54 * Unit);
+        section.add(line, true);
+    };
+    beside(QStringLiteral("South"), makeTabWidget(QTabWidget::South), QStringLiteral("West"),
+           makeTabWidget(QTabWidget::West));
+    QTabWidget* document = makeTabWidget(QTabWidget::North);
+    document->setDocumentMode(true);
+    document->setTabsClosable(true);
+    document->setMovable(true);
+    beside(QStringLiteral("East"), makeTabWidget(QTabWidget::East),
+           QStringLiteral("Document mode, closable, movable"), document);
+    QTabWidget* many = makeTabWidget(QTabWidget::North);
+    for (int number = 1; number < 12; ++number)
+        many->addTab(new QWidget, QString(QLatin1String("Slice ") % QString::number(number)));
+    beside(QStringLiteral("Stretched"), with(makeTabWidget(QTabWidget::North), "stretched"),
+           QStringLiteral("More than fit"), many);
+}
+
+void addShapes(Section& section)
+{
+    section.add(row(
+        {captioned(QStringLiteral("Rounded"), makeShaped(QTabBar::RoundedNorth)),
+         captioned(QStringLiteral("Rounded, below"), makeShaped(QTabBar::RoundedSouth)),
+         captioned(QStringLiteral("Triangular"), makeShaped(QTabBar::TriangularNorth)),
+         captioned(QStringLiteral("Triangular, below"), makeShaped(QTabBar::TriangularSouth))}));
+    section.add(
+        row({captioned(QStringLiteral("Rounded, left"), makeShaped(QTabBar::RoundedWest)),
+             captioned(QStringLiteral("Rounded, right"), makeShaped(QTabBar::RoundedEast)),
+             captioned(QStringLiteral("Triangular, left"), makeShaped(QTabBar::TriangularWest)),
+             captioned(QStringLiteral("Triangular, right"), makeShaped(QTabBar::TriangularEast))}));
+}
+
+} // namespace
+
+void fillTabs(Page& page)
+{
+    addStates(page.addSection(QStringLiteral("States")));
+    addSizes(page.addSection(QStringLiteral("Sizes"),
+                             QStringLiteral("Chosen with a property of the tab bar or, for all "
+                                            "of them, of the application.")));
+    addSides(page.addSection(QStringLiteral("Tab widgets")));
+    addShapes(page.addSection(QStringLiteral("Shapes")));
+}
+
+} // namespace Gallery

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QStringList>
+
+/// The theme variables that the style can ask for, listed without their "Disabled" twins.
+namespace AllThemeNames {
+
+QStringList colors();
+
+/// All brushes, also the composed ones of buttons and inputs.
+QStringList brushes();
+
+/// The brushes whose names are not composed.
+QStringList plainBrushes();
+
+/// The words that stand for a kind of button or input, beginning with the empty one.
+QStringList kinds();
+
+/// The nine state words, as "UncheckedHover".
+QStringList states();
+
+/// The state words of `checkState`, as "Unchecked" with "", "Pressed" and "Hover".
+QStringList statesOf(const QString& checkState);
+
+} // namespace AllThemeNames

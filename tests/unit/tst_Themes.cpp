@@ -1,0 +1,479 @@
+#include "AllThemeNames.h"
+#include "BaseTheme.h"
+#include "Helpers.h"
+#include "MessageRecorder.h"
+#include "ThemeResources.h"
+
+#include <QApplication>
+#include <QMetaEnum>
+#include <QStyle>
+#include <QtTest>
+
+#include <array>
+#include <cmath>
+
+using namespace BRELK;
+
+namespace {
+
+const QString ThemeName = QStringLiteral(VARN_TEST_THEME);
+const QString Disabled = QStringLiteral("Disabled");
+
+/// The smallest contrast ratios that are good enough.
+const double TextContrast = ThemeName == QLatin1String("HighContrast") ? 7 : 4.5;
+/// Of words of less weight, such as subtitles.
+constexpr double SubduedContrast = 4.5;
+constexpr double DisabledContrast = 3;
+/// Of what is recognised by its shape: borders, marks, thumbs.
+constexpr double ShapeContrast = 3;
+
+using LinearRgb = std::array<double, 3>;
+
+LinearRgb toLinear(const QColor& color)
+{
+    const auto linear = [](double value) {
+        return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+    };
+    return {linear(color.redF()), linear(color.greenF()), linear(color.blueF())};
+}
+
+QColor over(const QColor& color, const QColor& ground)
+{
+    const double alpha = color.alphaF();
+    const auto mix = [alpha](double above, double below) {
+        return above * alpha + below * (1 - alpha);
+    };
+    return QColor::fromRgbF(mix(color.redF(), ground.redF()), mix(color.greenF(), ground.greenF()),
+                            mix(color.blueF(), ground.blueF()));
+}
+
+double luminance(const QColor& color)
+{
+    const LinearRgb linear = toLinear(color);
+    return 0.2126 * linear[0] + 0.7152 * linear[1] + 0.0722 * linear[2];
+}
+
+/// The contrast ratio of the Web Content Accessibility Guidelines.
+double contrast(const QColor& color, const QColor& ground)
+{
+    const double a = luminance(over(color, ground)) + 0.05;
+    const double b = luminance(ground) + 0.05;
+    return std::max(a, b) / std::min(a, b);
+}
+
+using Matrix = std::array<LinearRgb, 3>;
+
+/// What readers see who have all cones, or lack the long, the middle or the short ones, in linear
+/// RGB (Machado, Oliveira, Fernandes 2009).
+constexpr Matrix Visions[] = {{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}},
+                              {{{0.152286, 1.052583, -0.204868},
+                                {0.114503, 0.786281, 0.099216},
+                                {-0.003882, -0.048116, 1.051998}}},
+                              {{{0.367322, 0.860646, -0.227968},
+                                {0.280085, 0.672501, 0.047413},
+                                {-0.011820, 0.042940, 0.968881}}},
+                              {{{1.255528, -0.076749, -0.178779},
+                                {-0.078411, 0.930809, 0.147602},
+                                {0.004733, 0.691367, 0.303900}}}};
+
+LinearRgb multiply(const Matrix& matrix, const LinearRgb& vector)
+{
+    const auto row = [&vector](const LinearRgb& r) {
+        return r[0] * vector[0] + r[1] * vector[1] + r[2] * vector[2];
+    };
+    return {row(matrix[0]), row(matrix[1]), row(matrix[2])};
+}
+
+std::array<double, 3> toLab(const LinearRgb& rgb)
+{
+    constexpr Matrix ToXyz = {{{0.4124564 / 0.95047, 0.3575761 / 0.95047, 0.1804375 / 0.95047},
+                               {0.2126729, 0.7151522, 0.0721750},
+                               {0.0193339 / 1.08883, 0.1191920 / 1.08883, 0.9503041 / 1.08883}}};
+    const auto curve = [](double t) {
+        return t > 0.008856 ? std::cbrt(t) : 7.787 * t + 16.0 / 116;
+    };
+    const LinearRgb xyz = multiply(ToXyz, rgb);
+    const double y = curve(xyz[1]);
+    return {116 * y - 16, 500 * (curve(xyz[0]) - y), 200 * (y - curve(xyz[2]))};
+}
+
+double distanceInLab(const QColor& a, const QColor& b, const Matrix& vision)
+{
+    const auto seen = [&vision](const QColor& color) {
+        LinearRgb rgb = multiply(vision, toLinear(color));
+        for (double& channel : rgb)
+            channel = qBound(0.0, channel, 1.0);
+        return toLab(rgb);
+    };
+    const auto first = seen(a);
+    const auto second = seen(b);
+    return std::hypot(first[0] - second[0], first[1] - second[1], first[2] - second[2]);
+}
+
+QVariantMap group(const char* name)
+{
+    return ThemeResources::getThemeVar(QLatin1String(name), {}).toMap();
+}
+
+/// The theme's color or brush `name`.
+QColor themed(const QString& name)
+{
+    const bool isBrush =
+        name.endsWith(QLatin1String("Brush")) || name.endsWith(QLatin1String("BrushDisabled"));
+    return isBrush ? group("brushes").value(name).value<QBrush>().color()
+                   : group("colors").value(name).value<QColor>();
+}
+
+QStringList names(const char* text)
+{
+    return QString::fromLatin1(text).simplified().split(QLatin1Char(' '));
+}
+
+/// What controls and words stand on.
+const QStringList& surfaces()
+{
+    static const QStringList sSurfaces = names(
+        "BackgroundSubLevel2Brush BackgroundSubLevel1Brush BackgroundBrush BackgroundUpLevel1Brush "
+        "TabBackgroundActiveBrush ItemViewBackgroundBrush ItemViewAlternateBackgroundBrush");
+    return sSurfaces;
+}
+
+/// Collects the pairs that are too close to one another.
+class Contrasts
+{
+public:
+    void require(double least, const QString& name, const QColor& color, const QString& groundName,
+                 const QColor& ground)
+    {
+        const double found = contrast(color, ground);
+        if (!(found >= least) || !color.isValid())
+            m_failures.append(QStringLiteral("%1 on %2: %3 instead of %4")
+                                  .arg(name, groundName)
+                                  .arg(found, 0, 'f', 2)
+                                  .arg(least));
+    }
+
+    void require(double least, const QStringList& colors, const QStringList& grounds)
+    {
+        for (const QString& color : colors) {
+            for (const QString& ground : grounds)
+                require(least, color, themed(color), ground, themed(ground));
+        }
+    }
+
+    QByteArray getFailures() const { return m_failures.join(QLatin1Char('\n')).toLocal8Bit(); }
+
+private:
+    QStringList m_failures;
+};
+
+#define VERIFY_CONTRASTS(contrasts)                                                                \
+    QVERIFY2((contrasts).getFailures().isEmpty(), (contrasts).getFailures().constData())
+
+} // namespace
+
+/// Holds one shipped theme to what the style asks of it and to what readers need.
+class tst_Themes : public QObject
+{
+    Q_OBJECT
+
+private:
+    static QStringList withTwins(const QStringList& plain)
+    {
+        QStringList all = plain;
+        for (const QString& name : plain)
+            all.append(QString(name + Disabled));
+        return all;
+    }
+
+    static QStringList missing(const QStringList& names, const char* inGroup)
+    {
+        const QVariantMap found = group(inGroup);
+        QStringList absent;
+        for (const QString& name : names) {
+            if (!found.contains(name))
+                absent.append(name);
+        }
+        return absent;
+    }
+
+    /// Words, border and focus mark of a button, on every surface.
+    static void requireButton(Contrasts& contrasts, const QString& button)
+    {
+        const QColor body = themed(button + QLatin1String("BackgroundBrush"));
+        const QColor border = themed(button + QLatin1String("BorderBrush"));
+        for (const QString& surface : surfaces()) {
+            const QColor ground = themed(surface);
+            contrasts.require(TextContrast, button,
+                              themed(button + QLatin1String("ForegroundBrush")), surface,
+                              over(body, ground));
+            contrasts.require(ShapeContrast, button + QLatin1String(" focus"),
+                              themed(QStringLiteral("ForegroundBrush")), surface,
+                              over(body, ground));
+            // A border in the color of the body is none.
+            if (border != body)
+                contrasts.require(ShapeContrast, button + QLatin1String(" border"), border, surface,
+                                  ground);
+            contrasts.require(
+                DisabledContrast, button + QLatin1String(" disabled"),
+                themed(button + QLatin1String("ForegroundBrushDisabled")), surface,
+                over(themed(button + QLatin1String("BackgroundBrushDisabled")), ground));
+        }
+    }
+
+    QStringList m_messages;
+
+private Q_SLOTS:
+
+    void initTestCase()
+    {
+        QPalette foreign;
+        for (int role = 0; role < QPalette::NColorRoles; ++role)
+            foreign.setColor(QPalette::ColorRole(role), Qt::magenta);
+        QApplication::setPalette(foreign);
+
+        const MessageRecorder recorder;
+        BaseTheme theme(QStringLiteral(VARN_THEME_REPOSITORY "/") + ThemeName);
+        theme.customize(qApp);
+        QCOMPARE(theme.getName(), ThemeName);
+        m_messages = recorder.messages();
+    }
+
+    void loadsWithoutComplaint() { QCOMPARE(m_messages, QStringList()); }
+
+    void everyNameIsDefined()
+    {
+        QCOMPARE(missing(withTwins(AllThemeNames::colors()), "colors"), QStringList());
+        QCOMPARE(missing(withTwins(AllThemeNames::brushes()), "brushes"), QStringList());
+        QCOMPARE(missing(names("small base medium large"), "fonts"), QStringList());
+        QCOMPARE(missing(names("SmallSize BaseSize MediumSize LargeSize"), "cornerRadius"),
+                 QStringList());
+        QCOMPARE(missing(names("RubberBandOpacity"), "opacities"), QStringList());
+        for (const char* factor : {"LightForegroundDisableFactor", "LightBackgroundDisableFactor",
+                                   "DarkForegroundDisableFactor", "DarkBackgroundDisableFactor"})
+            QVERIFY2(ThemeResources::getDisabledFactor(QLatin1String(factor)) > 0, factor);
+    }
+
+    void styleSheetHoldsNoPlaceholder() { QVERIFY(!qApp->styleSheet().contains(QLatin1Char('@'))); }
+
+    void everyPaletteRoleIsMapped()
+    {
+        const QPalette palette = qApp->style()->standardPalette();
+        const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+        for (const auto paletteGroup : {QPalette::Active, QPalette::Inactive}) {
+            for (int role = 0; role < QPalette::NColorRoles; ++role) {
+                if (role != QPalette::NoRole)
+                    QVERIFY2(palette.color(paletteGroup, QPalette::ColorRole(role))
+                                 != QColor(Qt::magenta),
+                             roles.valueToKey(role));
+            }
+        }
+        QVERIFY(palette.color(QPalette::Inactive, QPalette::Highlight)
+                != palette.color(QPalette::Active, QPalette::Highlight));
+    }
+
+    void paletteIsRead()
+    {
+        struct Pair
+        {
+            QPalette::ColorRole text;
+            QPalette::ColorRole ground;
+        };
+
+        constexpr Pair Pairs[] = {{QPalette::WindowText, QPalette::Window},
+                                  {QPalette::WindowText, QPalette::Light},
+                                  {QPalette::Text, QPalette::Base},
+                                  {QPalette::Text, QPalette::AlternateBase},
+                                  {QPalette::ButtonText, QPalette::Button},
+                                  {QPalette::ToolTipText, QPalette::ToolTipBase},
+                                  {QPalette::HighlightedText, QPalette::Highlight}};
+        const QPalette palette = qApp->style()->standardPalette();
+        const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+        Contrasts contrasts;
+        for (const auto paletteGroup : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+            const bool isDisabled = paletteGroup == QPalette::Disabled;
+            for (const Pair& pair : Pairs) {
+                // Tool tips are never disabled.
+                if (isDisabled && pair.text == QPalette::ToolTipText)
+                    continue;
+                contrasts.require(isDisabled ? DisabledContrast : TextContrast,
+                                  QLatin1String(roles.valueToKey(pair.text)),
+                                  palette.color(paletteGroup, pair.text),
+                                  QLatin1String(roles.valueToKey(pair.ground)),
+                                  palette.color(paletteGroup, pair.ground));
+            }
+        }
+        for (const auto role : {QPalette::Link, QPalette::LinkVisited, QPalette::PlaceholderText})
+            contrasts.require(SubduedContrast, QLatin1String(roles.valueToKey(role)),
+                              palette.color(role), QStringLiteral("Base"),
+                              palette.color(QPalette::Base));
+        VERIFY_CONTRASTS(contrasts);
+    }
+
+    void wordsAreReadOnSurfaces()
+    {
+        Contrasts contrasts;
+        contrasts.require(TextContrast,
+                          names("ForegroundBrush ForegroundSubLevel1Color ForegroundUpLevel1Color"),
+                          surfaces());
+        contrasts.require(SubduedContrast, names("ForegroundDisabledBrush"),
+                          surfaces() + names("TabBackgroundBrush"));
+        contrasts.require(TextContrast, names("ForegroundBrush TabForegroundMouseOverBrush"),
+                          names("TabBackgroundBrush TabBackgroundActiveBrush ExpanderHeaderBrush"));
+        contrasts.require(TextContrast, names("MainUpLevel1Color"),
+                          names("TabBackgroundBrush TabBackgroundActiveBrush"));
+        contrasts.require(TextContrast,
+                          names("ForegroundColor ForegroundSubLevel1Color ForegroundUpLevel1Color"),
+                          names("StatusConfigColor"));
+        contrasts.require(DisabledContrast,
+                          names("ForegroundBrushDisabled ForegroundDisabledBrushDisabled"),
+                          surfaces() + withTwins(surfaces()).mid(surfaces().size()));
+        VERIFY_CONTRASTS(contrasts);
+    }
+
+    void shapesAreSeen()
+    {
+        Contrasts contrasts;
+        contrasts.require(
+            ShapeContrast,
+            names("ControlBorderBrush ForegroundMouseOverBrush InputBorderBrush "
+                  "InputBorderActiveBrush MainBrush TabBorderMouseOverBrush "
+                  "PrioritySecondarySubLevel1Brush StatusDangerColor StatusSuccessColor "
+                  "StatusWarningColor StatusInfoColor"),
+            surfaces());
+        contrasts.require(
+            ShapeContrast,
+            names("ControlBorderBrush ForegroundMouseOverBrush MainBrush ForegroundBrush "
+                  "SwitchEllipseBrush SwitchForegroundCheckedEllipseBrush"),
+            names("ControlBackgroundBrush"));
+        contrasts.require(ShapeContrast,
+                          names("MainBrush PrioritySecondarySubLevel1Brush InputForegroundBrush "
+                                "SliderThumbNailHoverBrush SliderThumbNailPressedBrush"),
+                          names("GrooveBackgroundBrush"));
+        contrasts.require(ShapeContrast,
+                          names("HighContrastBorderBrush MainBrush InputForegroundBrush"),
+                          names("HighContrastBackgroundBrush"));
+        VERIFY_CONTRASTS(contrasts);
+    }
+
+    void buttonsAreRead_data()
+    {
+        QTest::addColumn<QString>("button");
+        for (const char* family : {"Button", "ToggleButton"}) {
+            for (const QString& kind : AllThemeNames::kinds()) {
+                const QString button = QLatin1String(family) + kind;
+                QTest::newRow(qPrintable(button)) << button;
+            }
+        }
+    }
+
+    void buttonsAreRead()
+    {
+        QFETCH(QString, button);
+        Contrasts contrasts;
+        for (const QString& state : AllThemeNames::states())
+            requireButton(contrasts, button + state);
+        VERIFY_CONTRASTS(contrasts);
+    }
+
+    void specialButtonsAreRead()
+    {
+        Contrasts contrasts;
+        // Flat ones change their words when they are pressed.
+        for (const char* button : {"ButtonHighlighted", "ButtonTarrin", "ToggleButtonHighlighted",
+                                   "ToggleButtonTarrin"}) {
+            for (const char* state : {"Checked", "Default", "Unchecked"})
+                contrasts.require(TextContrast,
+                                  names("ButtonHighlightedUncheckedHoverForegroundBrush"),
+                                  {QLatin1String(button) + QLatin1String(state)
+                                   + QLatin1String("PressedBackgroundBrush")});
+        }
+        // Those of a workflow have no body and write in the colors of borders and of the accent.
+        const QStringList list = names("ListBackgroundBrush");
+        contrasts.require(TextContrast, names("MainBrush ForegroundBrush"), list);
+        contrasts.require(ShapeContrast, names("ListBorderBrush PrioritySecondaryUpLevel1Brush"),
+                          list);
+        for (const QString& state : AllThemeNames::states()) {
+            const QString words = QLatin1String("Button") + state + QLatin1String("BorderBrush");
+            contrasts.require(TextContrast, {words}, list);
+            contrasts.require(DisabledContrast, {words + Disabled}, {list.first() + Disabled});
+        }
+        VERIFY_CONTRASTS(contrasts);
+    }
+
+    void inputsAreRead()
+    {
+        Contrasts contrasts;
+        for (const QString& kind : AllThemeNames::kinds()) {
+            for (const QString& state : AllThemeNames::states()) {
+                const QString input = QLatin1String("Input") + kind + state;
+                const QString ground = input + QLatin1String("BackgroundBrush");
+                const QString border = input + QLatin1String("BorderBrush");
+                const QString words = input + QLatin1String("ForegroundBrush");
+                contrasts.require(TextContrast, {words}, {ground});
+                contrasts.require(DisabledContrast, {words + Disabled}, {ground + Disabled});
+                contrasts.require(ShapeContrast, {border}, surfaces() + QStringList{ground});
+                // The frame in focus, and the arrows of spin boxes under the pointer and pressed.
+                contrasts.require(ShapeContrast, names("MainBrush MainSubLevel1Brush"), {ground});
+            }
+        }
+        const QStringList fields =
+            names("InputBackgroundBrush InputBackgroundActiveBrush InputUncheckedBackgroundBrush");
+        contrasts.require(TextContrast, names("InputForegroundBrush"), fields);
+        contrasts.require(DisabledContrast, names("InputForegroundBrushDisabled"),
+                          withTwins(fields).mid(fields.size()));
+        VERIFY_CONTRASTS(contrasts);
+    }
+
+    void disabledLooksDisabled_data()
+    {
+        QTest::addColumn<QString>("name");
+        for (const char* name :
+             {"ForegroundBrush", "InputForegroundBrush", "ButtonUncheckedForegroundBrush",
+              "ControlBorderBrush", "InputUncheckedBorderBrush", "MainBrush",
+              "ButtonDefaultBackgroundBrush", "PrioritySecondarySubLevel1Brush"})
+            QTest::newRow(name) << QString::fromLatin1(name);
+    }
+
+    void disabledLooksDisabled()
+    {
+        QFETCH(QString, name);
+        const QColor ground = themed(QStringLiteral("BackgroundBrush"));
+        QVERIFY(contrast(themed(name + Disabled), ground) < 0.85 * contrast(themed(name), ground));
+    }
+
+    void seriesAreToldApart()
+    {
+        constexpr double LeastDistance = 18;
+        const QStringList series = AllThemeNames::colors().filter(QLatin1String("Series"));
+        QCOMPARE(series.size(), 11);
+        Contrasts contrasts;
+        contrasts.require(ShapeContrast, series, surfaces());
+        VERIFY_CONTRASTS(contrasts);
+        for (const Matrix& vision : Visions) {
+            for (const QString& a : series) {
+                for (const QString& b : series) {
+                    if (a < b && distanceInLab(themed(a), themed(b), vision) < LeastDistance)
+                        QFAIL(qPrintable(a + QLatin1String(" looks like ") + b));
+                }
+            }
+        }
+    }
+
+    void documentationNamesThemAll()
+    {
+        QFile file(QStringLiteral(VARN_DOCS "/theme-names.md"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QString text = QString::fromUtf8(file.readAll());
+        QStringList unnamed;
+        for (const QString& name : AllThemeNames::colors() + AllThemeNames::plainBrushes()
+                                       + AllThemeNames::kinds().mid(1)) {
+            if (!text.contains(QString(QLatin1Char('`') + name + QLatin1Char('`'))))
+                unnamed.append(name);
+        }
+        QCOMPARE(unnamed, QStringList());
+    }
+};
+
+QTEST_MAIN(tst_Themes)
+#include "tst_Themes.moc"
