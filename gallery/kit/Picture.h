@@ -12,8 +12,8 @@ namespace Gallery {
 class Picture : public QWidget
 {
 public:
-    /// `popup` is painted at the size it has; `owner`, which is the pop-up itself or a widget that it belongs to,
-    /// becomes a hidden child of the picture.
+    /// `popup` is painted at the size it has; `owner`, which is the pop-up itself or a widget that
+    /// it belongs to, becomes a hidden child of the picture.
     Picture(QWidget* popup, QWidget* owner);
 
     QSize sizeHint() const override;
