@@ -190,8 +190,7 @@ void paintButton(const PaintContext& context, const QStyleOptionButton& button)
     context.draw(QStyle::CE_PushButtonLabel, label);
 
     if (context.has(QStyle::State_HasFocus)) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(button);
+        auto focus = optionFrom<QStyleOptionFocusRect>(button);
         focus.rect = context.part(QStyle::SE_PushButtonFocusRect);
         context.draw(QStyle::PE_FrameFocusRect, focus);
     }

@@ -173,8 +173,7 @@ void paintCheckBox(const PaintContext& context, const QStyleOptionButton& button
     context.draw(QStyle::CE_CheckBoxLabel, part);
 
     if (context.has(QStyle::State_HasFocus)) {
-        QStyleOptionFocusRect focus;
-        focus.QStyleOption::operator=(button);
+        auto focus = optionFrom<QStyleOptionFocusRect>(button);
         focus.rect = context.part(QStyle::SE_CheckBoxFocusRect);
         context.draw(QStyle::PE_FrameFocusRect, focus);
     }

@@ -1,5 +1,8 @@
+#include "ButtonContent.h"
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 
 // Combo boxes and calendar-popup date editors.
 
@@ -8,6 +11,8 @@ namespace BRELK::ComboBoxes {
 namespace {
 
 constexpr int TextPadding = 8;
+constexpr int FrameInset = 4; ///< what the edit field already keeps off the border
+constexpr int IconSpacing = 4;
 
 /// The arrow area is a square of the box's height, but never narrower than the arrow.
 int arrowExtent(const StyleContext& context, const QRect& box)
@@ -48,14 +53,94 @@ QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox
     }
 }
 
-void paintLabel(const PaintContext& context, const QStyleOptionComboBox&)
+namespace {
+
+/// A combo box without a frame shows only its text, and a patch under it while it is pointed at or
+/// open.
+void paintQuietBackground(const PaintContext& context, const QRect& rect)
 {
-    context.drawByBase(QStyle::CE_ComboBoxLabel);
+    if (!BaseStyle::isHovered(&context.option) && !BaseStyle::isDown(context.option))
+        return;
+    const QString name = BaseStyle::isDown(context.option) ? ThemeNames::backgroundSubLevel2Brush()
+                                                           : ThemeNames::backgroundUpLevel1Brush();
+    Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::smallSize()),
+                    context.brush(name), Qt::NoBrush);
+}
+
+QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& comboBox)
+{
+    const QBrush themed = comboBox.frame
+                              ? BaseStyle::buttonBrushes(&comboBox, context.widget).foregroundBrush
+                              : context.brush(ThemeNames::foregroundBrush());
+    return ButtonContent::textBrush(comboBox, context.widget, QPalette::ButtonText, themed);
+}
+
+/// Draws the current icon at the start of `rect` and returns what remains for the text.
+QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBox,
+                const QRect& rect, const QBrush& brush)
+{
+    const QSize size = comboBox.currentIcon.actualSize(comboBox.iconSize.boundedTo(rect.size()));
+    QRect iconRect(rect.x() + IconSpacing, rect.y(), size.width(), rect.height());
+    if (context.rightToLeft() && !comboBox.editable)
+        iconRect.moveRight(rect.right() - IconSpacing);
+    if (comboBox.editable) // the line edit leaves this place open
+        context.painter.fillRect(iconRect,
+                                 context.brush(ThemeNames::inputUncheckedBackgroundBrush()));
+    const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(comboBox.currentIcon, brush);
+    context.proxy().drawItemPixmap(&context.painter, iconRect, Qt::AlignCenter,
+                                   Shapes::iconPixmap(context.painter, icon, size));
+    const int taken = size.width() + IconSpacing;
+    return context.rightToLeft() ? rect.adjusted(0, 0, -taken, 0) : rect.adjusted(taken, 0, 0, 0);
+}
+
+} // namespace
+
+void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox)
+{
+    QRect rect = context.proxy().subControlRect(QStyle::CC_ComboBox, &comboBox,
+                                                QStyle::SC_ComboBoxEditField, context.widget);
+    if (!comboBox.frame && !comboBox.editable)
+        paintQuietBackground(context, comboBox.rect);
+
+    const PainterSaver saver(context.painter);
+    context.painter.setClipRect(rect, Qt::IntersectClip);
+    const QBrush brush = labelBrush(context, comboBox);
+    if (!comboBox.currentIcon.isNull())
+        rect = paintIcon(context, comboBox, rect, brush);
+    if (comboBox.editable)
+        return;
+    const int padding = context.measure().dpiScaled(TextPadding) - FrameInset;
+    const auto flags =
+        QStyle::visualAlignment(comboBox.direction, Qt::AlignLeft | Qt::AlignVCenter);
+    Shapes::drawText(context, rect.adjusted(padding, 0, -padding, 0), int(flags),
+                     comboBox.currentText, brush);
 }
 
 void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
-    context.drawByBase(QStyle::CC_ComboBox, comboBox);
+    // Deliberate: everything is taken at the origin, where the widget paints.
+    QStyleOptionComboBox copy = comboBox;
+    copy.rect = QRect(QPoint(), comboBox.rect.size());
+    const QRect arrowRect = context.proxy().subControlRect(
+        QStyle::CC_ComboBox, &copy, QStyle::SC_ComboBoxArrow, context.widget);
+    const bool hasArrow = comboBox.subControls & QStyle::SC_ComboBoxArrow;
+
+    if (comboBox.editable) {
+        auto frame = optionFrom<QStyleOptionFrame>(copy);
+        if (hasArrow)
+            frame.rect.setRight(arrowRect.left());
+        context.draw(QStyle::PE_FrameLineEdit, frame);
+        frame.rect = arrowRect.adjusted(-1, 0, 0, 0);
+        context.draw(QStyle::PE_PanelButtonCommand, frame);
+    } else {
+        context.draw(QStyle::PE_PanelButtonCommand, optionFrom<QStyleOptionButton>(copy));
+    }
+    if (hasArrow) {
+        auto arrow = optionFrom<QStyleOptionButton>(copy);
+        arrow.rect = arrowRect;
+        ButtonContent::commonCallButtonText(arrow, context.widget);
+        context.draw(QStyle::PE_IndicatorArrowDown, arrow);
+    }
 }
 
 } // namespace BRELK::ComboBoxes

@@ -68,9 +68,9 @@ Painter painterOf(QStyle::ControlElement element)
     case QStyle::CE_PushButtonLabel:     return by<Buttons::paintLabel>;
     case QStyle::CE_RadioButtonLabel:    return by<CheckBoxes::paintLabel>;
     case QStyle::CE_RubberBand:          return by<WindowParts::paintRubberBand>;
-    case QStyle::CE_ScrollBarAddLine:    return by<ScrollBars::paintLine>;
+    case QStyle::CE_ScrollBarAddLine:    return by<ScrollBars::paintAddLine>;
     case QStyle::CE_ScrollBarSlider:     return by<ScrollBars::paintSlider>;
-    case QStyle::CE_ScrollBarSubLine:    return by<ScrollBars::paintLine>;
+    case QStyle::CE_ScrollBarSubLine:    return by<ScrollBars::paintSubLine>;
     case QStyle::CE_ShapedFrame:         return by<Frames::paintShapedFrame>;
     case QStyle::CE_Splitter:            return by<WindowParts::paintSplitter>;
     case QStyle::CE_TabBarTabLabel:      return by<Tabs::paintLabel>;

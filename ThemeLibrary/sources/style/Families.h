@@ -139,7 +139,8 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
                const QRect& base);
 void paintCorner(const PaintContext& context);
-void paintLine(const PaintContext& context, const QStyleOptionSlider& bar);
+void paintAddLine(const PaintContext& context, const QStyleOptionSlider& bar);
+void paintSubLine(const PaintContext& context, const QStyleOptionSlider& bar);
 void paintSlider(const PaintContext& context, const QStyleOptionSlider& bar);
 void paintScrollBar(const PaintContext& context, const QStyleOptionSlider& bar);
 } // namespace ScrollBars

@@ -1,5 +1,12 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+
+#include <QElapsedTimer>
+#include <QProgressBar>
+#include <QTimerEvent>
+#include <QtMath>
 
 // Progress bars.
 
@@ -24,19 +31,198 @@ QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressB
                                              : QSize(thickness, base.height());
 }
 
+namespace {
+
+constexpr int FramesPerSecond = 30;
+constexpr int BusyPeriod = 1600; ///< milliseconds for the way there and back
+constexpr int DisabledHighlightAlpha = 153;
+constexpr char AnimationName[] = "_varn_busyAnimation";
+
+bool isBusy(int minimum, int maximum)
+{
+    return minimum == 0 && maximum == 0;
+}
+
+/// Repaints a busy progress bar for as long as it is one and can be seen, then goes.
+class BusyAnimation : public QObject
+{
+public:
+    explicit BusyAnimation(QProgressBar& bar) : QObject(&bar), m_bar(bar)
+    {
+        setObjectName(QLatin1String(AnimationName));
+        startTimer(1000 / FramesPerSecond);
+    }
+
+protected:
+    void timerEvent(QTimerEvent* event) override
+    {
+        if (m_bar.isVisible() && isBusy(m_bar.minimum(), m_bar.maximum())) {
+            m_bar.update();
+        } else {
+            killTimer(event->timerId());
+            delete this;
+        }
+    }
+
+private:
+    QProgressBar& m_bar;
+};
+
+void animate(QObject* object)
+{
+    auto* bar = qobject_cast<QProgressBar*>(object);
+    if (!bar || !bar->isVisible()
+        || bar->findChild<QObject*>(QLatin1String(AnimationName), Qt::FindDirectChildrenOnly))
+        return;
+    new BusyAnimation(*bar); // owned by the bar
+}
+
+/// Where the band of a busy bar stands, from 0 to 1, slowing down at both ends.
+qreal busyPosition()
+{
+    static const QElapsedTimer sClock = [] {
+        QElapsedTimer clock;
+        clock.start();
+        return clock;
+    }();
+    const qreal turn = qreal(sClock.elapsed() % BusyPeriod) / BusyPeriod;
+    return (1 - qCos(turn * 2 * M_PI)) / 2;
+}
+
+/// A progress bar as if it grew from left to right: `start` and `end` along its length, and which
+/// side that is.
+struct Filling
+{
+    qreal start = 0;
+    qreal end = 0;
+};
+
+Filling filling(const QStyleOptionProgressBar& bar, qreal length)
+{
+    if (isBusy(bar.minimum, bar.maximum)) {
+        const qreal band = length / 3;
+        const qreal start = busyPosition() * (length - band);
+        return {start, start + band};
+    }
+    const qint64 range = qint64(bar.maximum) - bar.minimum;
+    const qint64 done =
+        qBound(qint64(0), qint64(bar.progress) - bar.minimum, qMax(range, qint64(0)));
+    return {0, range > 0 ? length * qreal(done) / qreal(range) : 0};
+}
+
+bool growsBackwards(const QStyleOptionProgressBar& bar)
+{
+    if (bar.orientation == Qt::Vertical)
+        return !bar.invertedAppearance; // from the bottom
+    return bar.invertedAppearance != (bar.direction == Qt::RightToLeft);
+}
+
+/// The filled part of `rect`.
+QRectF filledRect(const QStyleOptionProgressBar& bar, const QRectF& rect)
+{
+    const bool horizontal = bar.orientation == Qt::Horizontal;
+    const qreal length = horizontal ? rect.width() : rect.height();
+    Filling part = filling(bar, length);
+    if (growsBackwards(bar))
+        part = {length - part.end, length - part.start};
+    return horizontal
+               ? QRectF(rect.x() + part.start, rect.y(), part.end - part.start, rect.height())
+               : QRectF(rect.x(), rect.y() + part.start, rect.width(), part.end - part.start);
+}
+
+/// The growing end is square until it reaches the round end of the groove.
+Helpers::StraightCornerFlags growingCorners(const QStyleOptionProgressBar& bar, const QRectF& rect,
+                                            const QRectF& filled, int radius)
+{
+    const bool horizontal = bar.orientation == Qt::Horizontal;
+    const qreal room = horizontal ? rect.width() - filled.width() : rect.height() - filled.height();
+    if (isBusy(bar.minimum, bar.maximum) || room < radius)
+        return Helpers::None;
+    if (horizontal)
+        return growsBackwards(bar) ? Helpers::LeftCorners : Helpers::RightCorners;
+    return growsBackwards(bar) ? Helpers::TopCorners : Helpers::BottomCorners;
+}
+
+QBrush fillBrush(const PaintContext& context)
+{
+    const QPalette& palette = context.option.palette;
+    QColor highlight = palette.color(QPalette::Highlight);
+    const QColor themed =
+        context.style.getPalette().color(palette.currentColorGroup(), QPalette::Highlight);
+    // An application's own highlight color is kept.
+    if (highlight == themed || highlight == BaseStyle::getColor(ThemeNames::mainColor(), true))
+        return context.brush(ThemeNames::mainBrush());
+    if (!context.enabled())
+        highlight.setAlpha(DisabledHighlightAlpha);
+    return highlight;
+}
+
+void drawShape(const PaintContext& context, const QRectF& rect, const QBrush& brush,
+               Helpers::StraightCornerFlags corners)
+{
+    const PainterSaver saver(context.painter);
+    context.painter.setPen(
+        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    context.painter.setBrush(brush);
+    Helpers::drawRoundedRectShape(rect, Shapes::cornerRadius(ThemeNames::baseSize()), corners,
+                                  &context.painter);
+}
+
+/// Text in one brush where it lies in `clip`.
+void drawTextIn(const PaintContext& context, const QRect& clip, const QRect& rect,
+                const QString& text, QPalette::ColorRole role)
+{
+    if (!clip.intersects(rect))
+        return;
+    const PainterSaver saver(context.painter);
+    context.painter.setClipRect(clip, Qt::IntersectClip);
+    Shapes::drawText(context, rect, Qt::AlignCenter | Qt::TextSingleLine, text,
+                     context.option.palette.brush(role));
+}
+
+} // namespace
+
 void paintGroove(const PaintContext& context)
 {
-    context.drawByBase(QStyle::CE_ProgressBarGroove);
+    drawShape(context, Shapes::onPixels(context.option.rect),
+              context.style.grooveBackgroundBrush(context.enabled()), Helpers::None);
 }
 
-void paintContents(const PaintContext& context, const QStyleOptionProgressBar&)
+void paintContents(const PaintContext& context, const QStyleOptionProgressBar& bar)
 {
-    context.drawByBase(QStyle::CE_ProgressBarContents);
+    if (isBusy(bar.minimum, bar.maximum))
+        animate(bar.styleObject);
+    const QRectF rect = Shapes::onPixels(bar.rect);
+    const QRectF filled = filledRect(bar, rect);
+    if (filled.width() < 1 || filled.height() < 1)
+        return;
+    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
+    drawShape(context, filled, fillBrush(context), growingCorners(bar, rect, filled, radius));
 }
 
-void paintLabel(const PaintContext& context, const QStyleOptionProgressBar&)
+void paintLabel(const PaintContext& context, const QStyleOptionProgressBar& bar)
 {
-    context.drawByBase(QStyle::CE_ProgressBarLabel);
+    if (!bar.textVisible || bar.text.isEmpty())
+        return;
+    QRect rect = bar.rect;
+    QRect filled = filledRect(bar, bar.rect).toAlignedRect();
+    const PainterSaver saver(context.painter);
+    if (bar.orientation == Qt::Vertical) {
+        // Turned so that the text reads upwards or downwards; the bar is laid on its side with it.
+        const bool upwards = bar.bottomToTop;
+        QTransform turn;
+        turn.translate(rect.center().x() + 0.5, rect.center().y() + 0.5);
+        turn.rotate(upwards ? -90 : 90);
+        turn.translate(-rect.center().x() - 0.5, -rect.center().y() - 0.5);
+        context.painter.setTransform(turn, true);
+        rect = turn.inverted().mapRect(QRectF(rect)).toRect();
+        filled = turn.inverted().mapRect(QRectF(filled)).toRect();
+    }
+    if (isBusy(bar.minimum, bar.maximum))
+        filled = {};
+    drawTextIn(context, filled, rect, bar.text, QPalette::HighlightedText);
+    for (const QRect& part : QRegion(rect) - filled)
+        drawTextIn(context, part, rect, bar.text, QPalette::Text);
 }
 
 } // namespace BRELK::ProgressBars

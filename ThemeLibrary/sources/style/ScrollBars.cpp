@@ -1,9 +1,14 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+#include "ThemeResources.h"
 
 #include <QAbstractScrollArea>
 
 // Scroll bars and the corner between them.
+//
+// Properties: "minimized".
 
 namespace BRELK::ScrollBars {
 
@@ -62,25 +67,88 @@ QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyl
     }
 }
 
+namespace {
+
+constexpr int ArrowSize = 10;
+constexpr qreal SliderInset = 0.2; ///< of the bar's thickness, on either side of the slider
+
+QStyle::PrimitiveElement lineArrow(const StyleContext& context, bool forwards)
+{
+    if (!context.has(QStyle::State_Horizontal))
+        return forwards ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowUp;
+    return forwards != context.rightToLeft() ? QStyle::PE_IndicatorArrowRight
+                                             : QStyle::PE_IndicatorArrowLeft;
+}
+
+void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool forwards)
+{
+    QStyleOptionSlider arrow = bar;
+    arrow.rect = QRect(0, 0, ArrowSize, ArrowSize);
+    arrow.rect.moveCenter(bar.rect.center());
+    if (BaseStyle::isHovered(&bar) || BaseStyle::isPressed(bar))
+        arrow.palette.setBrush(arrow.palette.currentColorGroup(), QPalette::ButtonText,
+                               context.color(ThemeNames::mainColor()));
+    if (bar.rect.contains(arrow.rect))
+        context.draw(lineArrow(context, forwards), arrow);
+}
+
+} // namespace
+
 void paintCorner(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_PanelScrollAreaCorner);
+    context.painter.fillRect(context.option.rect,
+                             context.style.grooveBackgroundBrush(context.enabled()));
 }
 
-void paintLine(const PaintContext& context, const QStyleOptionSlider& bar)
+void paintAddLine(const PaintContext& context, const QStyleOptionSlider& bar)
 {
-    context.style.QProxyStyle::drawControl(QStyle::CE_ScrollBarAddLine, &bar, &context.painter,
-                                           context.widget);
+    paintLine(context, bar, true);
 }
 
-void paintSlider(const PaintContext& context, const QStyleOptionSlider&)
+void paintSubLine(const PaintContext& context, const QStyleOptionSlider& bar)
 {
-    context.drawByBase(QStyle::CE_ScrollBarSlider);
+    paintLine(context, bar, false);
+}
+
+void paintSlider(const PaintContext& context, const QStyleOptionSlider& bar)
+{
+    if (bar.minimum == bar.maximum)
+        return;
+    QBrush brush = context.brush(context.flag(WidgetProperties::Minimized)
+                                     ? ThemeNames::foregroundDisabledBrush()
+                                     : ThemeNames::prioritySecondarySubLevel1Brush());
+    if (BaseStyle::isHovered(&bar))
+        brush = ThemeResources::getColor(ThemeNames::mainColor());
+
+    const bool horizontal = context.has(QStyle::State_Horizontal);
+    const int inset = int(SliderInset * (horizontal ? bar.rect.height() : bar.rect.width()));
+    const QRect slider = horizontal ? bar.rect.adjusted(0, inset, 0, -inset)
+                                    : bar.rect.adjusted(inset, 0, -inset, 0);
+    Shapes::drawBox(context, slider, qMin(slider.width(), slider.height()), brush, Qt::NoBrush);
 }
 
 void paintScrollBar(const PaintContext& context, const QStyleOptionSlider& bar)
 {
-    context.drawByBase(QStyle::CC_ScrollBar, bar);
+    QStyleOptionSlider copy = bar;
+    if (!context.flag(WidgetProperties::Minimized)) {
+        const int frameWidth = scrollAreaFrameWidth(context.widget);
+        if (bar.orientation == Qt::Horizontal)
+            copy.rect.adjust(0, 0, 0, frameWidth);
+        else
+            copy.rect.adjust(0, 0, frameWidth, 0);
+    }
+    if (bar.minimum == bar.maximum) {
+        copy.state &= ~QStyle::State_Enabled;
+        copy.palette.setCurrentColorGroup(QPalette::Disabled);
+    }
+    // Deliberate: of this style and with the option as it came.
+    const QRect groove = context.style.subControlRect(QStyle::CC_ScrollBar, &bar,
+                                                      QStyle::SC_ScrollBarGroove, context.widget);
+    context.painter.fillRect(groove, context.style.grooveBackgroundBrush(context.enabled()));
+
+    const PainterSaver saver(context.painter);
+    context.style.QCommonStyle::drawComplexControl(QStyle::CC_ScrollBar, &copy, &context.painter,
+                                                   context.widget);
 }
 
 } // namespace BRELK::ScrollBars

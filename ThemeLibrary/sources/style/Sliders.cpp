@@ -1,7 +1,14 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+
+#include <QCursor>
+#include <QSlider>
 
 // Sliders.
+//
+// Properties: "rangeSlider", "slider_high_contrast", "slider_highlighted".
 
 namespace BRELK::Sliders {
 
@@ -81,9 +88,184 @@ QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
     }
 }
 
+namespace {
+
+/// What the parts of one slider share while it is painted.
+struct SliderLook
+{
+    const PaintContext& context;
+    const QStyleOptionSlider& slider;
+    QRect groove;
+    QRect handle;
+    QBrush main;
+    int radius;
+    bool horizontal;
+    bool highContrast;
+
+    QBrush highContrastBorder() const
+    {
+        return context.brush(ThemeNames::highContrastBorderBrush());
+    }
+};
+
+QPen solidPen(const QBrush& brush)
+{
+    return QPen(brush.color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+}
+
+void paintGroove(const SliderLook& look)
+{
+    const PaintContext& context = look.context;
+    const QBrush& grooveBrush = context.style.grooveBackgroundBrush(context.enabled());
+    QPainter& painter = context.painter;
+    painter.setPen(solidPen(look.highContrast ? look.highContrastBorder() : grooveBrush));
+    painter.setBrush(look.highContrast ? context.brush(ThemeNames::highContrastBackgroundBrush())
+                                       : grooveBrush);
+    if (look.radius == 0) {
+        const QRect rect =
+            look.horizontal ? look.groove.adjusted(1, 0, -1, 0) : look.groove.adjusted(0, 1, 0, -1);
+        painter.fillRect(rect, painter.brush());
+        painter.drawRect(rect);
+        return;
+    }
+    const QRectF rect = look.horizontal ? QRectF(look.groove).adjusted(1.5, 0.5, -1.5, 0.5)
+                                        : QRectF(look.groove).adjusted(0.5, 1.5, 0.5, -1.5);
+    Helpers::drawRoundedRectShape(rect, look.radius, Helpers::None, &painter);
+}
+
+/// The part of the groove between its start and the handle.
+QRectF highlightedRect(const SliderLook& look)
+{
+    const QRectF groove = look.groove;
+    const QRectF handle = look.handle;
+    if (look.horizontal) {
+        return look.slider.upsideDown
+                   ? groove.adjusted(handle.right() - look.radius + 0.5, 0.5, -1.0, 0.5)
+                   : groove.adjusted(1.0, 0.5, -(groove.right() - handle.right()) - 0.5, 0.5);
+    }
+    return look.slider.upsideDown
+               ? groove.adjusted(0.5, handle.bottom() - look.radius + 0.5, 0.5, -1.0)
+               : groove.adjusted(0.5, 1.0, 0.5, -(groove.bottom() - handle.bottom()) - 0.5);
+}
+
+void paintHighlight(const SliderLook& look)
+{
+    QPainter& painter = look.context.painter;
+    const PainterSaver saver(painter);
+    if (look.radius == 0) {
+        painter.fillRect(highlightedRect(look), look.main);
+        return;
+    }
+    painter.setPen(solidPen(look.highContrast ? look.highContrastBorder() : look.main));
+    painter.setBrush(look.main);
+    Helpers::drawRoundedRectShape(highlightedRect(look), look.radius, Helpers::None, &painter);
+}
+
+int positionOf(const QStyleOptionSlider& slider, int value, int space)
+{
+    return QStyle::sliderPositionFromValue(slider.minimum, slider.maximum, value, space,
+                                           slider.upsideDown);
+}
+
+qint64 tickInterval(const SliderLook& look, int available)
+{
+    constexpr int SmallestStepWidth = 3;
+    const QStyleOptionSlider& slider = look.slider;
+    if (slider.tickInterval >= 1)
+        return slider.tickInterval;
+    const int stepWidth =
+        positionOf(slider, slider.singleStep, available) - positionOf(slider, 0, available);
+    return qMax(1, stepWidth < SmallestStepWidth ? slider.pageStep : slider.singleStep);
+}
+
+void paintTick(const SliderLook& look, int position, int inset, int length)
+{
+    const QRect& rect = look.slider.rect;
+    QPainter& painter = look.context.painter;
+    if (look.slider.tickPosition & QSlider::TicksAbove) {
+        if (look.horizontal)
+            painter.drawLine(position, rect.top() + inset, position, rect.top() + length);
+        else
+            painter.drawLine(rect.left() + inset, position, rect.left() + length, position);
+    }
+    if (look.slider.tickPosition & QSlider::TicksBelow) {
+        if (look.horizontal)
+            painter.drawLine(position, rect.bottom() - inset, position, rect.bottom() - length);
+        else
+            painter.drawLine(rect.right() - inset, position, rect.right() - length, position);
+    }
+}
+
+void paintTicks(const SliderLook& look)
+{
+    const QStyleOptionSlider& slider = look.slider;
+    const PaintContext& context = look.context;
+    const int tickLength = context.metric(QStyle::PM_SliderTickmarkOffset);
+    const int handleLength = context.metric(QStyle::PM_SliderLength);
+    const int space = (look.horizontal ? slider.rect.width() : slider.rect.height()) - handleLength;
+    const qint64 interval = tickInterval(look, context.metric(QStyle::PM_SliderSpaceAvailable));
+    const qint64 range = qint64(slider.maximum) - slider.minimum;
+    if (range < 0 || space <= 0 || range / interval > space) // closer than a pixel
+        return;
+
+    context.painter.setPen(context.brush(ThemeNames::inputForegroundBrush()).color());
+    const qint64 end = qint64(slider.maximum) + 1;
+    for (qint64 value = slider.minimum; value <= end; value += interval) {
+        if (value == end && interval == 1)
+            break;
+        const int shown = int(qMin(value, qint64(slider.maximum)));
+        const int inset = shown == slider.minimum || shown == slider.maximum ? 1 : 2;
+        paintTick(look, positionOf(slider, shown, space) + handleLength / 2, inset, tickLength);
+    }
+}
+
+QBrush handleBrush(const SliderLook& look)
+{
+    const PaintContext& context = look.context;
+    const auto* widget = qobject_cast<const QAbstractSlider*>(context.widget);
+    if (widget && widget->isSliderDown())
+        return context.brush(ThemeNames::sliderThumbNailPressedBrush());
+    const bool hovered = context.has(QStyle::State_MouseOver) && context.widget
+                         && look.handle.contains(context.widget->mapFromGlobal(QCursor::pos()));
+    return context.brush(hovered ? ThemeNames::sliderThumbNailHoverBrush()
+                                 : ThemeNames::inputForegroundBrush());
+}
+
+void paintHandle(const SliderLook& look)
+{
+    QPainter& painter = look.context.painter;
+    const QBrush brush = handleBrush(look);
+    painter.setBrush(brush);
+    painter.setPen(look.highContrast ? look.highContrastBorder().color() : brush.color());
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawEllipse(look.handle.adjusted(1, 1, -1, -1));
+}
+
+} // namespace
+
 void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
 {
-    context.drawByBase(QStyle::CC_Slider, slider);
+    const auto part = [&](QStyle::SubControl subControl) {
+        return context.proxy().subControlRect(QStyle::CC_Slider, &slider, subControl,
+                                              context.widget);
+    };
+    const SliderLook look{context,
+                          slider,
+                          part(QStyle::SC_SliderGroove),
+                          part(QStyle::SC_SliderHandle),
+                          context.brush(ThemeNames::mainBrush()),
+                          Shapes::cornerRadius(ThemeNames::baseSize()),
+                          slider.orientation == Qt::Horizontal,
+                          context.flag(WidgetProperties::SliderHighContrast)};
+    const PainterSaver saver(context.painter);
+    if (slider.subControls & QStyle::SC_SliderGroove && look.groove.isValid())
+        paintGroove(look);
+    if (context.flag(WidgetProperties::SliderHighlighted))
+        paintHighlight(look);
+    if (slider.subControls & QStyle::SC_SliderTickmarks)
+        paintTicks(look);
+    if (slider.subControls & QStyle::SC_SliderHandle)
+        paintHandle(look);
 }
 
 } // namespace BRELK::Sliders

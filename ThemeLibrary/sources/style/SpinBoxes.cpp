@@ -1,5 +1,7 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 
 // Spin boxes, date and time editors.
 
@@ -49,19 +51,126 @@ QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
     }
 }
 
+namespace {
+
+constexpr int BarLength = 8;
+constexpr int BarThickness = 2;
+
+QRect centredBar(const QRect& rect, int width, int height)
+{
+    return {rect.x() + (rect.width() - width) / 2, rect.y() + (rect.height() - height) / 2, width,
+            height};
+}
+
+int barLength(const QRect& rect)
+{
+    return qMin(BarLength, qMin(rect.width(), rect.height()) - 2);
+}
+
+/// One of the two buttons: what tells the upper from the lower.
+struct StepButton
+{
+    QStyle::SubControl part;
+    QAbstractSpinBox::StepEnabledFlag step;
+    QStyle::PrimitiveElement arrow;
+    QStyle::PrimitiveElement sign;
+    int shift; ///< of its rectangle, downwards
+};
+
+constexpr StepButton UpButton{QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnabled,
+                              QStyle::PE_IndicatorSpinUp, QStyle::PE_IndicatorSpinPlus, 1};
+constexpr StepButton DownButton{QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled,
+                                QStyle::PE_IndicatorSpinDown, QStyle::PE_IndicatorSpinMinus, 0};
+
+void setButtonText(QPalette& palette, const QBrush& brush)
+{
+    palette.setBrush(palette.currentColorGroup(), QPalette::ButtonText, brush);
+}
+
+QStyleOptionSpinBox stepOption(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
+                               const StepButton& button)
+{
+    QStyleOptionSpinBox copy = spinBox;
+    copy.subControls = button.part;
+    if (!(spinBox.stepEnabled & button.step)) {
+        copy.palette.setCurrentColorGroup(QPalette::Disabled);
+        copy.state &= ~QStyle::State_Enabled;
+    }
+    const bool isActive = spinBox.activeSubControls == button.part;
+    if (isActive && BaseStyle::isPressed(spinBox)) {
+        copy.state |= QStyle::State_On | QStyle::State_Sunken;
+    } else {
+        copy.state |= QStyle::State_Raised;
+        copy.state &= ~QStyle::State_Sunken;
+    }
+    if (!isActive && context.has(QStyle::State_MouseOver))
+        copy.state &= ~QStyle::State_MouseOver;
+    copy.rect = context.proxy()
+                    .subControlRect(QStyle::CC_SpinBox, &spinBox, button.part, context.widget)
+                    .translated(0, button.shift);
+    return copy;
+}
+
+void paintStepButton(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
+                     const StepButton& button)
+{
+    QStyleOptionSpinBox copy = stepOption(context, spinBox, button);
+    const auto bevel = optionFrom<QStyleOptionButton>(copy);
+    context.draw(QStyle::PE_PanelButtonBevel, bevel);
+
+    if (context.style.getButtonBackgroundState(bevel) == BaseStyle::ButtonBackground_Highlighted)
+        setButtonText(copy.palette, copy.palette.brush(QPalette::HighlightedText));
+    if (BaseStyle::isButtonHovered(&bevel))
+        setButtonText(copy.palette, context.brush(ThemeNames::mainBrush()));
+    if (BaseStyle::isDown(bevel))
+        setButtonText(copy.palette, context.brush(ThemeNames::mainSubLevel1Brush()));
+    const bool hasSigns = spinBox.buttonSymbols == QAbstractSpinBox::PlusMinus;
+    context.draw(hasSigns ? button.sign : button.arrow, copy);
+}
+
+} // namespace
+
 void paintMinus(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorSpinMinus);
+    const QRect& rect = context.option.rect;
+    const QBrush brush = context.option.palette.brush(QPalette::ButtonText);
+    context.painter.fillRect(centredBar(rect, barLength(rect), BarThickness), brush);
 }
 
 void paintPlus(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorSpinPlus);
+    const QRect& rect = context.option.rect;
+    const QBrush brush = context.option.palette.brush(QPalette::ButtonText);
+    const QRect horizontal = centredBar(rect, barLength(rect), BarThickness);
+    const QRect vertical = centredBar(rect, BarThickness, barLength(rect));
+    context.painter.fillRect(horizontal, brush);
+    // Above and below the horizontal bar, so that a translucent brush does not show the crossing.
+    context.painter.fillRect(
+        QRect(vertical.topLeft(), QPoint(vertical.right(), horizontal.top() - 1)), brush);
+    context.painter.fillRect(
+        QRect(QPoint(vertical.left(), horizontal.bottom() + 1), vertical.bottomRight()), brush);
 }
 
 void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBox)
 {
-    context.drawByBase(QStyle::CC_SpinBox, spinBox);
+    const QRect frame = context.proxy().subControlRect(QStyle::CC_SpinBox, &spinBox,
+                                                       QStyle::SC_SpinBoxFrame, context.widget);
+    const PainterSaver saver(context.painter);
+    if (spinBox.frame && spinBox.subControls & QStyle::SC_SpinBoxFrame) {
+        const QBrush border = context.has(QStyle::State_HasFocus)
+                                  ? QBrush(context.color(ThemeNames::mainColor()))
+                                  : QBrush(context.brush(ThemeNames::inputBorderBrush()).color());
+        Shapes::drawBox(context, frame, Shapes::cornerRadius(ThemeNames::baseSize()),
+                        context.brush(ThemeNames::inputUncheckedBackgroundBrush()), border);
+    }
+    if (spinBox.subControls & QStyle::SC_SpinBoxUp) {
+        context.painter.setClipRect(frame.adjusted(0, 1, -1, -1));
+        paintStepButton(context, spinBox, UpButton);
+    }
+    if (spinBox.subControls & QStyle::SC_SpinBoxDown) {
+        context.painter.setClipRect(frame.adjusted(0, 0, -1, -1));
+        paintStepButton(context, spinBox, DownButton);
+    }
 }
 
 } // namespace BRELK::SpinBoxes

@@ -93,6 +93,15 @@ struct StyleContext
     MeasureContext measure() const { return {style, &option, widget}; }
 };
 
+/// An option of another kind with the common fields of `source`.
+template <class Option>
+Option optionFrom(const QStyleOption& source)
+{
+    Option option;
+    option.QStyleOption::operator=(source);
+    return option;
+}
+
 /// What a painting function needs. Whatever it draws by an element, it asks of the proxy.
 struct PaintContext : StyleContext
 {
