@@ -17,6 +17,7 @@ import dashing
 import drawing
 import generate
 import pathdata
+import svg
 from compose import PALETTE, REFERENCE, compose
 from geometry import Similarity, ellipse, polyline, rectangle
 
@@ -37,8 +38,8 @@ ASKED_FOR = re.compile(r'"([a-z]+(?:\.[a-z]+)+)"')
 NOT_NAMES = {"svg", "cur", "png", "xml", "qss", "rcc", "theme", "conf"}
 
 
-def colors_of(svg):
-    return set(re.findall(r"#[0-9A-Fa-f]{3,8}", svg))
+def colors_of(text):
+    return set(re.findall(r"#[0-9A-Fa-f]{3,8}", text))
 
 
 class Files(unittest.TestCase):
@@ -54,10 +55,10 @@ class Files(unittest.TestCase):
             self.assertIn(name.replace("mangicwand", "magicwand"), ICONS)
 
     def test_color_classes(self):
-        with_reference = {name for name, svg in ICONS.items() if REFERENCE in colors_of(svg)}
+        with_reference = {name for name, text in ICONS.items() if REFERENCE in colors_of(text)}
         self.assertEqual(len(with_reference), 561)
-        for name, svg in ICONS.items():
-            colors = colors_of(svg)
+        for name, text in ICONS.items():
+            colors = colors_of(text)
             expected = {"reference": colors == {REFERENCE}, "mixed": REFERENCE in colors and len(colors) > 1,
                         "colored": REFERENCE not in colors}
             self.assertTrue(expected[MANIFEST[name]["class"]], name)
@@ -70,9 +71,9 @@ class Files(unittest.TestCase):
         self.assertEqual(colors_of(ICONS["status.checked.circular.colored"]), {PALETTE["warning"], PALETTE["ink"]})
 
     def test_hold_only_what_a_tiny_renderer_paints(self):
-        for name, svg in ICONS.items():
-            self.assertLessEqual(len(svg.encode()), 4096, name)
-            root = ElementTree.fromstring(svg)
+        for name, text in ICONS.items():
+            self.assertLessEqual(len(text.encode()), 4096, name)
+            root = ElementTree.fromstring(text)
             size = "16" if MANIFEST[name]["base"].endswith("@16") else "24"
             self.assertEqual([root.get(key) for key in ("width", "height", "viewBox")],
                              [size, size, f"0 0 {size} {size}"])
@@ -82,7 +83,7 @@ class Files(unittest.TestCase):
                 self.assertLessEqual(set(element.keys()), ATTRIBUTES, name)
                 if tag in SHAPES:
                     self.assertIsNotNone(element.get("fill"), name)
-            for color in colors_of(svg):
+            for color in colors_of(text):
                 self.assertRegex(color, "^#[0-9A-F]{6}$", name)
 
     def test_paint_keeps_its_distance_from_the_edge(self):
@@ -90,7 +91,7 @@ class Files(unittest.TestCase):
             icon = compose(row, GLYPHS)
             margin = 2 if icon.size == 24 else 1
             for shape in icon.shapes:
-                half_width = 0 if shape.paint in (drawing.FILL, drawing.TONE) else .75
+                half_width = 0 if shape.paint in (drawing.FILL, drawing.TONE) else svg.STROKE_WIDTH / 2
                 for point in (p for contour in shape.contours for p in contour.points()):
                     for place in (point.real, point.imag):
                         self.assertGreaterEqual(min(place, icon.size - place) - half_width, margin - .03, name)

@@ -1,7 +1,9 @@
+#include "Helpers.h"
 #include "ThemeResources.h"
 
 #include <QDir>
 #include <QImageReader>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QtTest>
 
@@ -10,6 +12,8 @@
 using namespace BRELK;
 
 namespace {
+
+const QColor reference(0xE5, 0xEE, 0xF4);
 
 using Row = QHash<QByteArray, QString>;
 
@@ -61,6 +65,19 @@ int differences(const QImage& left, const QImage& right, int tolerance, Counts c
 int differences(const QImage& left, const QImage& right, int tolerance)
 {
     return differences(left, right, tolerance, [](QPoint) { return true; });
+}
+
+// Whether a pixel and those around it have one color: edges blend two.
+bool isInside(const QImage& picture, QPoint place)
+{
+    const QRect around = QRect(place - QPoint(1, 1), QSize(3, 3)) & picture.rect();
+    for (int y = around.top(); y <= around.bottom(); ++y) {
+        for (int x = around.left(); x <= around.right(); ++x) {
+            if (picture.pixel(x, y) != picture.pixel(place))
+                return false;
+        }
+    }
+    return true;
 }
 
 constexpr int edgeTolerance = 40;
@@ -197,6 +214,41 @@ private Q_SLOTS:
             ++compared;
         }
         QVERIFY(compared >= 40);
+    }
+
+    void takeOnAnotherColor()
+    {
+        const QColor red(0xC0, 0x20, 0x10);
+        const auto recolored = [&red](const QString& name) {
+            return Helpers::getModifiedIconWithForegroundBrush(ThemeResources::getIcon(name),
+                                                               reference, red, false)
+                .pixmap(48, 48)
+                .toImage()
+                .convertToFormat(QImage::Format_ARGB32);
+        };
+        for (const Row& row : qAsConst(m_icons)) {
+            const QImage original = m_pictures.value(row["name"]);
+            const QImage picture = recolored(row["name"]);
+            QCOMPARE(picture.size(), original.size());
+            QImage allRed = original;
+            QPainter painter(&allRed);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+            painter.fillRect(allRed.rect(), red);
+            painter.end();
+            // Edges blend the two colors, so only the inside of an area shows its own.
+            const auto hasItsOwnColor = [&](QPoint place) {
+                const QRgb color = original.pixel(place);
+                return qAlpha(color) == 255 && color != reference.rgba()
+                       && isInside(original, place);
+            };
+            if (row["class"] == QLatin1String("reference"))
+                QVERIFY2(differences(picture, allRed, 2) == 0, qPrintable(row["name"]));
+            else if (row["class"] == QLatin1String("mixed"))
+                QVERIFY2(differences(picture, original, edgeTolerance) > strayPixels,
+                         qPrintable(row["name"]));
+            QVERIFY2(differences(picture, original, 2, hasItsOwnColor) == 0,
+                     qPrintable(row["name"]));
+        }
     }
 
     void cursorsLoadTheirFirstImageAndHotSpot()
