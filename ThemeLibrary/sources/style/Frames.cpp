@@ -1,10 +1,17 @@
 #include "Families.h"
+#include "PainterSaver.h"
 #include "StyleContext.h"
+#include "ThemeNames.h"
+#include "ThemeResources.h"
 
 #include <QAbstractScrollArea>
 #include <QLineEdit>
+#include <QToolTip>
+#include <qdrawutil.h>
 
 // Focus marks, tool tips and the frames of QFrame.
+//
+// Properties: "hideFocusRect".
 
 namespace BRELK::Frames {
 
@@ -34,19 +41,94 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
     }
 }
 
+namespace {
+
+bool isPlain(const QStyleOptionFrame& frame)
+{
+    return !BaseStyle::isPressed(frame) && !(frame.state & QStyle::State_Raised);
+}
+
+/// A line across the middle of the frame; sunken and raised ones are as plain as the rest.
+void paintLine(const PaintContext& context, const QStyleOptionFrame& frame)
+{
+    const int width = qMax(1, frame.lineWidth);
+    QRect line = frame.rect;
+    if (frame.frameShape == QFrame::HLine)
+        line.setHeight(width);
+    else
+        line.setWidth(width);
+    line.moveCenter(frame.rect.center());
+    context.painter.fillRect(line, context.borderBrush());
+}
+
+void paintBox(const PaintContext& context, const QStyleOptionFrame& frame)
+{
+    if (isPlain(frame)) {
+        qDrawPlainRect(&context.painter, frame.rect, context.borderBrush().color(),
+                       frame.lineWidth);
+        return;
+    }
+    const QPalette palette = context.style.generateShadeBorderPalette(frame.palette);
+    const bool sunken = BaseStyle::isPressed(frame);
+    if (frame.frameShape == QFrame::Box)
+        qDrawShadeRect(&context.painter, frame.rect, palette, sunken, frame.lineWidth,
+                       frame.midLineWidth);
+    else
+        qDrawShadePanel(&context.painter, frame.rect, palette, sunken, frame.lineWidth);
+}
+
+} // namespace
+
 void paintFocusRect(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_FrameFocusRect);
+    constexpr qreal Dash = 2;
+    constexpr qreal Radius = 1;
+    if (context.flag(WidgetProperties::HideFocusRect)
+        || !context.has(QStyle::State_KeyboardFocusChange))
+        return;
+    const PainterSaver saver(context.painter);
+    QPen pen(context.option.palette.color(QPalette::Text), 0, Qt::SolidLine, Qt::SquareCap,
+             Qt::BevelJoin);
+    pen.setDashPattern({Dash, Dash});
+    context.painter.setRenderHint(QPainter::Antialiasing);
+    context.painter.translate(0.5, 0.5);
+    context.painter.setPen(pen);
+    context.painter.setBrush(Qt::NoBrush);
+    context.painter.drawRoundedRect(context.option.rect.adjusted(0, 0, -1, -1), Radius, Radius,
+                                    Qt::AbsoluteSize);
 }
 
 void paintToolTip(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_PanelTipLabel);
+    const QPalette& palette = context.option.palette;
+    const bool isError = QToolTip::text().contains(QLatin1String("errorTooltip"));
+    const QBrush border = isError
+                              ? QBrush(ThemeResources::getColor(ThemeNames::statusDangerColor()))
+                              : palette.brush(QPalette::Shadow);
+    const QPen pen = context.painter.pen();
+    const QBrush brush = context.painter.brush();
+    context.painter.setPen(QPen(border, 0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+    context.painter.setBrush(palette.brush(QPalette::ToolTipBase));
+    context.painter.drawRect(context.option.rect.adjusted(0, 0, -1, -1));
+    context.painter.setPen(pen);
+    context.painter.setBrush(brush);
 }
 
-void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame&)
+void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& frame)
 {
-    context.drawByBase(QStyle::CE_ShapedFrame);
+    switch (frame.frameShape) {
+    case QFrame::StyledPanel: context.draw(QStyle::PE_Frame, frame); break;
+    case QFrame::HLine:
+    case QFrame::VLine: paintLine(context, frame); break;
+    case QFrame::Box:
+    case QFrame::Panel: paintBox(context, frame); break;
+    case QFrame::WinPanel:
+        qDrawWinPanel(&context.painter, frame.rect,
+                      context.style.generateWinBorderPalette(frame.palette),
+                      BaseStyle::isPressed(frame));
+        break;
+    default: break;
+    }
 }
 
 } // namespace BRELK::Frames

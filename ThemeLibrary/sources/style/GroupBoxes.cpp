@@ -1,5 +1,6 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 
 // Group boxes.
 
@@ -15,9 +16,14 @@ QRect partRect(const StyleContext& context, const QStyleOptionGroupBox& groupBox
     return besideCheckBox ? rect.adjusted(1, 0, 2, 0) : rect;
 }
 
-void paintFrame(const PaintContext& context, const QStyleOptionFrame&)
+void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
 {
-    context.drawByBase(QStyle::PE_FrameGroupBox);
+    const QRect& rect = frame.rect;
+    if (frame.features & QStyleOptionFrame::Flat)
+        Shapes::drawLine(context, rect.topLeft(), rect.topRight(), context.borderBrush());
+    else
+        Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::mediumSize()), Qt::NoBrush,
+                        context.borderBrush());
 }
 
 void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& groupBox)

@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeColorHelper.h"
 
@@ -34,19 +35,154 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
     }
 }
 
-void paintWindowFrame(const PaintContext& context)
+namespace {
+
+constexpr int CaptionRoom = 14; ///< kept free at the ends of a caption
+constexpr int MenuIconSize = 16;
+
+/// A title-bar button: when it is there, and what it shows.
+struct TitleButton
 {
-    context.drawByBase(QStyle::PE_FrameWindow);
+    QStyle::SubControl part;
+    bool (*isShown)(const QStyleOptionTitleBar&);
+    QStyle::StandardPixmap icon;
+};
+
+template <Qt::WindowType Flag>
+bool has(const QStyleOptionTitleBar& bar)
+{
+    return bar.titleBarFlags & Flag;
 }
 
-void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget&)
+template <Qt::WindowState State>
+bool is(const QStyleOptionTitleBar& bar)
 {
-    context.drawByBase(QStyle::CE_DockWidgetTitle);
+    return bar.titleBarState & State;
+}
+
+bool canMinimize(const QStyleOptionTitleBar& bar)
+{
+    return has<Qt::WindowMinimizeButtonHint>(bar) && !is<Qt::WindowMinimized>(bar);
+}
+
+bool canMaximize(const QStyleOptionTitleBar& bar)
+{
+    return has<Qt::WindowMaximizeButtonHint>(bar) && !is<Qt::WindowMaximized>(bar);
+}
+
+bool canRestore(const QStyleOptionTitleBar& bar)
+{
+    return (has<Qt::WindowMinimizeButtonHint>(bar) && is<Qt::WindowMinimized>(bar))
+           || (has<Qt::WindowMaximizeButtonHint>(bar) && is<Qt::WindowMaximized>(bar));
+}
+
+// Deliberate: shade and unshade are both shown whenever both are asked for.
+constexpr TitleButton TitleButtons[] = {
+    {QStyle::SC_TitleBarMinButton, canMinimize, QStyle::SP_TitleBarMinButton},
+    {QStyle::SC_TitleBarMaxButton, canMaximize, QStyle::SP_TitleBarMaxButton},
+    {QStyle::SC_TitleBarCloseButton, has<Qt::WindowSystemMenuHint>, QStyle::SP_TitleBarCloseButton},
+    {QStyle::SC_TitleBarNormalButton, canRestore, QStyle::SP_TitleBarNormalButton},
+    {QStyle::SC_TitleBarContextHelpButton, has<Qt::WindowContextHelpButtonHint>,
+     QStyle::SP_TitleBarContextHelpButton},
+    {QStyle::SC_TitleBarShadeButton, has<Qt::WindowShadeButtonHint>,
+     QStyle::SP_TitleBarShadeButton},
+    {QStyle::SC_TitleBarUnshadeButton, has<Qt::WindowShadeButtonHint>,
+     QStyle::SP_TitleBarUnshadeButton},
+};
+
+QRect partRect(const PaintContext& context, const QStyleOptionTitleBar& bar,
+               QStyle::SubControl part)
+{
+    return context.proxy().subControlRect(QStyle::CC_TitleBar, &bar, part, context.widget);
+}
+
+void paintCaption(const PaintContext& context, const QStyleOptionTitleBar& bar, bool active)
+{
+    const QRect rect = partRect(context, bar, QStyle::SC_TitleBarLabel);
+    const QString text =
+        bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, rect.width() - CaptionRoom);
+    context.painter.setPen(active ? QColor(Qt::white) : bar.palette.color(QPalette::Text));
+    context.painter.drawText(rect.adjusted(1, 1, 1, 1), Qt::AlignCenter, text);
+}
+
+void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& bar)
+{
+    const QRect rect = partRect(context, bar, QStyle::SC_TitleBarSysMenu);
+    if (!rect.isValid())
+        return;
+    if (!bar.icon.isNull()) {
+        bar.icon.paint(&context.painter, rect, Qt::AlignCenter);
+        return;
+    }
+    const PainterSaver saver(context.painter);
+    const QIcon icon =
+        context.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &bar, context.widget);
+    context.proxy().drawItemPixmap(
+        &context.painter, rect, Qt::AlignCenter,
+        Shapes::iconPixmap(context.painter, icon, {MenuIconSize, MenuIconSize}));
+}
+
+/// A vertical dock title reads from the bottom to the top: the painter is turned so that it can be
+/// drawn lying.
+QRect turnUpright(QPainter& painter, const QRect& rect)
+{
+    painter.translate(rect.left(), rect.top() + rect.height());
+    painter.rotate(-90);
+    return {0, 0, rect.height(), rect.width()};
+}
+
+} // namespace
+
+void paintWindowFrame(const PaintContext& context)
+{
+    const PainterSaver saver(context.painter);
+    context.painter.setPen(
+        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    context.painter.setBrush(Qt::NoBrush);
+    context.painter.drawRect(Shapes::onPixels(context.option.rect));
+}
+
+void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& dock)
+{
+    const PainterSaver saver(context.painter);
+    QRect text = context.part(QStyle::SE_DockWidgetTitleBarText);
+    context.painter.fillRect(dock.rect, dock.palette.brush(QPalette::Window));
+    if (dock.verticalTitleBar) {
+        Shapes::drawLine(context, dock.rect.topRight(), dock.rect.bottomRight(),
+                         context.borderBrush());
+        text = turnUpright(context.painter, dock.rect).adjusted(DockTitleMargin, 0, 0, 0);
+        text.setWidth(context.part(QStyle::SE_DockWidgetTitleBarText).height() - DockTitleMargin);
+    } else {
+        Shapes::drawLine(context, dock.rect.bottomLeft(), dock.rect.bottomRight(),
+                         context.borderBrush());
+    }
+    const auto flags = QStyle::visualAlignment(dock.direction, Qt::AlignLeft | Qt::AlignVCenter);
+    Shapes::drawText(context, text, int(flags) | Qt::TextShowMnemonic, dock.title,
+                     dock.palette.brush(QPalette::WindowText));
 }
 
 void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titleBar)
 {
-    context.drawByBase(QStyle::CC_TitleBar, titleBar);
+    const PainterSaver saver(context.painter);
+    const bool active = titleBar.titleBarState & QStyle::State_Active;
+    const QRectF rect = Shapes::onPixels(titleBar.rect);
+    context.painter.fillRect(rect,
+                             titleBar.palette.color(active ? QPalette::Light : QPalette::Window));
+    context.painter.setPen(
+        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    context.painter.setBrush(Qt::NoBrush);
+    context.painter.drawRect(rect);
+
+    if (titleBar.subControls & QStyle::SC_TitleBarLabel)
+        paintCaption(context, titleBar, active);
+    for (const TitleButton& button : TitleButtons) {
+        if (titleBar.subControls & button.part && button.isShown(titleBar))
+            context.style.drawTitleBarButton(&context.painter, &titleBar, button.part, button.icon,
+                                             context.widget);
+    }
+    if (titleBar.subControls & QStyle::SC_TitleBarSysMenu
+        && has<Qt::WindowSystemMenuHint>(titleBar))
+        paintSystemMenu(context, titleBar);
 }
 
 } // namespace BRELK::TitleBars

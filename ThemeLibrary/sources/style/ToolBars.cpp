@@ -1,5 +1,6 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 
 // Tool bars, their handles and separators.
 
@@ -31,17 +32,58 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 
 void paintHandle(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorToolBarHandle);
+    constexpr int GripStep = 4;
+    constexpr int GripSize = 2;
+    constexpr int EndMargin = 6;
+    const QRect& rect = context.option.rect;
+    if (context.has(QStyle::State_Horizontal)) {
+        const int across = rect.left() + (rect.width() - GripSize) / 2;
+        context.style.drawGrips(context.painter, Qt::Vertical, rect.top() + EndMargin,
+                                rect.bottom() - EndMargin, across, GripStep, GripSize, 1);
+    } else {
+        const int across = rect.top() + (rect.height() - GripSize) / 2;
+        context.style.drawGrips(context.painter, Qt::Horizontal, rect.left() + EndMargin,
+                                rect.right() - EndMargin, across, GripStep, GripSize, 1);
+    }
 }
 
 void paintSeparator(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorToolBarSeparator);
+    constexpr int EndMargin = 4;
+    const QRect& rect = context.option.rect;
+    const QBrush brush = context.color(ThemeNames::backgroundUpLevel1Color());
+    const QPoint centre = rect.center();
+    if (context.has(QStyle::State_Horizontal))
+        Shapes::drawLine(context, {centre.x(), rect.top() + EndMargin},
+                         {centre.x(), rect.bottom() - EndMargin}, brush);
+    else
+        Shapes::drawLine(context, {rect.left() + EndMargin, centre.y()},
+                         {rect.right() - EndMargin, centre.y()}, brush);
 }
 
-void paintToolBar(const PaintContext& context, const QStyleOptionToolBar&)
+void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBar)
 {
-    context.drawByBase(QStyle::CE_ToolBar);
+    const QRect& rect = toolBar.rect;
+    context.painter.fillRect(rect, toolBar.palette.brush(QPalette::Window));
+    // One line between the bars of an area and what they stand around.
+    if (toolBar.positionOfLine != QStyleOptionToolBar::End
+        && toolBar.positionOfLine != QStyleOptionToolBar::OnlyOne)
+        return;
+    switch (toolBar.toolBarArea) {
+    case Qt::TopToolBarArea:
+        Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), context.borderBrush());
+        break;
+    case Qt::BottomToolBarArea:
+        Shapes::drawLine(context, rect.topLeft(), rect.topRight(), context.borderBrush());
+        break;
+    case Qt::LeftToolBarArea:
+        Shapes::drawLine(context, rect.topRight(), rect.bottomRight(), context.borderBrush());
+        break;
+    case Qt::RightToolBarArea:
+        Shapes::drawLine(context, rect.topLeft(), rect.bottomLeft(), context.borderBrush());
+        break;
+    default: Shapes::drawBox(context, rect, 0, Qt::NoBrush, context.borderBrush()); break;
+    }
 }
 
 } // namespace BRELK::ToolBars

@@ -1,7 +1,13 @@
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+#include "ThemeResources.h"
+#include "WidgetTraits.h"
 
 // Status bars, splitters and rubber bands, and what layouts and windows measure.
+//
+// Properties: "filled" and "small", of splitter handles.
 
 namespace BRELK::WindowParts {
 
@@ -34,17 +40,61 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 
 void paintStatusBar(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_PanelStatusBar);
+    const QRect& rect = context.option.rect;
+    const PainterSaver saver(context.painter);
+    context.painter.fillRect(rect, context.brush(ThemeNames::backgroundSubLevel1Brush()));
+    context.painter.setPen(context.borderBrush().color());
+    context.painter.drawLine(rect.topRight(), rect.topLeft());
 }
 
 void paintSplitter(const PaintContext& context)
 {
-    context.drawByBase(QStyle::CE_Splitter);
+    constexpr int GripCount = 5;
+    constexpr int GripStep = 4;
+    constexpr int GripSize = 2;
+    const QRect& rect = context.option.rect;
+    // State_Horizontal: the widgets stand side by side, the handle runs from top to bottom.
+    const bool upright = context.has(QStyle::State_Horizontal);
+    if (context.flag(WidgetProperties::Filled))
+        context.painter.fillRect(rect, context.borderBrush());
+    if (context.flag(WidgetProperties::Small)) {
+        const QPoint centre = rect.center();
+        if (upright)
+            Shapes::drawLine(context, {centre.x(), rect.top()}, {centre.x(), rect.bottom()},
+                             context.borderBrush());
+        else
+            Shapes::drawLine(context, {rect.left(), centre.y()}, {rect.right(), centre.y()},
+                             context.borderBrush());
+        return;
+    }
+    const int length = upright ? rect.height() : rect.width();
+    const int from = (upright ? rect.top() : rect.left()) + (length - GripCount * GripStep) / 2;
+    const int across = upright ? rect.left() + (rect.width() - GripSize) / 2
+                               : rect.top() + (rect.height() - GripSize) / 2;
+    if (length > GripCount * GripStep)
+        context.style.drawGrips(context.painter, upright ? Qt::Vertical : Qt::Horizontal, from,
+                                from + GripCount * GripStep, across, GripStep, GripSize, 1);
 }
 
-void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand&)
+void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& band)
 {
-    context.drawByBase(QStyle::CE_RubberBand);
+    const PainterSaver saver(context.painter);
+    const QRectF rect = Shapes::onPixels(band.rect);
+    const QColor color = ThemeResources::getColor(ThemeNames::mainColor());
+    context.painter.setRenderHint(QPainter::Antialiasing);
+    context.painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    if (band.shape == QRubberBand::Rectangle) {
+        constexpr int Opaque = 255;
+        QColor fill = color;
+        fill.setAlpha(int(ThemeResources::getOpacity(ThemeNames::rubberBandOpacity()) * Opaque));
+        context.painter.setBrush(fill);
+    }
+    if (context.widget && WidgetTraits::isCardWidget(context.widget->parent())) {
+        const qreal radius = ThemeResources::getCornerRadius(ThemeNames::mediumSize());
+        context.painter.drawRoundedRect(rect, radius, radius);
+    } else {
+        context.painter.drawRect(rect);
+    }
 }
 
 } // namespace BRELK::WindowParts
