@@ -303,6 +303,11 @@ private Q_SLOTS:
                                   palette.color(paletteGroup, pair.ground));
             }
         }
+        // Views without focus in the active window select in another brush, not in another role.
+        contrasts.require(TextContrast, QStringLiteral("HighlightedText"),
+                          palette.color(QPalette::HighlightedText),
+                          QStringLiteral("MainSubLevel1Brush"),
+                          themed(QStringLiteral("MainSubLevel1Brush")));
         for (const auto role : {QPalette::Link, QPalette::LinkVisited, QPalette::PlaceholderText})
             contrasts.require(SubduedContrast, QLatin1String(roles.valueToKey(role)),
                               palette.color(role), QStringLiteral("Base"),
