@@ -88,9 +88,9 @@ QWidget* GalleryWindow::makeNavigation()
         const int count = m_navigation->count();
         m_navigation->setCurrentRow((m_navigation->currentRow() + distance + count) % count);
     };
-    auto* next = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageDown), this);
+    auto* next = new QShortcut(QKeySequence(QStringLiteral("Ctrl+PgDown")), this);
     connect(next, &QShortcut::activated, this, [step] { step(1); });
-    auto* previous = new QShortcut(QKeySequence(Qt::CTRL | Qt::Key_PageUp), this);
+    auto* previous = new QShortcut(QKeySequence(QStringLiteral("Ctrl+PgUp")), this);
     connect(previous, &QShortcut::activated, this, [step] { step(-1); });
     return m_navigation;
 }

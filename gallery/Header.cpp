@@ -72,7 +72,7 @@ void Header::addScales(QBoxLayout& bar, double current)
             });
 }
 
-void Header::addDirection(QBoxLayout& bar, bool rightToLeft)
+void Header::addDirection(QBoxLayout& bar, bool rightToLeft) const
 {
     auto* direction = with(new QCheckBox(QStringLiteral("&Right to left")), "switch");
     direction->setChecked(rightToLeft);

@@ -23,7 +23,7 @@ Q_SIGNALS:
 
 private:
     void addThemes(QBoxLayout& bar, const QString& current);
-    void addDirection(QBoxLayout& bar, bool rightToLeft);
+    void addDirection(QBoxLayout& bar, bool rightToLeft) const;
     void addScales(QBoxLayout& bar, double current);
 };
 

@@ -7,9 +7,10 @@
 #include <QApplication>
 #include <QDebug>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QTextStream>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace Gallery {
 
@@ -53,6 +54,17 @@ QPixmap picture(const PageEntry& entry)
     return window.grab();
 }
 
+bool write(const PageEntry& entry, const QDir& directory)
+{
+    const QString path = directory.absoluteFilePath(entry.name % QLatin1String(".png"));
+    const bool written = picture(entry).save(path);
+    if (written)
+        QTextStream(stdout) << path << '\n';
+    else
+        qWarning().noquote() << QString(QLatin1String("Cannot write ") % path);
+    return written;
+}
+
 } // namespace
 
 bool renderPages(const Settings& settings)
@@ -61,17 +73,11 @@ bool renderPages(const Settings& settings)
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     const QDir directory(settings.renderDirectory);
     QDir().mkpath(directory.path());
-    for (const PageEntry& entry : allPages()) {
-        if (!settings.page.isEmpty() && settings.page != entry.name)
-            continue;
-        const QString path = directory.absoluteFilePath(entry.name % QLatin1String(".png"));
-        if (!picture(entry).save(path)) {
-            qWarning().noquote() << QString(QLatin1String("Cannot write ") % path);
-            return false;
-        }
-        QTextStream(stdout) << path << '\n';
-    }
-    return true;
+    const QVector<PageEntry>& pages = allPages();
+    return std::all_of(pages.begin(), pages.end(), [&](const PageEntry& entry) {
+        const bool isMeant = settings.page.isEmpty() || settings.page == entry.name;
+        return !isMeant || write(entry, directory);
+    });
 }
 
 } // namespace Gallery

@@ -7,6 +7,8 @@
 #include <QDebug>
 #include <QDir>
 
+#include <algorithm>
+
 namespace Gallery {
 
 namespace {

@@ -3,7 +3,6 @@
 #include "Helpers.h"
 
 #include <QBoxLayout>
-#include <QButtonGroup>
 #include <QPainter>
 #include <QPushButton>
 
@@ -82,14 +81,13 @@ ButtonGroupWidget::ButtonGroupWidget(Qt::Orientation orientation, const QStringL
         orientation == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    auto* group = new QButtonGroup(this);
     for (int index = 0; index < texts.size(); ++index) {
         auto* button = new QPushButton(texts.at(index));
         button->setAutoDefault(false);
         button->setCheckable(true);
+        button->setAutoExclusive(true);
         button->setChecked(index == 0);
         button->setProperty("Button_VisibleIndex", index);
-        group->addButton(button);
         layout->addWidget(button);
     }
 }
@@ -134,8 +132,8 @@ void RangeSlider::paintEvent(QPaintEvent* event)
     };
     const double left = qMin(place(m_lower), place(m_upper));
     const double right = qMax(place(m_lower), place(m_upper));
-    const double grooveTop = (height() - GrooveHeight) / 2;
-    const double handleTop = (height() - HandleSize) / 2;
+    const double grooveTop = (height() - GrooveHeight) / 2.0;
+    const double handleTop = (height() - HandleSize) / 2.0;
     draw({0, grooveTop, double(width()), GrooveHeight}, brush("BackgroundBrush"));
     draw({left, grooveTop, right - left + HandleSize, GrooveHeight}, brush("RangeBrush"));
     for (const double x : {left, right})

@@ -13,8 +13,16 @@ namespace Gallery {
 namespace {
 
 constexpr int FieldWidth = 19 * Unit;
-const QDate SampleDay(2024, 5, 17);
-const QTime SampleTime(9, 41);
+
+QDate sampleDay()
+{
+    return {2024, 5, 17};
+}
+
+QTime sampleTime()
+{
+    return {9, 41};
+}
 
 template <class Field>
 Field* sized(Field* field)
@@ -76,7 +84,7 @@ QWidget* makeFrameless()
 
 QDateEdit* makeDateEdit(bool calendar)
 {
-    auto* edit = sized(new QDateEdit(SampleDay));
+    auto* edit = sized(new QDateEdit(sampleDay()));
     edit->setCalendarPopup(calendar);
     return edit;
 }
@@ -107,16 +115,16 @@ void addDates(Section& section)
     auto* grid = new StateGrid(fieldStates());
     grid->addRow(QStringLiteral("Date"), [] { return makeDateEdit(false); });
     grid->addRow(QStringLiteral("Date with calendar"), [] { return makeDateEdit(true); });
-    grid->addRow(QStringLiteral("Time"), [] { return sized(new QTimeEdit(SampleTime)); });
+    grid->addRow(QStringLiteral("Time"), [] { return sized(new QTimeEdit(sampleTime())); });
     grid->addRow(QStringLiteral("Date and time"),
-                 [] { return sized(new QDateTimeEdit(QDateTime(SampleDay, SampleTime))); });
+                 [] { return sized(new QDateTimeEdit(QDateTime(sampleDay(), sampleTime()))); });
     section.add(grid);
 }
 
 QCalendarWidget* makeCalendar()
 {
     auto* calendar = new QCalendarWidget;
-    calendar->setSelectedDate(SampleDay);
+    calendar->setSelectedDate(sampleDay());
     calendar->setGridVisible(false);
     return calendar;
 }
