@@ -1,18 +1,15 @@
 #include "BaseThemeSettings.h"
 
-#include <QFile>
+#include "ThemeDocument.h"
 
 namespace BRELK {
 
 BaseThemeSettings::BaseThemeSettings(const QString& filePath)
 {
-    QFile file(filePath);
-    if (!file.open(QIODevice::ReadOnly)) {
-        m_status = FILE_NOT_FOUND_ERROR;
-        return;
-    }
-    if (!m_document.setContent(&file))
-        m_status = READ_ERROR;
+    ThemeFileBudget budget;
+    const ThemeDocument document(filePath, budget);
+    m_status = Status(document.getStatus());
+    m_document = document.getContent();
     m_themeRootNode = m_document.firstChildElement(QStringLiteral("theme"));
 }
 

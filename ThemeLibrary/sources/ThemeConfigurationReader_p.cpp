@@ -36,11 +36,17 @@ bool isAlias(const ThemeElement& element)
 
 } // namespace
 
+ThemeResolver::ThemeResolver(const ThemeEntries& entries) : m_entries(entries)
+{
+    m_nodes.reserve(entries.getNames().size());
+    for (const QString& name : entries.getNames())
+        m_nodes.insert(name, {name, &entries.getDefinitions(name)});
+}
+
 void ThemeResolver::resolve()
 {
     for (const QString& name : m_entries.getNames()) {
-        m_stack = QStringList{name};
-        m_waiting = {name};
+        push(m_nodes[name]);
         while (!m_stack.isEmpty())
             step();
     }
@@ -48,61 +54,64 @@ void ThemeResolver::resolve()
 
 QString ThemeResolver::unsettled(const QString& name) const
 {
-    return m_entries.contains(name) && !m_settled.contains(name) ? name : QString();
+    const auto node = m_nodes.constFind(name);
+    return node == m_nodes.constEnd() || node->settled ? QString() : name;
 }
 
-ThemeEntry ThemeResolver::getCurrent(const QString& name) const
+void ThemeResolver::push(Node& node)
 {
-    return m_entries.getDefinitions(name).at(m_currentDefinition.value(name));
+    node.waiting = true;
+    m_stack.append(&node);
 }
 
 void ThemeResolver::step()
 {
-    const QString name = m_stack.last();
-    int& definition = m_currentDefinition[name];
-    const bool isExhausted = definition >= m_entries.getDefinitions(name).size();
-    if (isExhausted || m_settled.contains(name)) {
-        m_settled.insert(name);
-        m_waiting.remove(name);
+    Node& node = *m_stack.last();
+    if (node.settled || node.current == node.definitions->size()) {
+        node.settled = true;
+        node.waiting = false;
         m_stack.removeLast();
         return;
     }
-    const ThemeEntry entry = getCurrent(name);
-    const QString dependency = getDependency(name, entry);
-    if (m_waiting.contains(dependency)) {
-        breakCycle(dependency);
-    } else if (!dependency.isEmpty()) {
-        m_stack.append(dependency);
-        m_waiting.insert(dependency);
-    } else if (evaluate(name, entry)) {
-        m_internal.insert(name, entry.twinOf.isEmpty() ? entry.internal : isInternal(entry.twinOf));
-        m_settled.insert(name);
+    const ThemeEntry& entry = node.getEntry();
+    const QString dependency = getDependency(node.name, entry);
+    if (!dependency.isEmpty()) {
+        Node& next = m_nodes[dependency];
+        if (next.waiting)
+            breakCycle(next);
+        else
+            push(next);
+    } else if (evaluate(node.name, entry)) {
+        node.internal = entry.twinOf.isEmpty() ? entry.internal : isInternal(entry.twinOf);
+        node.settled = true;
     } else {
-        ++definition;
+        ++node.current;
     }
 }
 
-/// Drops those definitions of the cycle that are in the most derived file, as it is their fault.
-void ThemeResolver::breakCycle(const QString& name)
+/// Drops those definitions of the cycle from `node` on that are in the most derived file, as it is
+/// their fault.
+void ThemeResolver::breakCycle(Node& node)
 {
-    const QStringList cycle = m_stack.mid(m_stack.lastIndexOf(name));
+    const QVector<Node*> cycle = m_stack.mid(m_stack.lastIndexOf(&node));
+    QStringList names;
     int level = std::numeric_limits<int>::max();
-    for (const QString& member : cycle)
-        level = std::min(level, getCurrent(member).level);
-
+    for (const Node* member : cycle) {
+        names += member->name;
+        level = std::min(level, member->getEntry().level);
+    }
     bool isReported = false;
-    for (const QString& member : cycle) {
-        const ThemeEntry entry = getCurrent(member);
-        if (entry.level != level)
+    for (Node* member : cycle) {
+        if (member->getEntry().level != level)
             continue;
         if (!isReported)
-            entry.element.reject(QStringLiteral("it leads back to itself, by way of ")
-                                 + quoted(cycle.join(QLatin1String(", "))));
+            member->getEntry().element.reject(QStringLiteral("it leads back to itself, by way of ")
+                                              + quoted(names.join(QLatin1String(", "))));
         isReported = true;
-        ++m_currentDefinition[member];
+        ++member->current;
     }
-    while (m_stack.last() != name)
-        m_waiting.remove(m_stack.takeLast());
+    while (m_stack.last() != &node)
+        m_stack.takeLast()->waiting = false;
 }
 
 QMap<QString, QColor> ThemeColorResolver::getColors(bool internal) const

@@ -6,7 +6,7 @@
 #include <QBrush>
 #include <QColor>
 #include <QMap>
-#include <QSet>
+#include <QVector>
 
 namespace BRELK {
 
@@ -15,7 +15,8 @@ namespace BRELK {
 class ThemeResolver
 {
 public:
-    explicit ThemeResolver(const ThemeEntries& entries) : m_entries(entries) { }
+    /// `entries` must outlive the resolver.
+    explicit ThemeResolver(const ThemeEntries& entries);
 
     virtual ~ThemeResolver() = default;
     Q_DISABLE_COPY(ThemeResolver)
@@ -29,7 +30,7 @@ protected:
     QString unsettled(const QString& name) const;
 
     /// Whether the entry `name` is internal; asked of resolved ones.
-    bool isInternal(const QString& name) const { return m_internal.value(name); }
+    bool isInternal(const QString& name) const { return m_nodes.value(name).internal; }
 
     /// An entry that has to be resolved before `entry` can be evaluated; empty when there is none
     /// left.
@@ -39,16 +40,26 @@ protected:
     virtual bool evaluate(const QString& name, const ThemeEntry& entry) = 0;
 
 private:
+    struct Node
+    {
+        QString name;
+        const ThemeEntries::Definitions* definitions = nullptr;
+        int current = 0;
+        bool waiting = false;
+        bool settled = false;
+        bool internal = false;
+
+        const ThemeEntry& getEntry() const { return definitions->at(current); }
+    };
+
     void step();
-    void breakCycle(const QString& name);
-    ThemeEntry getCurrent(const QString& name) const;
+    void push(Node& node);
+    void breakCycle(Node& node);
 
     const ThemeEntries& m_entries;
-    QHash<QString, int> m_currentDefinition;
-    QHash<QString, bool> m_internal;
-    QSet<QString> m_settled;
-    QSet<QString> m_waiting;
-    QStringList m_stack;
+    QHash<QString, Node> m_nodes;
+    /// Nodes that wait, each for the next one.
+    QVector<Node*> m_stack;
 };
 
 /// Resolves colors.

@@ -18,7 +18,7 @@ constexpr int MaxDocuments = 8;
 constexpr int MaxReports = 200;
 constexpr int MaxQuotedLength = 60;
 /// Parsers compare each attribute of a tag with all others of it.
-constexpr int MaxAttributes = 1000;
+constexpr int MaxAttributes = 100;
 
 QString leftOut()
 {
@@ -48,15 +48,17 @@ QString range(double smallest, double largest)
            + QString::number(largest);
 }
 
-/// Counts equals signs, as an attribute has one, between one "<" and the next.
+/// Counts the runs of equals signs between one "<" and the next; each attribute has one.
 bool hasTooManyAttributes(const QString& text)
 {
     int count = 0;
+    QChar previous;
     for (const QChar character : text) {
         if (character == u'<')
             count = 0;
-        else if (character == u'=' && ++count > MaxAttributes)
+        else if (character == u'=' && previous != u'=' && ++count > MaxAttributes)
             return true;
+        previous = character;
     }
     return false;
 }

@@ -61,8 +61,8 @@ private:
 /// theme needs, and little enough to be read in no time.
 struct ThemeFileBudget
 {
-    int bytes = 1 << 20;
-    int elements = 20000;
+    int bytes = 1 << 19;
+    int elements = 10000;
 };
 
 /// A theme file that is safe to walk: of bounded size and depth, free of entities.

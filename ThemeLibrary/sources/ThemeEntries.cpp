@@ -9,25 +9,39 @@ QString disabledName(const QString& name)
     return name + QLatin1String("Disabled");
 }
 
+const ThemeEntries::Definitions& ThemeEntries::getDefinitions(const QString& name) const
+{
+    static const Definitions sNone;
+    const auto found = m_definitions.constFind(name);
+    return found == m_definitions.constEnd() ? sNone : *found;
+}
+
 void ThemeEntries::add(const QString& name, const ThemeEntry& entry)
 {
-    Definitions& definitions = m_definitions[name];
+    const Definitions& definitions = getDefinitions(name);
     if (!definitions.isEmpty() && definitions.last().level == entry.level)
         entry.element.reject(QStringLiteral("there is another one of this name"));
     else
-        definitions.append(entry);
+        append(name, entry);
 }
 
 void ThemeEntries::addTwins()
 {
     constexpr int LastLevel = std::numeric_limits<int>::max();
-    const QMap<QString, Definitions> originals = m_definitions;
-    for (auto entry = originals.begin(); entry != originals.end(); ++entry) {
-        const QString& name = entry.key();
+    const QStringList originals = m_names;
+    for (const QString& name : originals) {
         if (!name.endsWith(QLatin1String("Disabled")))
-            m_definitions[disabledName(name)].append(
-                {entry->first().element, LastLevel, false, name});
+            append(disabledName(name),
+                   {getDefinitions(name).first().element, LastLevel, false, name});
     }
+}
+
+void ThemeEntries::append(const QString& name, const ThemeEntry& entry)
+{
+    Definitions& definitions = m_definitions[name];
+    if (definitions.isEmpty())
+        m_names.append(name);
+    definitions.append(entry);
 }
 
 } // namespace BRELK

@@ -2,7 +2,7 @@
 
 #include "ThemeDocument.h"
 
-#include <QMap>
+#include <QHash>
 #include <QStringList>
 #include <QVector>
 
@@ -36,12 +36,17 @@ public:
 
     bool contains(const QString& name) const { return m_definitions.contains(name); }
 
-    QStringList getNames() const { return m_definitions.keys(); }
+    /// All names in the order in which they were added.
+    const QStringList& getNames() const { return m_names; }
 
-    Definitions getDefinitions(const QString& name) const { return m_definitions.value(name); }
+    /// None for a name that was not added.
+    const Definitions& getDefinitions(const QString& name) const;
 
 private:
-    QMap<QString, Definitions> m_definitions;
+    void append(const QString& name, const ThemeEntry& entry);
+
+    QHash<QString, Definitions> m_definitions;
+    QStringList m_names;
 };
 
 /// The value of the first definition of `name` that `read(element, ok)` accepts, or else `missing`.
