@@ -1,0 +1,442 @@
+#include "BaseThemeSettings.h"
+#include "MessageRecorder.h"
+#include "TemporaryRepository.h"
+#include "ThemeColorHelper.h"
+#include "ThemeConfigurationReader.h"
+#include "ThemeResources.h"
+
+#include <QFontDatabase>
+#include <QLinearGradient>
+#include <QtTest>
+
+using namespace BRELK;
+
+namespace {
+
+QByteArray palette(const QByteArray& colors, const QByteArray& brushes = {})
+{
+    return "<Config><Palette><ColorsList>" + colors + "</ColorsList><BrushesList>" + brushes
+           + "</BrushesList></Palette></Config>";
+}
+
+/// Chained so that each refers to the next, which stands behind it.
+QByteArray chainOfColors(int length)
+{
+    QByteArray colors;
+    for (int i = 0; i < length; ++i)
+        colors += "<Color name='c" + QByteArray::number(i) + "'>c" + QByteArray::number(i + 1)
+                  + "</Color>";
+    return colors;
+}
+
+} // namespace
+
+class tst_ThemeConfigurationReader : public QObject
+{
+    Q_OBJECT
+
+private:
+    ThemeConfigurationReader read(const QByteArray& config)
+    {
+        const QString file = QStringLiteral("A/config.xml");
+        m_files.write(file, config);
+        return readFile(m_files.path(file));
+    }
+
+    ThemeConfigurationReader readFile(const QString& path)
+    {
+        const MessageRecorder recorder;
+        const ThemeConfigurationReader reader(path);
+        m_messages = recorder.messages();
+        return reader;
+    }
+
+    /// What the last reading reported, without the path of the theme.
+    QStringList reports() const
+    {
+        QStringList messages = m_messages;
+        for (QString& message : messages)
+            message.remove(m_files.path(QStringLiteral("A/")));
+        return messages;
+    }
+
+    TemporaryRepository m_files;
+    QStringList m_messages;
+
+private Q_SLOTS:
+
+    /// Disabled colors keep the factors that they are first derived with, for the life of the
+    /// process.
+    void initTestCase()
+    {
+        read("<Config><Palette><ColorsList><Color name='X'>red</Color></ColorsList></Palette>"
+             "<Factors><Factor name='LightForegroundDisableFactor'>200</Factor>"
+             "<Factor name='LightBackgroundDisableFactor'>110</Factor></Factors></Config>");
+        QCOMPARE(ThemeColorHelper::disabled(Qt::white, true), QColor(Qt::white).darker(200));
+        QCOMPARE(ThemeColorHelper::disabled(Qt::white, false), QColor(Qt::white).darker(110));
+    }
+
+    void documentedExampleIsReadAsDocumented()
+    {
+        QFile page(QStringLiteral(VARN_THEME_FORMAT));
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QByteArray text = page.readAll();
+        const int start = text.indexOf("<?xml");
+        const ThemeConfigurationReader reader =
+            read(text.mid(start, text.indexOf("```", start) - start));
+        QCOMPARE(reports(), QStringList());
+        QCOMPARE(reader.getStatus(), ThemeConfigurationReader::NO_ERROR);
+        QCOMPARE(reader.getColorsMap().size(), 10);
+        QCOMPARE(reader.getInternalColorsMap().size(), 4);
+        QCOMPARE(reader.getBrushesMap().size(), 10);
+        QCOMPARE(reader.getDisabledFactorsMap().size(), 4);
+        QCOMPARE(
+            reader.getDisabledFactorsMap().value(QStringLiteral("DarkBackgroundDisableFactor")),
+            120);
+        QCOMPARE(qApp->property(ThemeResources::getInternalThemeVariablePropertyName().data())
+                     .toMap()
+                     .value(ThemeResources::getDisabledFactorsVarPrefix())
+                     .toMap()
+                     .value(QStringLiteral("DarkBackgroundDisableFactor")),
+                 QVariant(120));
+        QCOMPARE(reader.getOpacitiesMap().value(QStringLiteral("RubberBandOpacity")), 0.3);
+        QCOMPARE(reader.getCornerRadiusMap().value(QStringLiteral("MediumSize")), 6);
+        QCOMPARE(reader.getFont().getFont(ThemeFont::LARGE_FONT).pointSizeF(), 13.5);
+    }
+
+    void colors_data()
+    {
+        QTest::addColumn<QByteArray>("color");
+        QTest::addColumn<QColor>("expected");
+        const auto row = [](const char* name, const char* color, const QColor& expected) {
+            QTest::newRow(name) << QByteArray(color) << expected;
+        };
+        QColor faint(Qt::red);
+        faint.setAlphaF(0.5);
+        row("three digits", "<Color name='X'>#f80</Color>", QColor(0xff, 0x88, 0));
+        row("with alpha", "<Color name='X'> #80ff8800\n</Color>", QColor(0xff, 0x88, 0, 0x80));
+        row("literal name", "<Color name='X'>SteelBlue</Color>", QColor(0x46, 0x82, 0xb4));
+        row("section", "<Color name='X'><![CDATA[red]]></Color>", Qt::red);
+        row("defined later", "<Color name='X'>Y</Color><Color name='Y'>red</Color>", Qt::red);
+        row("internal", "<Color name='X'>Y</Color><Color name='Y' internal='true'>red</Color>",
+            Qt::red);
+        row("theme's before literal", "<Color name='X'>blue</Color><Color name='blue'>red</Color>",
+            Qt::red);
+        row("called like itself", "<Color name='X'>red</Color><Color name='red'>red</Color>",
+            Qt::red);
+        row("all modifiers", "<Color name='X' alpha='0.5' darker='200' lighter='200'>red</Color>",
+            [&] {
+                QColor color = QColor(Qt::red).lighter(200).darker(200);
+                color.setAlphaF(0.5);
+                return color;
+            }());
+        row("modified reference",
+            "<Color name='X' alpha='0.5'>Y</Color><Color name='Y'>red</Color>", faint);
+        row("derived twin", "<Color name='X'>TextDisabled</Color><Color name='Text'>white</Color>",
+            QColor(Qt::white).darker(200));
+    }
+
+    void colors()
+    {
+        QFETCH(QByteArray, color);
+        QFETCH(QColor, expected);
+        QCOMPARE(read(palette(color)).getColorsMap().value(QStringLiteral("X")), expected);
+        QCOMPARE(reports(), QStringList());
+    }
+
+    void gradientsAreRelativeToWhatTheyFill()
+    {
+        const ThemeConfigurationReader reader = read(palette(
+            "<Color name='Y'>white</Color>",
+            "<LinearGradientBrush name='LinkBrush' startPoint='0, 0.5' endPoint='1,0.5'>"
+            "<GradientStop offset='1'>red</GradientStop><GradientStop offset='0'>Y</GradientStop>"
+            "</LinearGradientBrush>"));
+        QLinearGradient gradient(0, 0.5, 1, 0.5);
+        gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
+        gradient.setStops({{0, Qt::white}, {1, Qt::red}});
+        QCOMPARE(reader.getBrushesMap().value(QStringLiteral("LinkBrush")), QBrush(gradient));
+        gradient.setStops({{0, ThemeColorHelper::disabled(Qt::white, true)},
+                           {1, ThemeColorHelper::disabled(Qt::red, true)}});
+        QCOMPARE(reader.getBrushesMap().value(QStringLiteral("LinkBrushDisabled")),
+                 QBrush(gradient));
+    }
+
+    void disabledTwins()
+    {
+        const ThemeConfigurationReader reader =
+            read(palette("<Color name='TextA'>white</Color><Color name='A'>white</Color><Color "
+                         "name='Atext'>white</Color>"
+                         "<Color name='Own'>white</Color><Color name='OwnDisabled'>lime</Color>"
+                         "<Color name='Secret' internal='true'>white</Color>",
+                         "<SolidBrush name='OwnBrush'>white</SolidBrush><SolidBrush "
+                         "name='OwnBrushDisabled'>lime</SolidBrush>"
+                         "<Brush name='Alias2'>Alias1</Brush><Brush name='Alias1'>OwnBrush</Brush>"
+                         "<SolidBrush name='PlainBrush'>white</SolidBrush><Brush "
+                         "name='TextAlias'>PlainBrush</Brush>"
+                         "<Brush name='Hidden' internal='true'>PlainBrush</Brush>"));
+        QCOMPARE(reports(), QStringList());
+        const QColor text = ThemeColorHelper::disabled(Qt::white, true);
+        const QColor surface = ThemeColorHelper::disabled(Qt::white, false);
+        const auto color = [&](const char* name) {
+            return reader.getColorsMap().value(QLatin1String(name));
+        };
+        QCOMPARE(color("TextADisabled"), text);
+        QCOMPARE(color("ADisabled"), surface);
+        QCOMPARE(color("AtextDisabled"), surface);
+        QCOMPARE(color("OwnDisabled"), QColor(Qt::green));
+        QVERIFY(!reader.getColorsMap().contains(QStringLiteral("OwnDisabledDisabled")));
+        QCOMPARE(reader.getInternalColorsMap().value(QStringLiteral("SecretDisabled")), surface);
+        QCOMPARE(reader.getInternalColorsMap().size(), 2);
+
+        const auto brush = [&](const char* name) {
+            return reader.getBrushesMap().value(QLatin1String(name));
+        };
+        QCOMPARE(brush("PlainBrushDisabled"), QBrush(surface));
+        QCOMPARE(brush("TextAliasDisabled"), QBrush(text));
+        QCOMPARE(brush("Alias2"), QBrush(Qt::white));
+        QCOMPARE(brush("Alias2Disabled"), QBrush(Qt::green));
+        QCOMPARE(reader.getInternalBrushesMap().size(), 2);
+    }
+
+    void extendedThemesAreRecomputed()
+    {
+        m_files.write(
+            QStringLiteral("Base/config.xml"),
+            "<Config><Palette><ColorsList><Color name='Accent'>red</Color>"
+            "<Color name='Secret' internal='true'>Accent</Color><Color name='Kept'>red</Color>"
+            "</ColorsList><BrushesList><SolidBrush "
+            "name='MainBrush'>Secret</SolidBrush></BrushesList>"
+            "</Palette><Font><Family>No Such "
+            "Font</Family><Weight>Bold</Weight><BaseSize>20</BaseSize>"
+            "</Font><CornerRadius><BaseSize>5</BaseSize><LargeSize>9</LargeSize></CornerRadius></"
+            "Config>");
+        m_files.write(
+            QStringLiteral("Middle/config.xml"),
+            "<Config extends='Base'><CornerRadius><BaseSize>3</BaseSize></CornerRadius></Config>");
+        const ThemeConfigurationReader reader =
+            read("<Config extends='Middle'><Palette><ColorsList><Color name='Accent'>white</Color>"
+                 "<Color name='Secret'>Accent</Color><Color "
+                 "name='Kept'>nonsense</Color></ColorsList></Palette>"
+                 "<Font><SmallSize>7</SmallSize></Font></Config>");
+        QCOMPARE(
+            reports(),
+            QStringList(QStringLiteral(
+                "config.xml:1: Color \"Kept\": \"nonsense\" is neither a color of the theme nor a "
+                "color value; left out")));
+        QCOMPARE(reader.getColorsMap().value(QStringLiteral("Secret")), QColor(Qt::white));
+        QCOMPARE(reader.getColorsMap().value(QStringLiteral("Kept")), QColor(Qt::red));
+        QVERIFY(reader.getInternalColorsMap().isEmpty());
+        QCOMPARE(reader.getBrushesMap().value(QStringLiteral("MainBrush")), QBrush(Qt::white));
+        QCOMPARE(reader.getBrushesMap().value(QStringLiteral("MainBrushDisabled")),
+                 QBrush(ThemeColorHelper::disabled(Qt::white, false)));
+        QCOMPARE(reader.getCornerRadiusMap(),
+                 (QMap<QString, int>{{QStringLiteral("SmallSize"), 2},
+                                     {QStringLiteral("BaseSize"), 3},
+                                     {QStringLiteral("MediumSize"), 6},
+                                     {QStringLiteral("LargeSize"), 9}}));
+        QCOMPARE(reader.getFont().getFont(ThemeFont::SMALL_FONT).pointSizeF(), 7.0);
+        QCOMPARE(reader.getFont().getFont(ThemeFont::MEDIUM_FONT).pointSizeF(), 24.0);
+        QCOMPARE(reader.getFont().getFont(ThemeFont::BASE_FONT).weight(), int(QFont::Bold));
+    }
+
+    void badBasesLeaveWhatWasRead_data()
+    {
+        QTest::addColumn<QString>("base");
+        QTest::addColumn<QString>("report");
+        const auto row = [](const char* base, const char* problem) {
+            QTest::newRow(base) << QString::fromLatin1(base)
+                                << QString(QStringLiteral("config.xml:1: Config: extends ")
+                                           + QString::fromLatin1(problem)
+                                           + QStringLiteral("; read without it"));
+        };
+        row("A", "itself through \"A\"");
+        row("Missing", "\"Missing\", which has no readable config.xml");
+        row("../Secret", "\"../Secret\", which is no theme's name");
+        row("..\\Secret", "\"..\\Secret\", which is no theme's name");
+        row("..", "\"..\", which is no theme's name");
+        row("", "\"\", which is no theme's name");
+    }
+
+    void badBasesLeaveWhatWasRead()
+    {
+        QFETCH(QString, base);
+        QFETCH(QString, report);
+        const ThemeConfigurationReader reader =
+            read("<Config extends='" + base.toLatin1()
+                 + "'><Opacities><Opacity name='X'>0.5</Opacity></Opacities></Config>");
+        QCOMPARE(reports(), QStringList(report));
+        QCOMPARE(reader.getStatus(), ThemeConfigurationReader::NO_ERROR);
+        QCOMPARE(reader.getOpacitiesMap().value(QStringLiteral("X")), 0.5);
+    }
+
+    void badEntriesAreReportedOnceAndLeftOut_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QStringList>("expected");
+        const auto row = [](const char* name, const QByteArray& content,
+                            const QStringList& expected) {
+            QTest::newRow(name) << content << expected;
+        };
+        const auto color = [](const char* element) { return palette(QByteArray("\n") + element); };
+        const auto brush = [](const char* element) {
+            return palette({}, QByteArray("\n") + element);
+        };
+        const auto report = [](const char* text) {
+            return QStringList(QLatin1String("config.xml:2: ") + QString::fromLatin1(text));
+        };
+        row("no color", color("<Color name='X'>#12345</Color>"),
+            report("Color \"X\": \"#12345\" is neither a color of the theme nor a color value; "
+                   "left out"));
+        row("no text", brush("<SolidBrush name='X'/>"),
+            report("SolidBrush \"X\": \"\" is neither a color of the theme nor a color value; left "
+                   "out"));
+        row("duplicate",
+            color("<Color name='Y'>red</Color><Color name='Y' internal='true'>blue</Color>"),
+            report("Color \"Y\": there is another one of this name; left out"));
+        row("no name", color("<Color>red</Color>"),
+            report("Color: it needs a name without blanks, \"/\" and \"@\"; left out"));
+        row("name of a path", color("<Color name='a/b'>red</Color>"),
+            report("Color \"a/b\": it needs a name without blanks, \"/\" and \"@\"; left out"));
+        row("alpha out of range", color("<Color name='X' alpha='nan'>red</Color>"),
+            report("Color \"X\": \"nan\" is not a number from 0 to 1; left out"));
+        row("percentage out of range", color("<Color name='X' lighter='0'>red</Color>"),
+            report("Color \"X\": \"0\" is not a whole number from 1 to 1000; left out"));
+        row("internal", color("<Color name='X' internal='yes'>red</Color>"),
+            report("Color \"X\": \"yes\" for internal is neither true nor false; left out"));
+        row("cycle", color("<Color name='X'>Y</Color><Color name='Y'>X</Color>"),
+            report("Color \"X\": it leads back to itself, by way of \"X, Y\"; left out"));
+        row("its own twin", color("<Color name='X'>XDisabled</Color>"),
+            report("Color \"X\": it leads back to itself, by way of \"X, XDisabled\"; left out"));
+        row("unknown brush", brush("<Brush name='X'>red</Brush>"),
+            report("Brush \"X\": \"red\" is no brush of the theme; left out"));
+        row("cycle of brushes", brush("<Brush name='X'>X</Brush>"),
+            report("Brush \"X\": it leads back to itself, by way of \"X\"; left out"));
+        row("gradient without stops", brush("<LinearGradientBrush name='X'/>"),
+            report("LinearGradientBrush \"X\": it has no stop; left out"));
+        row("gradient without length", brush("<LinearGradientBrush name='X' endPoint='0,0'/>"),
+            report("LinearGradientBrush \"X\": it starts where it ends; left out"));
+        row("point", brush("<LinearGradientBrush name='X' endPoint='1'/>"),
+            report("LinearGradientBrush \"X\": endPoint \"1\" is not of the form x,y; left out"));
+        row("unknown brush element", brush("<RadialBrush name='X'/>"),
+            report("unknown element \"RadialBrush\"; left out"));
+        row("unknown section", "<Config>\n<Surfaces/></Config>",
+            report("unknown element \"Surfaces\"; left out"));
+        row("weight", "<Config><Font>\n<Weight>Fat</Weight></Font></Config>",
+            report("Weight: \"Fat\" is no weight; left out"));
+        row("radius", "<Config><CornerRadius>\n<BaseSize>1.5</BaseSize></CornerRadius></Config>",
+            report("BaseSize: \"1.5\" is not a whole number from 0 to 1000; left out"));
+        row("factor", "<Config><Factors>\n<Factor name='X'>110%</Factor></Factors></Config>",
+            report("Factor \"X\": \"110%\" is not a whole number from 0 to 1000; left out"));
+        row("root", "\n<config/>",
+            report("config: the root element is \"config\", not \"Config\"; the file is not used"));
+    }
+
+    void badEntriesAreReportedOnceAndLeftOut()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QStringList, expected);
+        const ThemeConfigurationReader reader = read(content);
+        QCOMPARE(reports(), expected);
+        QCOMPARE(reader.getStatus(), ThemeConfigurationReader::NO_ERROR);
+        const QString name = QStringLiteral("X");
+        QVERIFY(!reader.getColorsMap().contains(name)
+                && !reader.getInternalColorsMap().contains(name));
+        QVERIFY(!reader.getBrushesMap().contains(name)
+                && !reader.getDisabledFactorsMap().contains(name));
+        QCOMPARE(reader.getCornerRadiusMap().value(QStringLiteral("BaseSize")), 4);
+    }
+
+    void onlyWhatIsWrongIsIgnored()
+    {
+        const ThemeConfigurationReader reader =
+            read(palette("<Color name='X' note='?'>red<b/></Color>stray",
+                         "<LinearGradientBrush name='Y'><GradientStop offset='0'>red</GradientStop>"
+                         "<GradientStop offset='0'>lime</GradientStop><GradientStop "
+                         "offset='2'>lime</GradientStop>"
+                         "</LinearGradientBrush>"));
+        QCOMPARE(reports().size(), 5);
+        QCOMPARE(reader.getColorsMap().value(QStringLiteral("X")), QColor(Qt::red));
+        QCOMPARE(reader.getBrushesMap().value(QStringLiteral("Y")).gradient()->stops().size(), 1);
+    }
+
+    void badFilesAreRefused_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        const auto row = [](const char* name, const QByteArray& content) {
+            QTest::newRow(name) << content;
+        };
+        row("empty", {});
+        row("not closed", "<Config><Palette>");
+        row("nested deeply", "<Config>" + QByteArray("<a>").repeated(20000));
+        row("entities",
+            "<!DOCTYPE Config [<!ENTITY a 'x'><!ENTITY b '&a;&a;'>]><Config>&b;</Config>");
+        row("external entity",
+            "<!DOCTYPE Config [<!ENTITY a SYSTEM 'file:///etc/passwd'>]><Config>&a;</Config>");
+        row("external definition", "<!DOCTYPE Config SYSTEM 'file:///etc/passwd'><Config/>");
+        row("megabytes", "<Config>" + QByteArray(2000000, 'x') + "</Config>");
+        row("many elements", "<Config>" + QByteArray("<a/>").repeated(50000) + "</Config>");
+        row("many attributes", "<Config " + QByteArray("a = ''").repeated(50000) + "/>");
+        row("zeros", QByteArray(100000, '\0'));
+    }
+
+    void badFilesAreRefused()
+    {
+        QFETCH(QByteArray, content);
+        const ThemeConfigurationReader reader = read(content);
+        QCOMPARE(reader.getStatus(), ThemeConfigurationReader::READ_ERROR);
+        QVERIFY(reader.getColorsMap().isEmpty() && reader.getCornerRadiusMap().isEmpty());
+        const QStringList messages = reports();
+        QCOMPARE(messages.size(), 1);
+        QVERIFY2(messages.first().endsWith(QStringLiteral("; the file is not used")),
+                 qPrintable(messages.first()));
+
+        const BaseThemeSettings settings(m_files.path(QStringLiteral("A/config.xml")));
+        QCOMPARE(settings.getStatus(), BaseThemeSettings::READ_ERROR);
+    }
+
+    void longChainsAreResolved()
+    {
+        constexpr int Length = 5000;
+        const QByteArray last = "<Color name='c" + QByteArray::number(Length) + "'>red</Color>";
+        const ThemeConfigurationReader reader = read(palette(chainOfColors(Length) + last));
+        QCOMPARE(reports(), QStringList());
+        QCOMPARE(reader.getColorsMap().value(QStringLiteral("c0")), QColor(Qt::red));
+    }
+
+    void floodsOfProblemsAreCut()
+    {
+        read(palette(chainOfColors(1000)));
+        const QStringList messages = reports();
+        QCOMPARE(messages.size(), 200);
+        QCOMPARE(messages.last().section(QLatin1Char(':'), 2),
+                 QStringLiteral(" too many problems; the rest is not reported"));
+    }
+
+    void missingFileGivesThePlatformsFonts()
+    {
+        const QString path = m_files.path(QStringLiteral("None/config.xml"));
+        const ThemeConfigurationReader reader = readFile(path);
+        QCOMPARE(reader.getStatus(), ThemeConfigurationReader::FILE_NOT_FOUND_ERROR);
+        QCOMPARE(reports(), QStringList());
+        QVERIFY(reader.getOpacitiesMap().isEmpty() && reader.getDisabledFactorsMap().isEmpty());
+        QCOMPARE(reader.getFont().getFont(ThemeFont::BASE_FONT),
+                 QFontDatabase::systemFont(QFontDatabase::GeneralFont));
+
+        QDir().mkpath(path);
+        QCOMPARE(readFile(path).getStatus(), ThemeConfigurationReader::FILE_NOT_FOUND_ERROR);
+    }
+
+    void firstInstalledFamilyIsTaken()
+    {
+        const QString installed = QFontDatabase().families().value(0);
+        if (installed.isEmpty())
+            QSKIP("no fonts");
+        const ThemeConfigurationReader reader = read(
+            "<Config><Font><Family>No Such Font</Family><Family>" + installed.toUpper().toUtf8()
+            + "</Family><Family>Other</Family></Font></Config>");
+        QCOMPARE(reader.getFont().getFont(ThemeFont::BASE_FONT).family(), installed.toUpper());
+    }
+};
+
+QTEST_MAIN(tst_ThemeConfigurationReader)
+#include "tst_ThemeConfigurationReader.moc"
