@@ -18,7 +18,7 @@ namespace {
 
 /// Bounds on what a hostile file can make of patterns of names.
 constexpr int MostNamesOfElement = 256;
-constexpr int MostNames = 20000;
+constexpr int MostNames = 4000;
 constexpr int LargestFactor = 1000;
 constexpr int LargestRadius = 1000;
 constexpr double SmallestFontSize = 1;
@@ -91,7 +91,7 @@ void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
     const QStringList names = expandNamePattern(pattern, most);
     if (names.isEmpty() && !pattern.isEmpty()) {
         element.reject(
-            QStringLiteral("the braces in its name do not match, or spell too many names"));
+            QStringLiteral("the braces in its name do not match, or there are too many names"));
         return;
     }
     if (names.isEmpty() || !std::all_of(names.begin(), names.end(), isName)) {

@@ -8,6 +8,8 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
+#include <tuple>
+#include <utility>
 
 namespace BRELK {
 
@@ -257,53 +259,64 @@ void ThemeDocument::parse(const QString& text, ThemeFileBudget& budget)
 void ThemeDocument::fail(int line, const QString& what)
 {
     m_status = READ_ERROR;
-    report(line, what, QStringLiteral("the file is not used"));
+    m_failureLine = line;
+    m_failure = what;
+}
+
+void ThemeDocument::reportFailure() const
+{
+    if (m_status == READ_ERROR)
+        report(m_failureLine, m_failure, QStringLiteral("the file is not used"));
 }
 
 void ThemeDocument::report(int line, const QString& what, const QString& done) const
 {
-    if (++m_reports > MaxReports)
+    const QString place = m_path + QLatin1Char(':') + QString::number(line) + QLatin1String(": ");
+    const QString message = place + what + QLatin1String("; ") + done;
+    if (m_reports.size() >= MaxReports || m_reports.contains(message))
         return;
-    const QString message = m_path + QLatin1Char(':') + QString::number(line) + QLatin1String(": ");
-    if (m_reports < MaxReports)
-        qDebug().noquote() << QString(message + what + QLatin1String("; ") + done);
+    m_reports.insert(message);
+    if (m_reports.size() < MaxReports)
+        qDebug().noquote() << message;
     else
         qDebug().noquote() << QString(
-            message + QLatin1String("too many problems; the rest is not reported"));
+            place + QLatin1String("too many problems; the rest is not reported"));
 }
 
 ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag)
 {
     ThemeFileBudget budget;
-    ThemeDocuments documents;
-    documents.push_back(std::make_unique<ThemeDocument>(path, budget));
-    if (documents.front()->getStatus() != ThemeDocument::NO_ERROR
-        || !hasRoot(*documents.front(), rootTag))
-        return documents;
-
+    const auto read = [&budget, &rootTag](const QString& filePath) {
+        auto document = std::make_unique<ThemeDocument>(filePath, budget);
+        document->reportFailure();
+        const bool isUsable =
+            document->getStatus() == ThemeDocument::NO_ERROR && hasRoot(*document, rootTag);
+        return std::make_pair(std::move(document), isUsable);
+    };
     const QFileInfo file(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
     const QString repository = QFileInfo(file.absolutePath()).absolutePath();
-    QStringList themes{file.absoluteDir().dirName()};
     const QString extends = QStringLiteral("extends");
-    for (ThemeElement root = documents.back()->getRoot(); root.hasAttribute(extends);
-         root = documents.back()->getRoot()) {
+    QStringList themes{file.absoluteDir().dirName()};
+    ThemeDocuments documents;
+    auto [document, isUsable] = read(path);
+    documents.push_back(std::move(document));
+    while (isUsable && documents.back()->getRoot().hasAttribute(extends)) {
+        const ThemeElement root = documents.back()->getRoot();
         const QString base = root.getAttribute(extends);
         QString problem = problemOfBase(base, themes);
-        std::unique_ptr<ThemeDocument> document;
-        if (problem.isEmpty()) {
-            const QString basePath =
-                repository + QLatin1Char('/') + base + QLatin1Char('/') + file.fileName();
-            document = std::make_unique<ThemeDocument>(basePath, budget);
-            if (document->getStatus() != ThemeDocument::NO_ERROR || !hasRoot(*document, rootTag))
-                problem = QStringLiteral("extends ") + quoted(base)
-                          + QStringLiteral(", which has no readable ") + file.fileName();
+        isUsable = problem.isEmpty();
+        if (isUsable) {
+            std::tie(document, isUsable) =
+                read(repository + QLatin1Char('/') + base + QLatin1Char('/') + file.fileName());
+            problem = QStringLiteral("extends ") + quoted(base)
+                      + QStringLiteral(", which has no readable ") + file.fileName();
         }
-        if (!problem.isEmpty()) {
+        if (isUsable) {
+            themes += base;
+            documents.push_back(std::move(document));
+        } else {
             root.report(problem, QStringLiteral("read without it"));
-            break;
         }
-        themes += base;
-        documents.push_back(std::move(document));
     }
     return documents;
 }

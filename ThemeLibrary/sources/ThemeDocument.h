@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDomDocument>
+#include <QSet>
 #include <QString>
 
 #include <initializer_list>
@@ -71,8 +72,7 @@ class ThemeDocument
 public:
     enum Status : unsigned { NO_ERROR = 0, FILE_NOT_FOUND_ERROR = 1, READ_ERROR = 2 };
 
-    /// Reads the file at `path`; the budget loses what was read. A file that is not well-formed or
-    /// too large is reported.
+    /// Reads the file at `path`; the budget loses what was read.
     ThemeDocument(const QString& path, ThemeFileBudget& budget);
     Q_DISABLE_COPY(ThemeDocument)
 
@@ -85,7 +85,10 @@ public:
 
     ThemeElement getRoot() const { return {*this, m_content.documentElement()}; }
 
-    /// Writes `file:line: what; done` to the debug logger.
+    /// Reports why the status is `READ_ERROR`, if it is.
+    void reportFailure() const;
+
+    /// Writes `file:line: what; done` to the debug logger, the same only once.
     void report(int line, const QString& what, const QString& done) const;
 
 private:
@@ -95,7 +98,9 @@ private:
     QString m_path;
     QDomDocument m_content;
     Status m_status = NO_ERROR;
-    mutable int m_reports = 0;
+    int m_failureLine = 0;
+    QString m_failure;
+    mutable QSet<QString> m_reports;
 };
 
 /// A theme file, followed by the one it extends, and so on. Never empty.

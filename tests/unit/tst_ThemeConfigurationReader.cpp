@@ -88,7 +88,7 @@ private Q_SLOTS:
         QCOMPARE(reader.getStatus(), ThemeConfigurationReader::NO_ERROR);
         QCOMPARE(reader.getColorsMap().size(), 10);
         QCOMPARE(reader.getInternalColorsMap().size(), 4);
-        QCOMPARE(reader.getBrushesMap().size(), 10);
+        QCOMPARE(reader.getBrushesMap().size(), 16);
         QCOMPARE(reader.getDisabledFactorsMap().size(), 4);
         QCOMPARE(
             reader.getDisabledFactorsMap().value(QStringLiteral("DarkBackgroundDisableFactor")),
@@ -396,7 +396,7 @@ private Q_SLOTS:
 
     void longChainsAreResolved()
     {
-        constexpr int Length = 5000;
+        constexpr int Length = 3500;
         const QByteArray last = "<Color name='c" + QByteArray::number(Length) + "'>red</Color>";
         const ThemeConfigurationReader reader = read(palette(chainOfColors(Length) + last));
         QCOMPARE(reports(), QStringList());
