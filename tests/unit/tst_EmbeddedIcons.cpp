@@ -205,7 +205,7 @@ private Q_SLOTS:
             if (base.isEmpty())
                 continue;
             const auto clearOfTheBadge = [](QPoint place) {
-                return std::hypot(place.x() + .5 - 36, place.y() + .5 - 36) > 2 * 8.25;
+                return std::hypot(place.x() + .5 - 35, place.y() + .5 - 35) > 2 * 8.25;
             };
             QVERIFY2(differences(m_pictures.value(row["name"]), m_pictures.value(base),
                                  edgeTolerance, clearOfTheBadge)

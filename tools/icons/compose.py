@@ -14,7 +14,7 @@ PALETTE = {
 }
 _AXES = {"x": "danger", "y": "success", "z": "info"}
 _SCALE_IN_FRAME = 0.6
-_BADGE_CENTER = 18 + 18j
+_BADGE_CENTER = 17.5 + 17.5j
 # Strokes keep clear of a badge or slash by their center line, areas by their edge.
 _BADGE_STROKE, _BADGE_AREA = 6.25, 5.5
 _SLASH_STROKE, _SLASH_AREA = 2.4, 1.75
