@@ -1,64 +1,20 @@
 #include "ProbeTheme.h"
 
+#include "AllThemeNames.h"
+
 #include <QApplication>
 #include <QFont>
 #include <QHash>
 #include <QIcon>
+#include <QImage>
+#include <QMap>
 #include <QMetaEnum>
+
+#include <algorithm>
 
 namespace ProbeTheme {
 
 namespace {
-
-QStringList plainBrushNames()
-{
-    return QString::fromLatin1(
-               "BackgroundBrush BackgroundSubLevel1Brush BackgroundSubLevel2Brush "
-               "BackgroundUpLevel1Brush CardBorderBrush ControlBackgroundBrush ControlBorderBrush "
-               "ExpanderHeaderBrush ForegroundBrush ForegroundDisabledBrush "
-               "ForegroundMouseOverBrush GrooveBackgroundBrush HighContrastBackgroundBrush "
-               "HighContrastBorderBrush InputBackgroundActiveBrush InputBackgroundBrush "
-               "InputBorderActiveBrush InputBorderBrush InputForegroundBrush "
-               "ItemViewAlternateBackgroundBrush ItemViewBackgroundBrush ListBackgroundBrush "
-               "ListBorderBrush MainBrush MainSubLevel1Brush PrioritySecondarySubLevel1Brush "
-               "PrioritySecondaryUpLevel1Brush SliderThumbNailHoverBrush "
-               "SliderThumbNailPressedBrush SwitchEllipseBrush "
-               "SwitchForegroundCheckedEllipseBrush TabBackgroundActiveBrush TabBackgroundBrush "
-               "TabBorderMouseOverBrush TabForegroundMouseOverBrush")
-        .split(QLatin1Char(' '));
-}
-
-QStringList colorNames()
-{
-    QStringList names =
-        QString::fromLatin1("BackgroundColor BackgroundUpLevel1Color BackgroundUpLevel2Color "
-                            "ForegroundColor ForegroundSubLevel1Color ForegroundUpLevel1Color "
-                            "MainColor MainUpLevel1Color StatusConfigColor StatusDangerColor")
-            .split(QLatin1Char(' '));
-    for (int series = 1; series <= 11; ++series)
-        names.append(QStringLiteral("Series%1Color").arg(series, 2, 10, QLatin1Char('0')));
-    return names;
-}
-
-/// The names of buttons and inputs, composed of what they are, their kind and their state.
-QStringList composedBrushNames()
-{
-    QStringList names;
-    for (const QLatin1String base :
-         {QLatin1String("Default"), QLatin1String("Checked"), QLatin1String("Unchecked")})
-        for (const QLatin1String action :
-             {QLatin1String(), QLatin1String("Pressed"), QLatin1String("Hover")})
-            for (const QString& kind : kinds())
-                for (const QLatin1String part :
-                     {QLatin1String("Background"), QLatin1String("Border"),
-                      QLatin1String("Foreground")}) {
-                    const QString rest = kind + base + action + part + QLatin1String("Brush");
-                    names.append(QLatin1String("Button") + rest);
-                    names.append(QLatin1String("ToggleButton") + rest);
-                    names.append(QLatin1String("Input") + rest);
-                }
-    return names;
-}
 
 /// The colors given away so far, and their names.
 QHash<QRgb, QByteArray>& namesByColor()
@@ -67,25 +23,31 @@ QHash<QRgb, QByteArray>& namesByColor()
     return sNames;
 }
 
-/// A new color, far from the one before: multiplying by an odd number visits each once. Its
-/// channels are multiples of 4, so that it is known after the rounding of a faded icon.
+/// The named color that `color` is but for the rounding of translucent pixels, or else itself.
+/// Colors are given away in the middle of cells, so that rounding does not lead to another one.
+QRgb nearestNamed(QRgb color)
+{
+    const QRgb middle = (color & 0xfff8f8f8) | 0x040404;
+    return namesByColor().contains(middle) ? middle : color;
+}
+
 QColor nextColor(const QByteArray& name)
 {
-    constexpr unsigned Stride = 0x9E3779;
-    const auto index = static_cast<unsigned>(namesByColor().size() + 1);
-    const unsigned sixBitChannels = index * Stride;
-    const QRgb color = 0xff000000 | (sixBitChannels & 0x3f000) << 6 | (sixBitChannels & 0xfc0) << 4
-                       | (sixBitChannels & 0x3f) << 2;
+    // Multiplying by an odd number visits each of the cells once, and none after its neighbour.
+    constexpr unsigned Stride = 0x4F1B;
+    static unsigned sIndex = 0;
+    const unsigned cell = ++sIndex * Stride;
+    const QRgb color =
+        qRgb(int(cell >> 10 & 31) * 8 + 4, int(cell >> 5 & 31) * 8 + 4, int(cell & 31) * 8 + 4);
     namesByColor().insert(color, name);
     return QColor::fromRgb(color);
 }
 
 template <class Value>
-QVariantMap valuesWithTwins(QStringList names)
+QVariantMap valuesWithTwins(const QStringList& names)
 {
-    names.removeDuplicates();
     QVariantMap values;
-    for (const QString& name : qAsConst(names))
+    for (const QString& name : names)
         for (const QString& key : {name, QString(name + QLatin1String("Disabled"))})
             values.insert(key, QVariant::fromValue(Value(nextColor(key.toLatin1()))));
     return values;
@@ -126,23 +88,12 @@ void findLibraryIcons()
 
 } // namespace
 
-QStringList kinds()
-{
-    return {QString(),
-            QStringLiteral("Highlighted"),
-            QStringLiteral("Tarrin"),
-            QStringLiteral("OfStatus"),
-            QStringLiteral("OfOrder"),
-            QStringLiteral("OfType")};
-}
-
 void publish(const QVariantMap& changes)
 {
     QVariantMap groups{
-        {QStringLiteral("colors"), valuesWithTwins<QColor>(colorNames())},
+        {QStringLiteral("colors"), valuesWithTwins<QColor>(AllThemeNames::colors())},
         {QStringLiteral("internalColors"), QVariantMap()},
-        {QStringLiteral("brushes"),
-         valuesWithTwins<QBrush>(plainBrushNames() + composedBrushNames())},
+        {QStringLiteral("brushes"), valuesWithTwins<QBrush>(AllThemeNames::brushes())},
         {QStringLiteral("internalBrushes"), QVariantMap()},
         {QStringLiteral("fonts"), fonts()},
         {QStringLiteral("opacities"), QVariantMap{{QStringLiteral("RubberBandOpacity"), 0.2}}},
@@ -220,6 +171,25 @@ QByteArray nameOf(const QFont& font)
     default: name = QByteArray::number(font.pixelSize()) + "px"; break;
     }
     return name + (font.bold() ? " bold" : "") + (font.italic() ? " italic" : "");
+}
+
+QByteArray nameOf(const QImage& picture)
+{
+    constexpr int LeastAlpha = 32;
+    const QImage image = picture.convertToFormat(QImage::Format_ARGB32);
+    int alpha = LeastAlpha;
+    QMap<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            if (qAlpha(pixel) > alpha)
+                counts.clear();
+            alpha = qMax(alpha, qAlpha(pixel));
+            if (qAlpha(pixel) == alpha)
+                ++counts[pixel | 0xff000000];
+        }
+    const auto most = std::max_element(counts.cbegin(), counts.cend());
+    return most == counts.cend() ? QByteArrayLiteral("none") : nameOf(nearestNamed(most.key()));
 }
 
 } // namespace ProbeTheme

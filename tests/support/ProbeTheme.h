@@ -7,13 +7,14 @@
 #include <QVariantMap>
 
 class QFont;
+class QImage;
 
 /// A theme in which every brush and every color has a color of its own, so that a painted color is
 /// a name.
 ///
 /// It is published without files. Lookups freeze the first theme they see, so publish one at the
 /// start of `initTestCase`, and once per process. The names are those that the style asks for, each
-/// with its "Disabled" twin, and button and input names for the kinds in `kinds()`.
+/// with its "Disabled" twin.
 namespace ProbeTheme {
 
 /// Corner radii and font pixel sizes, all different, by size.
@@ -33,10 +34,6 @@ void publish(const QVariantMap& changes = {});
 /// Publishes a theme that has no names at all.
 void publishEmpty();
 
-/// The words that stand for a kind of button in the published names; "OfStatus", "OfOrder" and
-/// "OfType" are for tests.
-QStringList kinds();
-
 /// A palette in which every role of every group has a color of its own: "palette.Text",
 /// "palette.Disabled.Text", "palette.Inactive.Text".
 QPalette palette();
@@ -46,6 +43,10 @@ QPalette palette();
 /// "none".
 QByteArray nameOf(const QColor& color);
 QByteArray nameOf(const QBrush& brush);
+
+/// The name of the color that most opaque pixels of `picture` have: what an icon was recolored
+/// with.
+QByteArray nameOf(const QImage& picture);
 
 /// "small", "base", "medium" or "large" with "bold" or "italic" after it, or the pixel size if no
 /// theme font has it.

@@ -5,11 +5,8 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QHash>
 #include <QImage>
-#include <QMap>
 #include <QPaintEngine>
-#include <QPainterPath>
 #include <QPixmap>
 #include <QStyleOption>
 #include <QtTest>
@@ -96,27 +93,6 @@ QByteArray penStyleText(const QPen& pen)
     if (pen.joinStyle() != Qt::BevelJoin)
         words.append(pen.joinStyle() == Qt::RoundJoin ? "round-join" : "miter");
     return words.join(' ');
-}
-
-/// The color of most of the pixels that are not edges, so that a recolored icon, faded or not,
-/// tells with which brush.
-QByteArray mainColorOf(const QImage& source)
-{
-    const QImage image = source.convertToFormat(QImage::Format_ARGB32);
-    QMap<QRgb, int> counts;
-    for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            ++counts[image.pixel(x, y)];
-    const int alpha = counts.isEmpty() ? 0 : qAlpha(counts.lastKey());
-    if (alpha == 0)
-        return QByteArrayLiteral("none");
-    const auto most = std::max_element(counts.lowerBound(qRgba(0, 0, 0, alpha)), counts.end());
-    const QColor color = QColor::fromRgb(most.key());
-    const QByteArray name = ProbeTheme::nameOf(color);
-    const auto rounded = [](int channel) { return (channel + 2) & 0xfc; };
-    const QByteArray nearby = ProbeTheme::nameOf(
-        QColor(rounded(color.red()), rounded(color.green()), rounded(color.blue())));
-    return nearby.startsWith('#') ? name : nearby;
 }
 
 } // namespace
@@ -235,7 +211,7 @@ public:
                    Qt::ImageConversionFlags) override
     {
         Shape shape = make(Shape::Pixmap, rect);
-        shape.brush = mainColorOf(image.copy(source.toAlignedRect()));
+        shape.brush = ProbeTheme::nameOf(image.copy(source.toAlignedRect()));
         shape.pen = "none";
         add(shape);
     }

@@ -1,0 +1,233 @@
+#include "BaseStyle.h"
+#include "ComboBoxDefaultItemDelegate.h"
+#include "MessageRecorder.h"
+#include "ProbeTheme.h"
+#include "SpyStyle.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QFontComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QStandardItemModel>
+#include <QStringListModel>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using namespace BRELK;
+
+namespace {
+
+using Delegate = ComboBoxDefaultItemDelegate;
+
+constexpr int Separator = 1;
+
+/// A combo box with a separator between its items.
+template <class ComboBox = QComboBox>
+std::unique_ptr<ComboBox> comboBox()
+{
+    auto box = std::make_unique<ComboBox>();
+    box->clear();
+    box->addItems({QStringLiteral("One"), QStringLiteral("Two")});
+    box->insertSeparator(Separator);
+    return box;
+}
+
+Delegate* delegateOf(QComboBox& box)
+{
+    box.ensurePolished();
+    return qobject_cast<Delegate*>(box.itemDelegate());
+}
+
+QModelIndex row(const QComboBox& box, int row)
+{
+    return box.model()->index(row, 0);
+}
+
+void paintRow(const QAbstractItemDelegate& delegate, const QStyleOptionViewItem& option,
+              const QModelIndex& index)
+{
+    QImage image(200, 100, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    delegate.paint(&painter, option, index);
+}
+
+/// Opens the popup, lets it be painted, and gives the height of each of the rows.
+QVector<int> popupRows(QComboBox& box)
+{
+    box.show();
+    box.showPopup();
+    (void)QTest::qWaitForWindowExposed(box.view()->window());
+    box.view()->window()->grab();
+    QVector<int> heights;
+    for (int i = 0; i < box.count(); ++i)
+        heights.append(box.view()->visualRect(row(box, i)).height());
+    box.hidePopup();
+    return heights;
+}
+
+} // namespace
+
+class tst_ComboBoxDefaultItemDelegate : public QObject
+{
+    Q_OBJECT
+
+private:
+    QStyle* m_style = nullptr;
+
+private Q_SLOTS:
+
+    void initTestCase()
+    {
+        ProbeTheme::publish();
+        m_style = new BaseStyle;
+        QApplication::setStyle(m_style);
+    }
+
+    void separatorsAreMarkedExactly()
+    {
+        QStandardItemModel model(3, 1);
+        const QModelIndex index = model.index(Separator, 0);
+        model.itemFromIndex(index)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable
+                                             | Qt::ItemIsEditable);
+        Delegate::setSeparator(&model, index);
+        QVERIFY(Delegate::isSeparator(index));
+        QVERIFY(!Delegate::isSeparator(model.index(0, 0)));
+        QVERIFY(!Delegate::isSeparator(QModelIndex()));
+        QCOMPARE(index.flags(), Qt::ItemIsEditable);
+        model.setData(index, QStringLiteral("Separator"), Qt::AccessibleDescriptionRole);
+        QVERIFY(!Delegate::isSeparator(index));
+
+        QListWidget other;
+        other.addItem(QStringLiteral("Row"));
+        const QModelIndex otherIndex = other.model()->index(0, 0);
+        const Qt::ItemFlags flags = otherIndex.flags();
+        Delegate::setSeparator(other.model(), otherIndex);
+        QVERIFY(Delegate::isSeparator(otherIndex));
+        QCOMPARE(otherIndex.flags(), flags);
+        Delegate::setSeparator(nullptr, QModelIndex());
+        Delegate::setSeparator(&model, QModelIndex());
+    }
+
+    void separatorsSpanThePopup_data()
+    {
+        QTest::addColumn<bool>("editable");
+        QTest::addColumn<Qt::LayoutDirection>("direction");
+        QTest::newRow("plain") << false << Qt::LeftToRight;
+        QTest::newRow("editable") << true << Qt::LeftToRight;
+        QTest::newRow("right to left") << false << Qt::RightToLeft;
+    }
+
+    void separatorsSpanThePopup()
+    {
+        QFETCH(bool, editable);
+        QFETCH(Qt::LayoutDirection, direction);
+        SpyStyle spy(new BaseStyle);
+        const auto box = comboBox();
+        box->setEditable(editable);
+        box->setLayoutDirection(direction);
+        box->setStyle(&spy);
+        box->resize(150, 30);
+        const Delegate* delegate = delegateOf(*box);
+        QVERIFY(delegate);
+        const QVector<int> heights = popupRows(*box);
+        const int frame = spy.pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, box.get());
+        QCOMPARE(heights.at(Separator), frame);
+        QVERIFY(heights.at(0) > heights.at(Separator));
+
+        QStyleOptionViewItem option;
+        option.widget = box->view();
+        option.rect = QRect(0, 10, 20, frame);
+        QCOMPARE(delegate->sizeHint(option, row(*box, Separator)), QSize(frame, frame));
+        spy.take();
+        paintRow(*delegate, option, row(*box, Separator));
+        QVERIFY(!spy.calls.isEmpty());
+        const SpyStyle::Call call = spy.calls.first();
+        QCOMPARE(call.element, "PE_IndicatorToolBarSeparator");
+        QCOMPARE(call.rect, QRect(0, 10, box->view()->viewport()->width(), frame));
+        QCOMPARE(call.widget, box.get());
+
+        spy.take();
+        paintRow(*delegate, option, row(*box, 0));
+        QVERIFY(!spy.take().contains("PE_IndicatorToolBarSeparator"));
+    }
+
+    void ownDelegatesOfFontComboBoxesStay()
+    {
+        const auto box = comboBox<QFontComboBox>();
+        QVERIFY(!delegateOf(*box));
+        QVERIFY(box->itemDelegate());
+        QCOMPARE(popupRows(*box).size(), box->count());
+    }
+
+    void comboBoxesComeInAllOrders()
+    {
+        QWidget first;
+        QWidget second;
+        second.setLayout(new QVBoxLayout);
+        first.show();
+        second.show();
+        auto* box = new QComboBox(&first);
+        const QPointer<Delegate> delegate = delegateOf(*box);
+        QVERIFY(delegate);
+        second.layout()->addWidget(box);
+        QApplication::style()->polish(box);
+        QCOMPARE(delegateOf(*box), delegate.data());
+
+        QStandardItemModel late(3, 1);
+        late.setData(late.index(0, 0), QStringLiteral("One"));
+        Delegate::setSeparator(&late, late.index(Separator, 0));
+        box->setModel(&late);
+        const QVector<int> heights = popupRows(*box);
+        QVERIFY(heights.at(0) > heights.at(Separator));
+        box->setModel(new QStringListModel({QStringLiteral("One")}, box));
+        QVERIFY(popupRows(*box).at(0) > 0);
+
+        delete box;
+        QVERIFY(!delegate);
+    }
+
+    void aDelegateMayOutliveItsComboBox()
+    {
+        auto box = comboBox();
+        const Delegate delegate(nullptr, box.get());
+        const std::unique_ptr<QAbstractItemModel> model(box->model());
+        model->setParent(nullptr);
+        box.reset();
+        const QModelIndex separator = model->index(Separator, 0);
+        QVERIFY(!delegate.sizeHint({}, separator).isEmpty());
+        paintRow(delegate, {}, separator);
+        paintRow(delegate, {}, model->index(0, 0));
+    }
+
+    /// The last test: it takes the style away.
+    void comboBoxesOutliveTheStyle()
+    {
+        MessageRecorder messages;
+        const auto box = comboBox();
+        const auto styled = comboBox();
+        auto* ownStyle = new BaseStyle;
+        styled->setStyle(ownStyle);
+        QVERIFY(delegateOf(*box));
+        QVERIFY(delegateOf(*styled));
+        const QPointer<QStyle> style(m_style);
+
+        QApplication::setStyle(QStringLiteral("fusion"));
+        QVERIFY(!style);
+        delete ownStyle;
+        for (QComboBox* each : {box.get(), styled.get()}) {
+            const QVector<int> heights = popupRows(*each);
+            QVERIFY(heights.at(0) > heights.at(Separator));
+            each->setEditable(true);
+            popupRows(*each);
+        }
+        for (const QString& message : messages.take())
+            QVERIFY2(message.contains(QLatin1String("This plugin does not support")),
+                     qPrintable(message));
+    }
+};
+
+QTEST_MAIN(tst_ComboBoxDefaultItemDelegate)
+#include "tst_ComboBoxDefaultItemDelegate.moc"

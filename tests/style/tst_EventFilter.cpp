@@ -1,0 +1,324 @@
+#include "BaseStyle.h"
+#include "PaintCounter.h"
+#include "ProbeTheme.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCommandLinkButton>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenuBar>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+using namespace BRELK;
+
+namespace {
+
+/// The style, with an answer of the test's own to whether mnemonics are underlined.
+class Style : public BaseStyle
+{
+public:
+    int underlineShortcut = 1;
+
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override
+    {
+        return hint == SH_UnderlineShortcut
+                   ? underlineShortcut
+                   : BaseStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+
+QByteArray colorOf(const QAbstractButton& button)
+{
+    return ProbeTheme::nameOf(button.icon().pixmap(16, 16).toImage());
+}
+
+/// An icon in the color that stands for the theme's.
+QIcon icon()
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(QColor(0xE5, 0xEE, 0xF4));
+    return pixmap;
+}
+
+void point(QWidget& widget, bool at)
+{
+    QEvent event(at ? QEvent::Enter : QEvent::Leave);
+    widget.setAttribute(Qt::WA_UnderMouse, at);
+    QApplication::sendEvent(&widget, &event);
+}
+
+void sendAlt(QWidget& widget, QEvent::Type type)
+{
+    QKeyEvent event(type, Qt::Key_Alt, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &event);
+}
+
+} // namespace
+
+class tst_EventFilter : public QObject
+{
+    Q_OBJECT
+
+private:
+    Style* m_style = nullptr;
+
+    static QToolButton* iconButton(const QLineEdit& lineEdit)
+    {
+        return lineEdit.findChild<QToolButton*>();
+    }
+
+    /// Shows the widget and paints it.
+    static void paint(QWidget& widget)
+    {
+        widget.window()->show();
+        QVERIFY(QTest::qWaitForWindowExposed(widget.window()));
+        widget.repaint();
+    }
+
+private Q_SLOTS:
+
+    void initTestCase()
+    {
+        ProbeTheme::publish();
+        m_style = new Style;
+        m_style->setPalette(ProbeTheme::palette());
+        QApplication::setStyle(m_style);
+        QApplication::setPalette(ProbeTheme::palette());
+    }
+
+    void lineEditButtonsShowTheCloseIconInTheirColor()
+    {
+        QLineEdit lineEdit(QStringLiteral("Text"));
+        lineEdit.addAction(icon(), QLineEdit::TrailingPosition);
+        QToolButton* button = iconButton(lineEdit);
+        QVERIFY(button);
+        paint(*button);
+        QCOMPARE(colorOf(*button), "palette.WindowText");
+        QCOMPARE(button->icon().name(), QStringLiteral("action.close"));
+
+        point(*button, true);
+        paint(*button);
+        QCOMPARE(colorOf(*button), "MainColor");
+
+        lineEdit.setEnabled(false);
+        paint(*button);
+        QCOMPARE(colorOf(*button), "palette.Disabled.WindowText");
+        lineEdit.setEnabled(true);
+        point(*button, false);
+        paint(*button);
+        QCOMPARE(colorOf(*button), "palette.WindowText");
+    }
+
+    void lineEditsMayKeepTheirActionsIcons()
+    {
+        QLineEdit lineEdit(QStringLiteral("Text"));
+        lineEdit.setProperty("customActionIcons", true);
+        lineEdit.addAction(icon(), QLineEdit::TrailingPosition);
+        QToolButton* button = iconButton(lineEdit);
+        paint(*button);
+        QCOMPARE(colorOf(*button), "palette.WindowText");
+        QCOMPARE(button->icon().name(), QString());
+    }
+
+    void commandLinksAreRecoloredFromTheirOriginalIcon()
+    {
+        QCommandLinkButton button(QStringLiteral("Link"));
+        button.setCheckable(true);
+        const QIcon original = icon();
+        button.setIcon(original);
+        const auto colorAfterPaint = [&] {
+            paint(button);
+            return colorOf(button);
+        };
+        QCOMPARE(colorAfterPaint(), "palette.ButtonText");
+        QCOMPARE(button.property("originalIcon").value<QIcon>().cacheKey(), original.cacheKey());
+
+        point(button, true);
+        QCOMPARE(colorAfterPaint(), "ButtonUncheckedHoverForegroundBrush");
+        button.setDown(true);
+        QCOMPARE(colorAfterPaint(), "palette.ButtonText");
+        button.setDown(false);
+        button.setChecked(true);
+        QCOMPARE(colorAfterPaint(), "palette.ButtonText");
+        button.setChecked(false);
+        button.setEnabled(false);
+        QCOMPARE(colorAfterPaint(), "palette.Disabled.ButtonText");
+        button.setEnabled(true);
+        QCOMPARE(colorAfterPaint(), "ButtonUncheckedHoverForegroundBrush");
+        QCOMPARE(button.property("originalIcon").value<QIcon>().cacheKey(), original.cacheKey());
+    }
+
+    void anIconSetLaterIsANewOriginal()
+    {
+        QCommandLinkButton button(QStringLiteral("Link"));
+        button.setIcon(icon());
+        paint(button);
+        QPixmap pixmap(16, 16);
+        pixmap.fill(Qt::red);
+        const QIcon later(pixmap);
+        button.setIcon(later);
+        paint(button);
+        QCOMPARE(button.property("originalIcon").value<QIcon>().cacheKey(), later.cacheKey());
+        QCOMPARE(colorOf(button), "#ff0000");
+
+        button.setIcon(QIcon());
+        paint(button);
+        QVERIFY(button.icon().isNull());
+    }
+
+    void aWindowThatNobodyTouchesIsNotRepainted_data()
+    {
+        QTest::addColumn<bool>("pointedAt");
+        QTest::addColumn<bool>("iconsFound");
+        QTest::newRow("at rest") << false << true;
+        QTest::newRow("under the mouse") << true << true;
+        QTest::newRow("without icons") << false << false;
+    }
+
+    void aWindowThatNobodyTouchesIsNotRepainted()
+    {
+        QFETCH(bool, pointedAt);
+        QFETCH(bool, iconsFound);
+        if (!iconsFound)
+            QIcon::setFallbackSearchPaths({});
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* lineEdit = new QLineEdit(QStringLiteral("Text"));
+        lineEdit->setClearButtonEnabled(true);
+        auto* link = new QCommandLinkButton(QStringLiteral("Link"));
+        link->setIcon(icon());
+        layout->addWidget(lineEdit);
+        layout->addWidget(link);
+        window.setFocusPolicy(Qt::StrongFocus);
+        window.setFocus();
+        window.show();
+        if (pointedAt) {
+            point(*iconButton(*lineEdit), true);
+            point(*link, true);
+        }
+
+        PaintCounter paints;
+        QTest::qWait(100);
+        QVERIFY(paints.paintsOf(link) > 0);
+        QVERIFY(paints.paintsOf(iconButton(*lineEdit)) > 0);
+        paints.settle();
+        QTest::qWait(300);
+        QCOMPARE(paints.all(), 0);
+        if (!iconsFound)
+            QIcon::setFallbackSearchPaths({QStringLiteral(":/Icons")});
+    }
+
+    void altUnderlinesMnemonics()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* link = new QCommandLinkButton(QStringLiteral("Link"));
+        layout->addWidget(link);
+        QVector<QWidget*> others;
+        for (int i = 0; i < 3; ++i) {
+            others.append(new QWidget);
+            others.last()->setMinimumSize(10, 10);
+            layout->addWidget(others.last());
+        }
+        window.show();
+        PaintCounter paints;
+        const auto paintedAfterAlt = [&] {
+            paints.settle();
+            sendAlt(*link, QEvent::KeyPress);
+            QTest::qWait(50);
+            QByteArray painted;
+            for (QWidget* widget : QVector<QWidget*>{link} + others)
+                painted += paints.paintsOf(widget) ? 'x' : '-';
+            return painted;
+        };
+
+        m_style->underlineShortcut = 0;
+        QCOMPARE(paintedAfterAlt(), "xxxx");
+        // Each widget that is left out keeps the next one from being looked at.
+        m_style->underlineShortcut = 1;
+        QCOMPARE(paintedAfterAlt(), "-x-x");
+        m_style->underlineShortcut = 0;
+        others.at(0)->hide();
+        QCOMPARE(paintedAfterAlt(), "x-xx");
+        sendAlt(*link, QEvent::KeyRelease);
+    }
+
+    void altIsRememberedUntilTheWindowCloses()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* menuBar = new QMenuBar;
+        menuBar->addAction(QStringLiteral("&File"));
+        layout->setMenuBar(menuBar);
+        auto* link = new QCommandLinkButton(QStringLiteral("Link"));
+        layout->addWidget(link);
+        window.show();
+        QVERIFY(!m_style->hasSeenAlt(link));
+        QVERIFY(!m_style->hasSeenAlt(nullptr));
+        sendAlt(window, QEvent::KeyPress);
+        QVERIFY(!m_style->altDown());
+
+        sendAlt(*link, QEvent::KeyPress);
+        QVERIFY(m_style->altDown());
+        sendAlt(*link, QEvent::KeyPress);
+        QVERIFY(m_style->hasSeenAlt(menuBar));
+
+        PaintCounter paints;
+        paints.settle();
+        sendAlt(*link, QEvent::KeyRelease);
+        QTest::qWait(50);
+        QVERIFY(!m_style->altDown());
+        QVERIFY(paints.paintsOf(menuBar) > 0);
+        QCOMPARE(paints.paintsOf(link), 0);
+        QVERIFY(m_style->hasSeenAlt(link));
+
+        QCloseEvent close;
+        QApplication::sendEvent(link, &close);
+        QVERIFY(!m_style->hasSeenAlt(link));
+    }
+
+    void noEventIsConsumed()
+    {
+        QCommandLinkButton button;
+        QObject object;
+        for (const QEvent::Type type : {QEvent::Paint, QEvent::Close, QEvent::Timer}) {
+            QEvent event(type);
+            QVERIFY(!m_style->eventFilter(&object, &event));
+            QVERIFY(!m_style->eventFilter(&button, &event));
+        }
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+        QVERIFY(!m_style->eventFilter(&button, &key));
+        QVERIFY(!m_style->altDown());
+    }
+
+    /// The last test: it takes the style away.
+    void widgetsOutliveTheStyle()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* lineEdit = new QLineEdit(QStringLiteral("Text"));
+        lineEdit->setClearButtonEnabled(true);
+        auto* link = new QCommandLinkButton(QStringLiteral("Link"));
+        link->setIcon(icon());
+        layout->addWidget(lineEdit);
+        layout->addWidget(link);
+        paint(window);
+        const QPointer<Style> style(m_style);
+        QApplication::setStyle(QStringLiteral("fusion"));
+        QVERIFY(!style);
+        paint(window);
+        sendAlt(*link, QEvent::KeyPress);
+        const QSignalSpy clicked(link, &QCommandLinkButton::clicked);
+        QTest::mouseClick(link, Qt::LeftButton);
+        QCOMPARE(clicked.size(), 1);
+        QTest::mouseClick(iconButton(*lineEdit), Qt::LeftButton);
+        QCOMPARE(lineEdit->text(), QString());
+    }
+};
+
+QTEST_MAIN(tst_EventFilter)
+#include "tst_EventFilter.moc"

@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QStyle>
+#include <QVector>
+#include <QWidget>
+
+#include <memory>
+
+class QStyleOption;
+
+/// Options and widgets for every element that the toolkit has, as its own widgets would pass them.
+namespace StyleOptions {
+
+/// What an element is asked or painted with. The option has the type that the toolkit passes for
+/// the element, filled from the widget; both live as long as a copy of the sample does.
+struct Sample
+{
+    std::shared_ptr<QWidget> widget;
+    std::shared_ptr<QStyleOption> option;
+};
+
+Sample sampleFor(QStyle::PrimitiveElement element);
+Sample sampleFor(QStyle::ControlElement element);
+Sample sampleFor(QStyle::ComplexControl control);
+Sample sampleFor(QStyle::SubElement element);
+Sample sampleFor(QStyle::ContentsType type);
+
+/// Every value of one of QStyle's enums, without its aliases and without the custom base.
+template <class Enum>
+QVector<Enum> all();
+
+/// The name of a value of one of QStyle's enums; "custom" if it is none of them.
+template <class Enum>
+const char* nameOf(Enum value);
+
+/// "CC_SpinBox 1": a part by its value, as parts of different controls share their values.
+QByteArray nameOf(QStyle::ComplexControl control, QStyle::SubControl part);
+
+/// The sub-controls that `control` has a rectangle for; a dial has none.
+QVector<QStyle::SubControl> subControlsOf(QStyle::ComplexControl control);
+
+} // namespace StyleOptions
+
+#include <QMetaEnum>
+
+template <class Enum>
+QVector<Enum> StyleOptions::all()
+{
+    constexpr unsigned CustomBase = 0x0f000000; // of primitives; those of others are above it
+    const auto meta = QMetaEnum::fromType<Enum>();
+    QVector<Enum> values;
+    for (int i = 0; i < meta.keyCount(); ++i) {
+        const auto value = Enum(meta.value(i));
+        if (unsigned(meta.value(i)) < CustomBase && !values.contains(value))
+            values.append(value);
+    }
+    return values;
+}
+
+template <class Enum>
+const char* StyleOptions::nameOf(Enum value)
+{
+    const char* name = QMetaEnum::fromType<Enum>().valueToKey(int(value));
+    return name ? name : "custom";
+}
