@@ -274,6 +274,9 @@ void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionCom
 QRect BaseStyle::subElementRect(SubElement element, const QStyleOption* option,
                                 const QWidget* widget) const
 {
+    // Qt asks the tab bar that it takes for granted.
+    if (!widget && (element == SE_TabBarScrollLeftButton || element == SE_TabBarScrollRightButton))
+        return {};
     const QRect base = QProxyStyle::subElementRect(element, option, widget);
     const RectRule rule = option ? ruleOf(element) : nullptr;
     return rule ? rule({*this, *option, widget}, base) : base;

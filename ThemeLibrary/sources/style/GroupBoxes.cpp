@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 
@@ -28,6 +29,7 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
 
 void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& groupBox)
 {
+    const PainterSaver saver(context.painter); // Qt leaves the pen of the title in it
     const QStyleOptionGroupBox copy = groupBox;
     context.style.QCommonStyle::drawComplexControl(QStyle::CC_GroupBox, &copy, &context.painter,
                                                    context.widget);
