@@ -5,6 +5,7 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QRegularExpression>
+#include <QResource>
 #include <QtTest>
 
 #include <cmath>
@@ -248,6 +249,21 @@ private Q_SLOTS:
                          qPrintable(row["name"]));
             QVERIFY2(differences(picture, original, 2, hasItsOwnColor) == 0,
                      qPrintable(row["name"]));
+        }
+    }
+
+    void areFoundByNameInTheShippedThemes()
+    {
+        const QStringList themes = QDir(QStringLiteral(VARN_THEME_REPOSITORY))
+                                       .entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+        QVERIFY(!themes.isEmpty());
+        for (const QString& theme : themes) {
+            const QString bundle =
+                QStringLiteral(VARN_THEME_REPOSITORY "/%1/Images/%1/scalable/icons.rcc");
+            QVERIFY2(QResource::registerResource(bundle.arg(theme)), qPrintable(theme));
+            QIcon::setThemeName(theme);
+            for (const Row& row : qAsConst(m_icons))
+                QCOMPARE(QIcon::fromTheme(row["name"]).name(), row["name"]);
         }
     }
 
