@@ -65,12 +65,20 @@ bool write(const PageEntry& entry, const QDir& directory)
     return written;
 }
 
+/// Stops all that moves by itself, and makes dates and numbers those of one place.
+void holdStill()
+{
+    QApplication::setCursorFlashTime(0);
+    qApp->setStyleSheet(qApp->styleSheet()
+                        % QLatin1String("\nQProgressBar { widget-animation-duration: 0; }"));
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+}
+
 } // namespace
 
 bool renderPages(const Settings& settings)
 {
-    QApplication::setCursorFlashTime(0);
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+    holdStill();
     const QDir directory(settings.renderDirectory);
     QDir().mkpath(directory.path());
     const QVector<PageEntry>& pages = allPages();

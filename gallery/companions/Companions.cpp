@@ -29,7 +29,7 @@ CardWidget::CardWidget(const QString& title, const QString& subtitle)
         label->setProperty(isTitle ? "CardWidgetBase_Title" : "CardWidgetBase_Subtitle", true);
         m_header->layout()->addWidget(label);
     }
-    setLook("headerVisible", true);
+    setProperty("headerVisible", true);
 }
 
 QWidget* CardWidget::addPart(const char* property)
@@ -51,7 +51,7 @@ void CardWidget::setFooter(QWidget* footer)
 {
     m_footer = addPart("CardWidgetBase_Footer");
     m_footer->layout()->addWidget(footer);
-    setLook("footerVisible", true);
+    setProperty("footerVisible", true);
 }
 
 void CardWidget::setCollapsed(bool collapsed)
@@ -60,15 +60,6 @@ void CardWidget::setCollapsed(bool collapsed)
     m_contents->setVisible(!collapsed);
     if (m_footer)
         m_footer->setVisible(!collapsed);
-}
-
-void CardWidget::setLook(const char* property, const QVariant& value)
-{
-    setProperty(property, value);
-    for (QWidget* part : {m_header, m_contents, m_footer}) {
-        if (part)
-            part->setProperty(property, value);
-    }
 }
 
 ButtonGroupWidget::ButtonGroupWidget(Qt::Orientation orientation, const QStringList& texts)
@@ -138,6 +129,25 @@ void RangeSlider::paintEvent(QPaintEvent* event)
     draw({left, grooveTop, right - left + HandleSize, GrooveHeight}, brush("RangeBrush"));
     for (const double x : {left, right})
         draw({x, handleTop, HandleSize, HandleSize}, brush("DefaultBrush"));
+}
+
+RoundedPicture::RoundedPicture(const QPixmap& picture) : m_picture(picture)
+{
+    setProperty("roundedPixmap", picture);
+    setFixedSize(picture.size() / picture.devicePixelRatio());
+}
+
+void RoundedPicture::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    QPainter painter(this);
+    QBrush fill(m_picture);
+    fill.setTransform(
+        QTransform::fromScale(1 / m_picture.devicePixelRatio(), 1 / m_picture.devicePixelRatio()));
+    painter.setBrush(fill);
+    painter.setPen(QPen(property("BorderBrush").value<QBrush>(), 1));
+    Helpers::drawRoundedRectShape(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5),
+                                  property("CornerRadius").toInt(), Helpers::None, &painter);
 }
 
 } // namespace BRELK::Components

@@ -29,9 +29,6 @@ public:
 
     void setCollapsed(bool collapsed);
 
-    /// Sets a property of the card and of its parts, wherever the style looks for it.
-    void setLook(const char* property, const QVariant& value);
-
 private:
     QWidget* addPart(const char* property);
 
@@ -78,6 +75,21 @@ private:
 
     int m_lower = 0;
     int m_upper = 100;
+};
+
+/// A picture with the border and the round corners that the style hands to it.
+class RoundedPicture : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit RoundedPicture(const QPixmap& picture);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QPixmap m_picture;
 };
 
 /// A scroll bar without arrows and pages.

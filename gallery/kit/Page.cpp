@@ -61,16 +61,20 @@ QWidget* column(std::initializer_list<QWidget*> widgets)
     return lineUp(QBoxLayout::TopToBottom, Unit, widgets);
 }
 
-QWidget* pair(QWidget* enabled, QWidget* disabled)
+QWidget* halves(QWidget* first, QWidget* second)
 {
-    disabled->setEnabled(false);
-    QWidget* line = lineUp(QBoxLayout::LeftToRight, 3 * Unit,
-                           {captioned(QStringLiteral("Enabled"), enabled),
-                            captioned(QStringLiteral("Disabled"), disabled)});
+    QWidget* line = lineUp(QBoxLayout::LeftToRight, 3 * Unit, {first, second});
     auto* layout = static_cast<QBoxLayout*>(line->layout());
     layout->setStretch(0, 1);
     layout->setStretch(1, 1);
     return line;
+}
+
+QWidget* pair(QWidget* enabled, QWidget* disabled)
+{
+    disabled->setEnabled(false);
+    return halves(captioned(QStringLiteral("Enabled"), enabled),
+                  captioned(QStringLiteral("Disabled"), disabled));
 }
 
 Section::Section(const QString& title, const QString& description)
@@ -95,7 +99,7 @@ void Section::add(QWidget* widget, bool stretched)
     m_contents->addWidget(widget, 0, stretched ? Qt::Alignment() : Qt::AlignLeft);
 }
 
-void Section::paintEvent(QPaintEvent* event)
+void Panel::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);

@@ -29,20 +29,26 @@ QWidget* captioned(const QString& caption, QWidget* widget);
 QWidget* row(std::initializer_list<QWidget*> widgets);
 /// `widgets` below one another.
 QWidget* column(std::initializer_list<QWidget*> widgets);
+/// `first` and `second` side by side, sharing the width.
+QWidget* halves(QWidget* first, QWidget* second);
 /// `enabled` beside `disabled`, which is disabled here, both captioned; they share the width.
 QWidget* pair(QWidget* enabled, QWidget* disabled);
 
+/// A rounded surface with a border, both of the theme.
+class Panel : public QFrame
+{
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
+
 /// A titled panel of a page.
-class Section : public QFrame
+class Section : public Panel
 {
 public:
     Section(const QString& title, const QString& description);
 
     /// Adds `widget` below what is there; `stretched` widgets take the whole width.
     void add(QWidget* widget, bool stretched = false);
-
-protected:
-    void paintEvent(QPaintEvent* event) override;
 
 private:
     QVBoxLayout* m_contents;

@@ -31,6 +31,14 @@ QStandardItem* makeItem(const char* icon, const QString& text)
 
 } // namespace
 
+QString titleOf(const QString& icon)
+{
+    QString title = icon.section(QLatin1Char('.'), 1).replace(QLatin1Char('.'), QLatin1Char(' '));
+    if (!title.isEmpty())
+        title[0] = title.at(0).toUpper();
+    return title;
+}
+
 QStandardItemModel* makeTableModel(QObject* parent)
 {
     auto* model = new QStandardItemModel(parent);

@@ -134,7 +134,7 @@ void addTextsAndSizes(Section& section)
 QCommandLinkButton* makeCommandLink()
 {
     auto* link = new QCommandLinkButton(QStringLiteral("Open a project"),
-                                        QStringLiteral("Go on where you left off"));
+                                        QStringLiteral("Where you left off"));
     link->setIcon(getIcon(QStringLiteral("action.open")));
     link->setMinimumWidth(23 * Unit);
     return link;

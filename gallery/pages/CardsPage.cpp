@@ -1,12 +1,11 @@
 #include "Pages.h"
-#include "ThemeResources.h"
 #include "companions/Companions.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"
+#include "pages/Chart.h"
 
 #include <QCheckBox>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 
 namespace Gallery {
@@ -41,7 +40,7 @@ CardWidget* makeCollapsed()
 CardWidget* makeWith(const char* property)
 {
     CardWidget* card = makeCardWithFooter();
-    card->setLook(property, true);
+    card->setProperty(property, true);
     return card;
 }
 
@@ -94,13 +93,10 @@ QLabel* makePill(const QString& text)
     return with(new QLabel(text), "Pill_Font");
 }
 
-QLabel* makeRoundedPicture()
+QWidget* makeRoundedPicture()
 {
-    const QPixmap picture = BRELK::ThemeResources::getPixmap(QStringLiteral("swatch.map.viridis"),
-                                                             {8 * Unit, 8 * Unit});
-    auto* label = with(new QLabel, "roundedPixmap", picture);
-    label->setPixmap(picture);
-    return label;
+    return new BRELK::Components::RoundedPicture(Chart().grab().scaled(
+        18 * Unit, 10 * Unit, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
 }
 
 } // namespace

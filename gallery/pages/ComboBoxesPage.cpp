@@ -3,6 +3,7 @@
 #include "kit/Page.h"
 #include "kit/Picture.h"
 #include "kit/Properties.h"
+#include "kit/SampleData.h"
 #include "kit/StateGrid.h"
 
 #include <QAbstractItemView>
@@ -41,7 +42,7 @@ QComboBox* makeWithIcons()
     auto* box = new QComboBox;
     for (const char* name : {"chart.line", "chart.bar", "chart.pie", "chart.scatter"}) {
         const QString icon = QString::fromLatin1(name);
-        box->addItem(getIcon(icon), icon.section(QLatin1Char('.'), 1));
+        box->addItem(getIcon(icon), titleOf(icon));
     }
     box->insertSeparator(2);
     box->setFixedWidth(FieldWidth);

@@ -2,6 +2,7 @@
 #include "ThemeResources.h"
 #include "kit/Page.h"
 #include "kit/Picture.h"
+#include "kit/SampleData.h"
 #include "kit/Specimen.h"
 
 #include <QActionGroup>
@@ -74,7 +75,7 @@ QMenu* makeCheckedIcons()
     auto* menu = new QMenu;
     for (const char* name : {"view.list", "view.icons", "view.details"}) {
         const QString icon = QString::fromLatin1(name);
-        menu->addAction(getIcon(icon), icon.section(QLatin1Char('.'), 1))->setCheckable(true);
+        menu->addAction(getIcon(icon), titleOf(icon))->setCheckable(true);
     }
     menu->actions().at(1)->setChecked(true);
     menu->addSeparator();

@@ -63,18 +63,19 @@ void addMenus(QMenuBar& bar)
 
 void addTools(QToolBar& bar)
 {
+    const auto add = [&bar](const char* name) {
+        const QString icon = QString::fromLatin1(name);
+        return bar.addAction(getIcon(icon), titleOf(icon));
+    };
     for (const char* name : {"action.open", "action.save"})
-        bar.addAction(makeAction(&bar, name, QString::fromLatin1(name).mid(7)));
+        add(name);
     bar.addSeparator();
     for (const char* name : {"action.undo", "action.redo"})
-        bar.addAction(makeAction(&bar, name, QString::fromLatin1(name).mid(7)));
+        add(name);
     bar.actions().last()->setEnabled(false);
     bar.addSeparator();
-    for (const char* name : {"tool.brush", "tool.eraser", "action.crop"}) {
-        QAction* action = makeAction(&bar, name, QString::fromLatin1(name));
-        action->setCheckable(true);
-        bar.addAction(action);
-    }
+    for (const char* name : {"tool.brush", "tool.eraser", "action.crop"})
+        add(name)->setCheckable(true);
     bar.actions().at(6)->setChecked(true);
     bar.addSeparator();
     auto* zoom = new QComboBox;
@@ -229,12 +230,11 @@ QMainWindow* makeApplication()
 
 void fillOverview(Page& page)
 {
-    auto* frame = new QFrame;
-    frame->setFrameShape(QFrame::StyledPanel);
-    auto* layout = new QVBoxLayout(frame);
-    layout->setContentsMargins(1, 1, 1, 1);
+    auto* panel = new Panel;
+    auto* layout = new QVBoxLayout(panel);
+    layout->setContentsMargins(1, Unit / 2, 1, Unit / 2);
     layout->addWidget(makeApplication());
-    page.addWidget(frame);
+    page.addWidget(panel);
 }
 
 } // namespace Gallery

@@ -186,7 +186,8 @@ QScrollArea* makeScrollArea()
 {
     auto* area = new QScrollArea;
     auto* contents = new QLabel(QStringLiteral("Larger than its view"));
-    contents->setAlignment(Qt::AlignCenter);
+    contents->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    contents->setMargin(Unit);
     contents->setFixedSize(60 * Unit, 30 * Unit);
     area->setWidget(contents);
     area->setFixedHeight(14 * Unit);

@@ -51,20 +51,22 @@ QTabBar* makeShaped(QTabBar::Shape shape)
 
 void addStates(Section& section)
 {
-    const auto addRow = [&section](const QString& label, const std::function<QTabBar*()>& make) {
+    const auto add = [&section](const QString& title, const std::function<QTabBar*()>& make) {
         QTabBar* hovered = make();
         forceAt(*hovered, State::Hovered, [hovered] { return hovered->tabRect(0).center(); });
         QTabBar* focused = make();
         force(*focused, State::Focused);
-        QTabBar* disabled = make();
-        disabled->setEnabled(false);
-        section.add(captioned(label, row({make(), hovered, focused, disabled})));
+        section.add(makeLabel(title));
+        section.add(pair(make(), make()), true);
+        section.add(halves(captioned(QStringLiteral("First tab hovered"), hovered),
+                           captioned(QStringLiteral("Focused"), focused)),
+                    true);
     };
-    addRow(QStringLiteral("Plain: normal, hovered, focused, disabled"), makeTabBar);
-    addRow(QStringLiteral("With icons"), makeIconBar);
-    addRow(QStringLiteral("Closable, last tab disabled"), makeClosable);
-    addRow(QStringLiteral("Current tab highlighted"),
-           [] { return with(makeTabBar(), "currentTabHighlighted"); });
+    add(QStringLiteral("Plain"), makeTabBar);
+    add(QStringLiteral("With icons"), makeIconBar);
+    add(QStringLiteral("Closable, last tab disabled"), makeClosable);
+    add(QStringLiteral("Current tab highlighted"),
+        [] { return with(makeTabBar(), "currentTabHighlighted"); });
 }
 
 void addSizes(Section& section)
@@ -84,33 +86,30 @@ QTabWidget* makeTabWidget(QTabWidget::TabPosition position)
         page->setAlignment(Qt::AlignCenter);
         tabs->addTab(page, QString::fromLatin1(text));
     }
-    tabs->setFixedHeight(22 * Unit);
+    tabs->setFixedHeight(30 * Unit);
     return tabs;
 }
 
 void addSides(Section& section)
 {
-    section.add(pair(makeTabWidget(QTabWidget::North), makeTabWidget(QTabWidget::North)), true);
     const auto beside = [&section](const QString& firstLabel, QTabWidget* first,
                                    const QString& secondLabel, QTabWidget* second) {
-        auto* line = row({captioned(firstLabel, first), captioned(secondLabel, second)});
-        first->setMinimumWidth(54 * Unit);
-        second->setMinimumWidth(54 * Unit);
-        section.add(line, true);
+        section.add(halves(captioned(firstLabel, first), captioned(secondLabel, second)), true);
     };
-    beside(QStringLiteral("South"), makeTabWidget(QTabWidget::South), QStringLiteral("West"),
-           makeTabWidget(QTabWidget::West));
+    section.add(pair(makeTabWidget(QTabWidget::North), makeTabWidget(QTabWidget::North)), true);
+    beside(QStringLiteral("West"), makeTabWidget(QTabWidget::West), QStringLiteral("East"),
+           makeTabWidget(QTabWidget::East));
+    QTabWidget* many = makeTabWidget(QTabWidget::South);
+    for (int number = 1; number < 12; ++number)
+        many->addTab(new QWidget, QString(QLatin1String("Slice ") % QString::number(number)));
+    beside(QStringLiteral("South"), makeTabWidget(QTabWidget::South),
+           QStringLiteral("More than fit"), many);
     QTabWidget* document = makeTabWidget(QTabWidget::North);
     document->setDocumentMode(true);
     document->setTabsClosable(true);
     document->setMovable(true);
-    beside(QStringLiteral("East"), makeTabWidget(QTabWidget::East),
-           QStringLiteral("Document mode, closable, movable"), document);
-    QTabWidget* many = makeTabWidget(QTabWidget::North);
-    for (int number = 1; number < 12; ++number)
-        many->addTab(new QWidget, QString(QLatin1String("Slice ") % QString::number(number)));
     beside(QStringLiteral("Stretched"), with(makeTabWidget(QTabWidget::North), "stretched"),
-           QStringLiteral("More than fit"), many);
+           QStringLiteral("Document mode, closable, movable"), document);
 }
 
 void addShapes(Section& section)

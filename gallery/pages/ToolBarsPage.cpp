@@ -2,6 +2,7 @@
 #include "ThemeResources.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"
+#include "kit/SampleData.h"
 #include "kit/StateGrid.h"
 
 #include <QComboBox>
@@ -94,18 +95,18 @@ QToolBar* makeToolBar(Qt::Orientation orientation, Qt::ToolButtonStyle style)
     auto* bar = new QToolBar;
     bar->setOrientation(orientation);
     bar->setToolButtonStyle(style);
-    for (const char* name : {"action.new", "action.open", "action.save"})
-        bar->addAction(getIcon(QLatin1String(name)),
-                       QString::fromLatin1(name).section(QLatin1Char('.'), 1));
-    bar->addSeparator();
-    for (const char* name : {"tool.brush", "tool.eraser"}) {
+    const auto add = [bar](const char* name) {
         const QString icon = QString::fromLatin1(name);
-        bar->addAction(getIcon(icon), icon.section(QLatin1Char('.'), 1))->setCheckable(true);
-    }
+        return bar->addAction(getIcon(icon), titleOf(icon));
+    };
+    for (const char* name : {"action.new", "action.open", "action.save"})
+        add(name);
+    bar->addSeparator();
+    for (const char* name : {"tool.brush", "tool.eraser"})
+        add(name)->setCheckable(true);
     bar->actions().at(4)->setChecked(true);
     bar->addSeparator();
-    bar->addAction(getIcon(QStringLiteral("action.delete")), QStringLiteral("delete"))
-        ->setEnabled(false);
+    add("action.delete")->setEnabled(false);
     return bar;
 }
 

@@ -107,12 +107,12 @@ void tst_Gallery::startsWithoutTheme_data()
     QTest::addColumn<QString>("message");
     const QString repository = QStringLiteral("--theme-repository");
     QTest::newRow("unknown theme") << QStringList{QStringLiteral("--theme"), QStringLiteral("No")}
-                                   << QStringLiteral("the themes are Dark");
+                                   << QStringLiteral("has Dark");
     QTest::newRow("missing repository")
         << QStringList{repository, QStringLiteral("/does/not/exist")}
-        << QStringLiteral("there are no themes");
+        << QStringLiteral("there is no theme repository");
     QTest::newRow("file as repository") << QStringList{repository, QStringLiteral(VARN_GALLERY)}
-                                        << QStringLiteral("there are no themes");
+                                        << QStringLiteral("there is no theme repository");
 }
 
 void tst_Gallery::startsWithoutTheme()

@@ -77,9 +77,19 @@ void animate(QObject* object)
     new BusyAnimation(*bar); // owned by the bar
 }
 
-/// Where the band of a busy bar stands, from 0 to 1, slowing down at both ends.
-qreal busyPosition()
+/// Asked of the widget's style, so that a style sheet can set "widget-animation-duration" to 0.
+bool mayMove(const QStyleOptionProgressBar& bar)
 {
+    const auto* widget = qobject_cast<const QWidget*>(bar.styleObject);
+    return !widget
+           || widget->style()->styleHint(QStyle::SH_Widget_Animation_Duration, &bar, widget) > 0;
+}
+
+/// Where the band of a busy bar stands, from 0 to 1, slowing down at both ends.
+qreal busyPosition(const QStyleOptionProgressBar& bar)
+{
+    if (!mayMove(bar))
+        return 0;
     static const QElapsedTimer sClock = [] {
         QElapsedTimer clock;
         clock.start();
@@ -101,7 +111,7 @@ Filling filling(const QStyleOptionProgressBar& bar, qreal length)
 {
     if (isBusy(bar.minimum, bar.maximum)) {
         const qreal band = length / 3;
-        const qreal start = busyPosition() * (length - band);
+        const qreal start = busyPosition(bar) * (length - band);
         return {start, start + band};
     }
     const qint64 range = qint64(bar.maximum) - bar.minimum;
@@ -190,7 +200,7 @@ void paintGroove(const PaintContext& context)
 
 void paintContents(const PaintContext& context, const QStyleOptionProgressBar& bar)
 {
-    if (isBusy(bar.minimum, bar.maximum))
+    if (isBusy(bar.minimum, bar.maximum) && mayMove(bar))
         animate(bar.styleObject);
     const QRectF rect = Shapes::onPixels(bar.rect);
     const QRectF filled = filledRect(bar, rect);
