@@ -116,13 +116,11 @@ Settings readSettings(const QCoreApplication& application, const QString& defaul
     settings.renderDirectory = parser.value(options.render);
     settings.rightToLeft = parser.isSet(options.rightToLeft);
     settings.listPages = parser.isSet(options.listPages);
-    if (parser.isSet(options.scale)) {
-        const double scale = toScale(parser.value(options.scale));
-        if (scale > 0)
-            settings.scale = scale;
-        else
-            qWarning().noquote() << "The scale must be a number from 0.5 to 4; it stays 1.";
-    }
+    // prepareStart() has put a valid scale there.
+    const double scale = toScale(qEnvironmentVariable("QT_SCALE_FACTOR"));
+    settings.scale = scale > 0 ? scale : 1;
+    if (parser.isSet(options.scale) && toScale(parser.value(options.scale)) <= 0)
+        qWarning().noquote() << "The scale must be a number from 0.5 to 4; it stays as it was.";
     return settings;
 }
 

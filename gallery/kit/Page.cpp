@@ -4,6 +4,7 @@
 #include "kit/ThemeValues.h"
 
 #include <QBoxLayout>
+#include <QEvent>
 #include <QLabel>
 #include <QPainter>
 
@@ -23,9 +24,31 @@ QWidget* lineUp(QBoxLayout::Direction direction, int spacing,
     return line;
 }
 
+/// A label that begins at the side where lines begin, whatever the script of its text.
+class Words : public QLabel
+{
+public:
+    explicit Words(const QString& text) : QLabel(text) { align(); }
+
+protected:
+    void changeEvent(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutDirectionChange)
+            align();
+        QLabel::changeEvent(event);
+    }
+
+private:
+    void align()
+    {
+        const auto side = layoutDirection() == Qt::RightToLeft ? Qt::AlignRight : Qt::AlignLeft;
+        setAlignment(side | Qt::AlignAbsolute | Qt::AlignVCenter);
+    }
+};
+
 QLabel* makeText(const QString& text, const QColor& ink, const QString& font)
 {
-    auto* label = new QLabel(text);
+    auto* label = new Words(text);
     ThemeValues::dress(*label, ink, ThemeValues::font(font));
     return label;
 }

@@ -217,7 +217,7 @@ QMainWindow* makeApplication()
     panes->setContentsMargins(Unit, Unit, Unit, Unit);
     window->setCentralWidget(panes);
 
-    window->statusBar()->showMessage(QStringLiteral("6 specimens, 1 selected"));
+    window->statusBar()->showMessage(QStringLiteral("Six specimens, one selected"));
     auto* busy = new QProgressBar;
     busy->setValue(35);
     busy->setFixedWidth(16 * Unit);

@@ -49,6 +49,12 @@ QTabBar* makeShaped(QTabBar::Shape shape)
     return bar;
 }
 
+/// `bar` at its own size, with a caption.
+QWidget* natural(const QString& caption, QTabBar* bar)
+{
+    return captioned(caption, row({bar}));
+}
+
 void addStates(Section& section)
 {
     const auto add = [&section](const QString& title, const std::function<QTabBar*()>& make) {
@@ -56,10 +62,12 @@ void addStates(Section& section)
         forceAt(*hovered, State::Hovered, [hovered] { return hovered->tabRect(0).center(); });
         QTabBar* focused = make();
         force(*focused, State::Focused);
-        section.add(makeLabel(title));
-        section.add(pair(make(), make()), true);
-        section.add(halves(captioned(QStringLiteral("First tab hovered"), hovered),
-                           captioned(QStringLiteral("Focused"), focused)),
+        QTabBar* disabled = make();
+        disabled->setEnabled(false);
+        section.add(halves(natural(title, make()), natural(QStringLiteral("Disabled"), disabled)),
+                    true);
+        section.add(halves(natural(QStringLiteral("First tab hovered"), hovered),
+                           natural(QStringLiteral("Focused"), focused)),
                     true);
     };
     add(QStringLiteral("Plain"), makeTabBar);
