@@ -23,7 +23,12 @@ function(varn_add_test name label)
     target_link_libraries(${name} PRIVATE varn_common_theme varn_test_support Qt5::Test)
     target_compile_definitions(${name} PRIVATE VARN_THEME_REPOSITORY="${VARN_THEMES_DIR}")
     set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${VARN_TEST_PROGRAMS})
-    add_test(NAME ${name} COMMAND ${name})
+    varn_add_test_command(${name} ${label} ${name})
+endfunction()
+
+# varn_add_test_command(NAME LABEL COMMAND...): any other command that fails or passes, in the same surroundings.
+function(varn_add_test_command name label)
+    add_test(NAME ${name} COMMAND ${ARGN})
     set_tests_properties(${name} PROPERTIES LABELS ${label} ENVIRONMENT "${VARN_TEST_ENVIRONMENT}" TIMEOUT 120)
 endfunction()
 
