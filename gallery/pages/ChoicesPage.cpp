@@ -45,7 +45,7 @@ template <class Button>
 Button* aligned(Button* button, Qt::Alignment alignment)
 {
     button->setMinimumWidth(20 * Unit);
-    return with(button, "textAlignment", static_cast<int>(alignment));
+    return with(button, "textAlignment", static_cast<int>(alignment | Qt::AlignVCenter));
 }
 
 void addCheckBoxes(Section& section)

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QFileDialog>
+#include <QFocusEvent>
 #include <QFontDialog>
 #include <QFormLayout>
 #include <QInputDialog>
@@ -13,6 +14,7 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
 #include <QWizard>
@@ -28,6 +30,13 @@ Dialog* embedded(Dialog* dialog)
     dialog->setWindowFlags(Qt::Widget);
     dialog->setSizeGripEnabled(false);
     QObject::connect(dialog, &QDialog::finished, dialog, &QWidget::show, Qt::QueuedConnection);
+    // A dialog tells its first field that it has the focus, whether it is so or not.
+    QTimer::singleShot(0, dialog, [dialog] {
+        QWidget* field = dialog->focusWidget();
+        QFocusEvent lost(QEvent::FocusOut);
+        if (field && !field->hasFocus())
+            QCoreApplication::sendEvent(field, &lost);
+    });
     return dialog;
 }
 

@@ -1,7 +1,9 @@
 #include "Pages.h"
+#include "ThemeColorHelper.h"
 #include "ThemeResources.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"
+#include "kit/ThemeValues.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -49,7 +51,6 @@ QListView* makeIconGrid()
     grid->setViewMode(QListView::IconMode);
     grid->setMovement(QListView::Static);
     grid->setResizeMode(QListView::Adjust);
-    grid->setUniformItemSizes(true);
     grid->setFont(BRELK::ThemeResources::getFont(QStringLiteral("small")));
     grid->setTextElideMode(Qt::ElideMiddle);
     grid->setFixedHeight(80 * Unit);
@@ -166,7 +167,8 @@ void addStandardIcons(Section& section)
         const auto id = static_cast<QStyle::StandardPixmap>(names.value(index));
         if (id == QStyle::SP_CustomBase)
             continue;
-        const QIcon icon = section.style()->standardIcon(id, nullptr, &section);
+        const QIcon icon = BRELK::ThemeColorHelper::getModifiedIconWithForegroundBrush(
+            section.style()->standardIcon(id, nullptr, &section), ThemeValues::text());
         sheet->add(icon.pixmap(3 * Unit, 3 * Unit),
                    QString::fromLatin1(names.key(index) + PrefixLength));
     }

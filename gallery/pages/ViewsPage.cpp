@@ -18,6 +18,7 @@ namespace Gallery {
 namespace {
 
 constexpr int ViewHeight = 24 * Unit;
+constexpr int ThirdWidth = 40 * Unit;
 
 template <class View>
 View* fill(View* view, QStandardItemModel* model)
@@ -129,11 +130,15 @@ void fillViews(Page& page)
     more.add(captioned(QStringLiteral("Columns"), makeColumns()), true);
     auto* cascade = new BRELK::Components::CascadingListViewPanel;
     fill(cascade, makeTableModel(cascade));
-    more.add(
-        row({captioned(QStringLiteral("Flat, without separators"), with(makeList(), "flatView")),
-             captioned(QStringLiteral("Panel of a cascade"), cascade),
-             captioned(QStringLiteral("Editing in place"), makeEditing())}),
-        true);
+    QTreeView* editing = makeEditing();
+    QListView* flat = with(makeList(), "flatView");
+    for (QAbstractItemView* view :
+         std::initializer_list<QAbstractItemView*>{flat, cascade, editing})
+        view->setMinimumWidth(ThirdWidth);
+    more.add(row({captioned(QStringLiteral("Flat, without separators"), flat),
+                  captioned(QStringLiteral("Panel of a cascade"), cascade),
+                  captioned(QStringLiteral("Editing in place"), editing)}),
+             true);
 }
 
 } // namespace Gallery
