@@ -1,23 +1,22 @@
 #!/bin/sh
-# Installs what is missing, builds, and opens the gallery in the Dark theme. Arguments go to the gallery; a later
-# --theme or --theme-repository is the one that counts. Without a display every page is rendered to a PNG instead.
+# Installs what is missing, builds, and opens the gallery in the Dark theme. Arguments go to the gallery. Without a
+# display every page is rendered to a PNG instead, and the paths are printed.
 set -eu
-cd "$(dirname "$0")/.."
-build=build/release
+root=$(cd "$(dirname "$0")/.." && pwd)
+build=$root/build/release
 
-./scripts/install-dependencies.sh >&2
-cmake --preset release -DVARN_BUILD_BENCHMARKS=OFF -DVARN_BUILD_TESTS=OFF >&2
-cmake --build --preset release --parallel --target varn-gallery varn_themes >&2
+(
+    cd "$root"
+    ./scripts/install-dependencies.sh
+    cmake --preset release -DVARN_BUILD_BENCHMARKS=OFF -DVARN_BUILD_TESTS=OFF
+    cmake --build --preset release --parallel --target varn-gallery
+) >&2
 
-case " $* " in *" --theme "*) ;; *) set -- --theme Dark "$@" ;; esac
-case " $* " in *" --theme-repository "*) ;; *) set -- --theme-repository "$build/share/varn/themes" "$@" ;; esac
-case " $* " in
-*" --render "*) ;;
-*)
-    if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ] && [ -z "${QT_QPA_PLATFORM:-}" ]; then
-        set -- --render "$build/gallery" "$@"
-    fi
-    ;;
-esac
-case " $* " in *" --render "*) export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" ;; esac
+# The gallery is started where the caller is, so that relative paths are the caller's.
+if [ -z "${DISPLAY:-}${WAYLAND_DISPLAY:-}${QT_QPA_PLATFORM:-}" ]; then
+    case " $* " in
+    *" --render "*) ;;
+    *) set -- --render "$build/gallery" "$@" ;;
+    esac
+fi
 exec "$build/bin/varn-gallery" "$@"

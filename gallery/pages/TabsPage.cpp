@@ -64,10 +64,11 @@ void addStates(Section& section)
         force(*focused, State::Focused);
         QTabBar* disabled = make();
         disabled->setEnabled(false);
-        section.add(halves(natural(title, make()), natural(QStringLiteral("Disabled"), disabled)),
-                    true);
-        section.add(halves(natural(QStringLiteral("First tab hovered"), hovered),
-                           natural(QStringLiteral("Focused"), focused)),
+        section.add(
+            halves(natural(title, make()), natural(title % QLatin1String(": disabled"), disabled)),
+            true);
+        section.add(halves(natural(title % QLatin1String(": first tab hovered"), hovered),
+                           natural(title % QLatin1String(": focused"), focused)),
                     true);
     };
     add(QStringLiteral("Plain"), makeTabBar);

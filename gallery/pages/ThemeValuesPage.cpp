@@ -53,7 +53,9 @@ QString describe(const QColor& color)
 QWidget* makeColorCell(const QString& name, const QColor& color)
 {
     auto* swatch = new Swatch(color, ThemeValues::radius(QStringLiteral("BaseSize")), ColorSize);
-    return column({swatch, makeLabel(name), makeCaption(describe(color))});
+    QLabel* title = makeCaption(name);
+    ThemeValues::dress(*title, ThemeValues::text(), title->font());
+    return column({swatch, title, makeCaption(describe(color))});
 }
 
 void addColors(Section& section)
