@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that the style writes each theme variable, property and class name in one place, and that no source holds
-words that do not belong there.
+"""Checks that the style writes each theme variable, property and class name in one place, that the properties are
+documented, and that no source holds words that do not belong there.
 """
 
 import re
@@ -11,6 +11,7 @@ import sourcetree
 STYLE = "ThemeLibrary/sources/style/"
 NAMES = STYLE + "ThemeNames.h"
 PROPERTIES = STYLE + "WidgetProperties.h"
+PROPERTY_PAGE = "docs/properties.md"
 TRAITS = STYLE + "WidgetTraits.cpp"
 
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
@@ -56,10 +57,19 @@ def faults(path, variables, properties):
                 yield f"{name}:{number}: {reason}"
 
 
+def undocumented(properties):
+    """Twins for disabled widgets go with their originals; Qt's own properties are not for applications."""
+    page = (sourcetree.ROOT / PROPERTY_PAGE).read_text(encoding="utf-8")
+    for text in sorted(properties):
+        if not text.startswith("_q_") and not text.endswith("Disabled") and f"`{text}`" not in page:
+            yield f'{PROPERTY_PAGE}: "{text}" is missing'
+
+
 def main():
     variables, properties = literals(NAMES), literals(PROPERTIES)
     sources = sourcetree.files(".cpp", ".h", ".py", ".md", ".qss", ".sh", ".cmake", ".txt")
     found = [line for path in sources for line in faults(path, variables, properties)]
+    found += undocumented(properties)
     for line in found:
         print(line)
     return 1 if found else 0
