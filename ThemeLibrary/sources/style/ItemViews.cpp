@@ -1,10 +1,17 @@
+#include "ButtonContent.h"
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 #include "WidgetTraits.h"
 
 #include <QListView>
+#include <QScrollBar>
 
 // Lists, tables, trees, column views and their rows.
+//
+// Properties: "drawChildIndicatorInListView", "drawItemsSeparators", "flatView",
+// "highlightItemsOnMouseHover".
 
 namespace BRELK::ItemViews {
 
@@ -85,34 +92,251 @@ QRect textRect(const StyleContext& context, const QRect& base)
     return base.adjusted(padding, 0, -padding, 0);
 }
 
-void paintPanel(const PaintContext& context, const QStyleOptionViewItem&)
+namespace {
+
+constexpr qreal HoverOpacity = 0.16;
+constexpr int TextMargin = 1; ///< beside the focus margin, between text and rectangle
+constexpr int IndicatorSize = 16;
+
+QPalette::ColorGroup colorGroup(const StyleContext& context)
 {
-    context.drawByBase(QStyle::PE_PanelItemViewItem);
+    if (!context.enabled())
+        return QPalette::Disabled;
+    return context.has(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
 }
 
-void paintRow(const PaintContext& context, const QStyleOptionViewItem&)
+QBrush textBrush(const StyleContext& context)
 {
-    context.drawByBase(QStyle::PE_PanelItemViewRow);
+    return context.option.palette.brush(colorGroup(context), context.has(QStyle::State_Selected)
+                                                                 ? QPalette::HighlightedText
+                                                                 : QPalette::Text);
+}
+
+bool hasViewFocus(const StyleContext& context)
+{
+    return context.widget ? context.widget->hasFocus() : context.has(QStyle::State_Active);
+}
+
+/// An application that colors the selection of one view keeps its color.
+QBrush selectionBrush(const StyleContext& context)
+{
+    const bool isApplications =
+        context.widget && context.widget->palette().resolve() & (1U << QPalette::Highlight);
+    if (isApplications)
+        return context.option.palette.brush(colorGroup(context), QPalette::Highlight);
+    const bool focused = hasViewFocus(context) || WidgetTraits::isComboBoxList(context.widget);
+    return context.brush(focused ? ThemeNames::mainBrush() : ThemeNames::mainSubLevel1Brush());
+}
+
+bool isHighlighted(const StyleContext& context)
+{
+    return BaseStyle::isHovered(&context.option)
+           && context.flag(WidgetProperties::HighlightItemsOnMouseHover);
+}
+
+void paintSelection(const PaintContext& context)
+{
+    const QRect& rect = context.option.rect;
+    if (context.has(QStyle::State_Selected)) {
+        context.painter.fillRect(rect, selectionBrush(context));
+    } else if (isHighlighted(context)) {
+        const qreal opacity = context.painter.opacity();
+        context.painter.setOpacity(opacity * HoverOpacity);
+        context.painter.fillRect(rect, context.brush(ThemeNames::mainBrush()));
+        context.painter.setOpacity(opacity);
+    }
+}
+
+bool hasSeparators(const StyleContext& context)
+{
+    if (!context.flag(WidgetProperties::DrawItemsSeparators)
+        || context.flag(WidgetProperties::FlatView)
+        || WidgetTraits::isInComboBoxPopup(context.widget)
+        || WidgetTraits::isPeriodicTable(context.widget))
+        return false;
+    return !WidgetTraits::isListView(context.widget) || isInListMode(context.widget);
+}
+
+/// The room that a thin scroll bar over the list takes from its rows.
+int scrollBarRoom(const StyleContext& context)
+{
+    static const int sVerticalScrollBarPadding = listViewPadding(context.style);
+    const auto* list = qobject_cast<const QListView*>(context.widget);
+    const QScrollBar* bar = list ? list->verticalScrollBar() : nullptr;
+    return bar && bar->isVisible() && WidgetTraits::isMinimizedScrollBar(bar)
+               ? sVerticalScrollBarPadding
+               : 0;
+}
+
+bool showsChildren(const StyleContext& context, const QStyleOptionViewItem& item)
+{
+    const QAbstractItemModel* model = item.index.model();
+    return context.flag(WidgetProperties::DrawChildIndicatorInListView) && model
+           && model->hasChildren(item.index) && isInListMode(context.widget)
+           && !WidgetTraits::isComboBoxList(context.widget);
+}
+
+void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item)
+{
+    QStyleOptionViewItem check = item;
+    check.rect = context.part(QStyle::SE_ItemViewItemCheckIndicator);
+    check.state &= ~QStyle::State_HasFocus;
+    switch (item.checkState) {
+    case Qt::Checked: check.state |= QStyle::State_On; break;
+    case Qt::PartiallyChecked: check.state |= QStyle::State_NoChange; break;
+    default: check.state |= QStyle::State_Off; break;
+    }
+    context.draw(QStyle::PE_IndicatorItemViewItemCheck, check);
+}
+
+void paintIcon(const PaintContext& context, const QStyleOptionViewItem& item, const QBrush& brush)
+{
+    const QRect rect = context.part(QStyle::SE_ItemViewItemDecoration);
+    const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(item.icon, brush);
+    const QSize size = item.icon.actualSize(item.decorationSize);
+    const QIcon::State state = context.has(QStyle::State_Open) ? QIcon::On : QIcon::Off;
+    context.proxy().drawItemPixmap(
+        &context.painter, rect,
+        int(QStyle::visualAlignment(item.direction, item.decorationAlignment)),
+        Shapes::iconPixmap(context.painter, icon, size, QIcon::Normal, state));
+}
+
+bool isOneLine(const QStyleOptionViewItem& item, const QRect& rect)
+{
+    return !item.text.contains(QChar::LineSeparator) && !item.text.contains(QLatin1Char('\n'))
+           && (!(item.features & QStyleOptionViewItem::WrapText)
+               || rect.height() < 2 * item.fontMetrics.height());
+}
+
+/// Lines that wrap at words; what does not fit below is cut at a line, and the last one elided.
+void paintLines(const PaintContext& context, const QStyleOptionViewItem& item, const QRect& rect,
+                int alignment, const QBrush& brush)
+{
+    const int wrap = item.features & QStyleOptionViewItem::WrapText ? int(Qt::TextWordWrap) : 0;
+    const PainterSaver saver(context.painter);
+    context.painter.setClipRect(rect, Qt::IntersectClip);
+    context.painter.setPen(QPen(brush, 1));
+    QString text = item.text;
+    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
+    context.painter.drawText(rect, alignment | wrap, text);
+}
+
+void paintText(const PaintContext& context, const QStyleOptionViewItem& item, const QBrush& brush)
+{
+    const QRect whole = context.part(QStyle::SE_ItemViewItemText);
+    const int margin = context.metric(QStyle::PM_FocusFrameHMargin) + TextMargin;
+    const int room = scrollBarRoom(context) + (showsChildren(context, item) ? IndicatorSize : 0);
+    const QRect rect = context.rightToLeft() ? whole.adjusted(margin + room, 0, -margin, 0)
+                                             : whole.adjusted(margin, 0, -margin - room, 0);
+    const int alignment = int(QStyle::visualAlignment(item.direction, item.displayAlignment));
+    context.painter.setFont(item.font);
+    if (!isOneLine(item, rect)) {
+        paintLines(context, item, rect, alignment, brush);
+        return;
+    }
+    const QString text = item.fontMetrics.elidedText(item.text, item.textElideMode, rect.width());
+    context.painter.setPen(QPen(brush, 1));
+    context.painter.drawText(rect, alignment | Qt::TextSingleLine, text);
+}
+
+void paintChildIndicator(const PaintContext& context, const QBrush& brush)
+{
+    static const QIcon sChildIcon = QIcon::fromTheme(QStringLiteral("chevron.right"));
+    const QRect& rect = context.option.rect;
+    const int end = listViewPadding(context.style) / 2 + scrollBarRoom(context);
+    const QRect place(rect.right() + 1 - end - IndicatorSize, rect.y(), IndicatorSize,
+                      rect.height());
+    Shapes::drawIcon(context, sChildIcon, brush, context.visual(place), IndicatorSize);
+}
+
+void paintItemFocus(const PaintContext& context, const QStyleOptionViewItem& item)
+{
+    auto focus = optionFrom<QStyleOptionFocusRect>(item);
+    focus.rect = context.part(QStyle::SE_ItemViewItemFocusRect);
+    focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
+    focus.backgroundColor = item.palette.color(
+        colorGroup(context),
+        context.has(QStyle::State_Selected) ? QPalette::Highlight : QPalette::Window);
+    context.draw(QStyle::PE_FrameFocusRect, focus);
+}
+
+void paintArrow(const PaintContext& context, bool down)
+{
+    constexpr int BranchArrowSize = 12;
+    QStyleOption arrow = context.option;
+    arrow.rect = QRect(0, 0, BranchArrowSize, BranchArrowSize);
+    arrow.rect.moveCenter(context.option.rect.center());
+    arrow.palette.setBrush(arrow.palette.currentColorGroup(), QPalette::ButtonText,
+                           textBrush(context));
+    const QStyle::PrimitiveElement sideways =
+        context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
+    context.draw(down ? QStyle::PE_IndicatorArrowDown : sideways, arrow);
+}
+
+} // namespace
+
+void paintPanel(const PaintContext& context, const QStyleOptionViewItem& item)
+{
+    const QRect& rect = item.rect;
+    if (item.backgroundBrush.style() != Qt::NoBrush) {
+        const QPointF origin = context.painter.brushOrigin();
+        context.painter.setBrushOrigin(rect.topLeft());
+        context.painter.fillRect(rect, item.backgroundBrush);
+        context.painter.setBrushOrigin(origin);
+    }
+    paintSelection(context);
+    if (hasSeparators(context))
+        Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(),
+                         context.color(ThemeNames::backgroundColor()));
+}
+
+void paintRow(const PaintContext& context, const QStyleOptionViewItem& item)
+{
+    if (item.features & QStyleOptionViewItem::Alternate)
+        context.painter.fillRect(item.rect,
+                                 context.brush(ThemeNames::itemViewAlternateBackgroundBrush()));
+    // In a tree the row begins before its first item, with the branches.
+    if (WidgetTraits::isTreeView(context.widget))
+        paintSelection(context);
 }
 
 void paintBranch(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorBranch);
+    if (context.has(QStyle::State_Children))
+        paintArrow(context, context.has(QStyle::State_Open));
 }
 
 void paintColumnViewArrow(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorColumnViewArrow);
+    paintArrow(context, false);
 }
 
-void paintItem(const PaintContext& context, const QStyleOptionViewItem&)
+void paintItem(const PaintContext& context, const QStyleOptionViewItem& item)
 {
-    context.drawByBase(QStyle::CE_ItemViewItem);
+    const PainterSaver saver(context.painter);
+    context.draw(QStyle::PE_PanelItemViewItem, item);
+    if (item.features & QStyleOptionViewItem::HasCheckIndicator)
+        paintCheckBox(context, item);
+    const QBrush brush = textBrush(context);
+    if (!item.icon.isNull())
+        paintIcon(context, item, brush);
+    if (!item.text.isEmpty())
+        paintText(context, item, brush);
+    if (showsChildren(context, item))
+        paintChildIndicator(context, brush);
+    if (context.has(QStyle::State_HasFocus))
+        paintItemFocus(context, item);
 }
 
 void paintColumnViewGrip(const PaintContext& context)
 {
-    context.drawByBase(QStyle::CE_ColumnViewGrip);
+    constexpr int GripStep = 4;
+    constexpr int GripSize = 2;
+    constexpr int GripLength = 20;
+    const QRect& rect = context.option.rect;
+    const int from = rect.top() + (rect.height() - GripLength) / 2;
+    context.style.drawGrips(context.painter, Qt::Vertical, from, from + GripLength,
+                            rect.left() + (rect.width() - GripSize) / 2, GripStep, GripSize, 1);
 }
 
 } // namespace BRELK::ItemViews

@@ -1,5 +1,11 @@
+#include "ButtonContent.h"
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
+#include "ThemeResources.h"
+
+#include <qdrawutil.h>
 
 // Menus and menu bars.
 
@@ -11,6 +17,9 @@ constexpr int PanelMargin = 4;
 constexpr int RowPadding = 5;
 constexpr int SeparatorHeight = 9;
 constexpr int ItemPadding = 8;
+constexpr int MarkSize = 16;
+constexpr int ArrowSize = 16;
+constexpr int ShortcutSpacing = 24; ///< between a text and the shortcuts
 constexpr int ScrollerHeight = 20;
 constexpr int TearoffHeight = 12;
 constexpr int BarItemPadding = 8;
@@ -33,13 +42,40 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
     }
 }
 
-QSize itemSize(const MeasureContext& context, const QStyleOptionMenuItem& item, const QSize&,
-               const QSize& base)
+namespace {
+
+/// The columns of a row, from its start to its end; the shortcut stands at the end of the text
+/// column.
+struct Columns
 {
-    if (item.menuItemType == QStyleOptionMenuItem::Separator && item.text.isEmpty())
-        return {base.width(), context.dpiScaled(SeparatorHeight)};
-    return {base.width() + 2 * context.dpiScaled(ItemPadding),
-            qMax(base.height(), context.rowHeight(RowPadding))};
+    int mark; ///< check mark or icon, with the room around it
+    int end; ///< the arrow of a submenu, with the room around it
+};
+
+Columns columnsOf(const MeasureContext& context, const QStyleOptionMenuItem& item)
+{
+    const int padding = context.dpiScaled(ItemPadding);
+    const int mark = qMax(item.maxIconWidth, context.dpiScaled(MarkSize));
+    return {mark + 2 * padding, context.dpiScaled(ArrowSize) + padding};
+}
+
+bool isSection(const QStyleOptionMenuItem& item)
+{
+    return item.menuItemType == QStyleOptionMenuItem::Separator && !item.text.isEmpty();
+}
+
+} // namespace
+
+QSize itemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
+               const QSize& contents, const QSize&)
+{
+    if (item.menuItemType == QStyleOptionMenuItem::Separator && !isSection(item))
+        return {contents.width(), context.dpiScaled(SeparatorHeight)};
+    const Columns columns = columnsOf(context, item);
+    const int height =
+        qMax(contents.height() + context.dpiScaled(PanelMargin), context.rowHeight(RowPadding));
+    return {columns.mark + contents.width() + context.dpiScaled(ShortcutSpacing) + columns.end,
+            height};
 }
 
 QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem&, const QSize& contents,
@@ -49,24 +85,172 @@ QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem&, co
             qMax(contents.height(), context.rowHeight(BarRowPadding))};
 }
 
+namespace {
+
+bool isSelected(const StyleContext& context)
+{
+    return context.has(QStyle::State_Selected) && context.enabled();
+}
+
+void paintSeparator(const PaintContext& context, const QStyleOptionMenuItem& item)
+{
+    const int padding = context.measure().dpiScaled(ItemPadding);
+    QRect rect = item.rect.adjusted(padding, 0, -padding, 0);
+    const QBrush& line = context.style.lightOutlineBrush(item.palette);
+    if (isSection(item)) {
+        QFont font = item.font;
+        font.setBold(true);
+        context.painter.setFont(font);
+        const int width =
+            qMin(context.painter.fontMetrics().horizontalAdvance(item.text), rect.width());
+        const QRect text(rect.x(), rect.y(), width, rect.height());
+        Shapes::drawText(context, context.visual(text), Qt::AlignCenter | Qt::TextSingleLine,
+                         item.text, item.palette.brush(QPalette::Text));
+        rect.setLeft(text.right() + padding);
+    }
+    rect = context.visual(rect);
+    if (rect.width() > 0)
+        Shapes::drawLine(context, {rect.left(), rect.center().y()},
+                         {rect.right(), rect.center().y()}, line);
+}
+
+/// A box or circle for what can be checked, with the mark in it when it is; an icon in a box when
+/// that is checked.
+void paintMark(const PaintContext& context, const QStyleOptionMenuItem& item, const QRect& column,
+               const QBrush& brush)
+{
+    const int side = context.measure().dpiScaled(MarkSize);
+    QRect rect(0, 0, side, side);
+    rect.moveCenter(column.center());
+    const bool checkable = item.checkType != QStyleOptionMenuItem::NotCheckable;
+    const QBrush& outline = context.style.lightOutlineBrush(item.palette);
+    if (!item.icon.isNull()) {
+        const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(item.icon, brush);
+        const QIcon::State state = item.checked ? QIcon::On : QIcon::Off;
+        const int extent = context.metric(QStyle::PM_SmallIconSize);
+        if (checkable && item.checked)
+            Shapes::drawBox(context, rect.adjusted(-2, -2, 2, 2), 0, Qt::NoBrush, outline);
+        context.proxy().drawItemPixmap(
+            &context.painter, column, Qt::AlignCenter,
+            Shapes::iconPixmap(context.painter, icon, {extent, extent}, QIcon::Normal, state));
+    } else if (checkable) {
+        const bool exclusive = item.checkType == QStyleOptionMenuItem::Exclusive;
+        Shapes::drawBox(context, rect, exclusive ? side / 2 : 2, Qt::NoBrush,
+                        isSelected(context) ? brush : outline);
+        if (item.checked && exclusive)
+            context.style.drawRadioMark(&context.painter, rect.adjusted(2, 2, -2, -2), brush);
+        else if (item.checked)
+            context.style.drawCheckMark(&context.painter, rect, brush);
+    }
+}
+
+void paintTexts(const PaintContext& context, const QStyleOptionMenuItem& item, const QRect& rect,
+                const QBrush& brush)
+{
+    QFont font = item.font;
+    if (item.menuItemType == QStyleOptionMenuItem::DefaultItem)
+        font.setBold(true);
+    context.painter.setFont(font);
+    const int tab = item.text.indexOf(QLatin1Char('\t'));
+    const int textFlags = int(QStyle::visualAlignment(item.direction, Qt::AlignLeft))
+                          | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextSingleLine
+                          | Qt::TextDontClip;
+    QRect textRect = rect;
+    if (tab >= 0) {
+        const int shortcutWidth = qMax(item.tabWidth, 0);
+        const QRect shortcut(rect.right() + 1 - shortcutWidth, rect.y(), shortcutWidth,
+                             rect.height());
+        const int flags = int(QStyle::visualAlignment(item.direction, Qt::AlignRight))
+                          | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextDontClip;
+        Shapes::drawText(context, context.visual(shortcut), flags, item.text.mid(tab + 1), brush);
+        textRect.setRight(shortcut.left() - 1);
+    }
+    Shapes::drawText(context, context.visual(textRect), textFlags,
+                     tab >= 0 ? item.text.left(tab) : item.text, brush);
+}
+
+QBrush itemBrush(const PaintContext& context, const QStyleOptionMenuItem& item)
+{
+    if (isSelected(context))
+        return item.palette.brush(QPalette::HighlightedText);
+    if (context.flag(WidgetProperties::IsComboBoxPopupItem)) {
+        const QBrush themed = BaseStyle::buttonBrushes(&item, context.widget).foregroundBrush;
+        return ButtonContent::textBrush(item, context.widget, QPalette::Text, themed);
+    }
+    return item.palette.brush(QPalette::Text);
+}
+
+} // namespace
+
 void paintPanel(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_PanelMenu);
+    constexpr int BorderDarkness = 160;
+    const PainterSaver saver(context.painter);
+    const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
+    const QBrush fill = ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush());
+    qDrawPlainRect(&context.painter, context.option.rect, border, 1, &fill);
 }
 
-void paintItem(const PaintContext& context, const QStyleOptionMenuItem&)
+void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
-    context.drawByBase(QStyle::CE_MenuItem);
+    const PainterSaver saver(context.painter);
+    if (isSelected(context))
+        context.painter.fillRect(item.rect, context.color(ThemeNames::mainColor()));
+    else if (context.flag(WidgetProperties::IsComboBoxPopupItem))
+        context.painter.fillRect(item.rect, context.brush(ThemeNames::backgroundSubLevel1Brush()));
+    if (item.menuItemType == QStyleOptionMenuItem::Separator) {
+        paintSeparator(context, item);
+        return;
+    }
+    const MeasureContext measure = context.measure();
+    const Columns columns = columnsOf(measure, item);
+    const QRect& rect = item.rect;
+    const QBrush brush = itemBrush(context, item);
+    const QRect mark(rect.x(), rect.y(), columns.mark, rect.height());
+    paintMark(context, item, context.visual(mark), brush);
+    paintTexts(context, item, rect.adjusted(columns.mark, 0, -columns.end, 0), brush);
+
+    if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {
+        QStyleOptionMenuItem arrow = item;
+        const int side = measure.dpiScaled(ArrowSize);
+        arrow.rect = context.visual(
+            {rect.right() + 1 - columns.end, rect.y() + (rect.height() - side) / 2, side, side});
+        arrow.palette.setBrush(arrow.palette.currentColorGroup(), QPalette::ButtonText, brush);
+        context.draw(context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft
+                                           : QStyle::PE_IndicatorArrowRight,
+                     arrow);
+    }
 }
 
-void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem&)
+void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
-    context.drawByBase(QStyle::CE_MenuBarItem);
+    constexpr int HoverLine = 2;
+    const PainterSaver saver(context.painter);
+    const QRect& rect = item.rect;
+    const bool open = isSelected(context) && BaseStyle::isPressed(item);
+    const QColor main = context.color(ThemeNames::mainColor());
+    context.painter.fillRect(rect, open ? QBrush(main)
+                                        : context.brush(ThemeNames::backgroundSubLevel2Brush()));
+    if (isSelected(context) && !open)
+        context.painter.fillRect(
+            QRect(rect.x(), rect.bottom() + 1 - HoverLine, rect.width(), HoverLine), main);
+
+    const QBrush brush =
+        item.palette.brush(open ? QPalette::HighlightedText : QPalette::ButtonText);
+    if (item.icon.isNull()) {
+        Shapes::drawText(context, rect,
+                         Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine
+                             | Qt::TextDontClip,
+                         item.text, brush);
+        return;
+    }
+    Shapes::drawIcon(context, item.icon, brush, rect, context.metric(QStyle::PM_SmallIconSize));
 }
 
 void paintBarEmptyArea(const PaintContext& context)
 {
-    context.drawByBase(QStyle::CE_MenuBarEmptyArea);
+    context.painter.fillRect(context.option.rect,
+                             context.brush(ThemeNames::backgroundSubLevel2Brush()));
 }
 
 } // namespace BRELK::Menus

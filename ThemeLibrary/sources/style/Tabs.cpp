@@ -1,10 +1,18 @@
+#include "ButtonContent.h"
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 
 #include <QApplication>
+#include <QPainterPath>
 #include <QTabBar>
 
 // Tab bars and tab widgets.
+//
+// Properties, of the bar or widget and with "app" in front of the application:
+// "currentTabHighlighted", "smallTabSize", "baseTabSize", "mediumTabSize", "largeTabSize"; of a tab
+// widget: "stretched".
 
 namespace BRELK::Tabs {
 
@@ -101,29 +109,210 @@ QRect rightButtonRect(const StyleContext&, const QStyleOptionTab& tab, const QRe
     return rect;
 }
 
-void paintFrame(const PaintContext& context)
+namespace {
+
+/// The side of a tab that faces its page.
+Helpers::StraightCornerFlags pageCorners(Side side)
 {
-    context.drawByBase(QStyle::PE_FrameTabWidget);
+    switch (side) {
+    case Side::South: return Helpers::TopCorners;
+    case Side::West: return Helpers::RightCorners;
+    case Side::East: return Helpers::LeftCorners;
+    default: return Helpers::BottomCorners;
+    }
 }
 
-void paintBarBase(const PaintContext& context, const QStyleOptionTabBarBase&)
+QLine pageEdge(Side side, const QRect& rect)
 {
-    context.drawByBase(QStyle::PE_FrameTabBarBase);
+    switch (side) {
+    case Side::South: return {rect.topLeft(), rect.topRight()};
+    case Side::West: return {rect.topRight(), rect.bottomRight()};
+    case Side::East: return {rect.topLeft(), rect.bottomLeft()};
+    default: return {rect.bottomLeft(), rect.bottomRight()};
+    }
+}
+
+QString radiusName(const QWidget* bar)
+{
+    QString name;
+    if (WidgetProperties::flag(qApp, WidgetProperties::AppSmallTabSize))
+        name = ThemeNames::smallSize();
+    else if (WidgetProperties::flag(qApp, WidgetProperties::AppBaseTabSize))
+        name = ThemeNames::baseSize();
+    else if (WidgetProperties::flag(qApp, WidgetProperties::AppMediumTabSize))
+        name = ThemeNames::mediumSize();
+    else if (WidgetProperties::flag(qApp, WidgetProperties::AppLargeTabSize))
+        name = ThemeNames::largeSize();
+
+    // Deliberate: the bar's own properties, or the lack of them, always decide.
+    if (WidgetProperties::flag(bar, WidgetProperties::SmallTabSize))
+        name = ThemeNames::smallSize();
+    else if (WidgetProperties::flag(bar, WidgetProperties::BaseTabSize))
+        name = ThemeNames::baseSize();
+    else if (WidgetProperties::flag(bar, WidgetProperties::MediumTabSize))
+        name = ThemeNames::mediumSize();
+    else if (WidgetProperties::flag(bar, WidgetProperties::LargeTabSize))
+        name = ThemeNames::largeSize();
+    else
+        name = ThemeNames::mediumSize();
+    return name;
+}
+
+bool isTriangular(QTabBar::Shape shape)
+{
+    return shape >= QTabBar::TriangularNorth;
+}
+
+/// A tab with slanted sides: a trapezium with cut corners, ten points drawn for a tab above its
+/// page and turned for the others.
+QPolygonF triangularTab(const QRectF& rect, Side side)
+{
+    constexpr qreal Slant = 8;
+    constexpr qreal Cut = 2;
+    const bool upright = side == Side::West || side == Side::East;
+    const qreal length = upright ? rect.height() : rect.width();
+    const qreal depth = upright ? rect.width() : rect.height();
+    QPolygonF points;
+    points << QPointF(0, depth) << QPointF(Cut, depth - Cut) << QPointF(Slant - Cut, Cut)
+           << QPointF(Slant, Cut / 2) << QPointF(Slant + Cut, 0) << QPointF(length - Slant - Cut, 0)
+           << QPointF(length - Slant, Cut / 2) << QPointF(length - Slant + Cut, Cut)
+           << QPointF(length - Cut, depth - Cut) << QPointF(length, depth);
+    for (QPointF& point : points) {
+        switch (side) {
+        case Side::North: point += rect.topLeft(); break;
+        case Side::South: point = {rect.left() + point.x(), rect.bottom() - point.y()}; break;
+        case Side::West: point = {rect.left() + point.y(), rect.top() + point.x()}; break;
+        case Side::East: point = {rect.right() - point.y(), rect.top() + point.x()}; break;
+        }
+    }
+    return points;
+}
+
+bool isFirst(const QStyleOptionTab& tab)
+{
+    return tab.position == QStyleOptionTab::Beginning
+           || tab.position == QStyleOptionTab::OnlyOneTab;
+}
+
+/// Tabs that are not selected are a little lower, and share one border line with their neighbour.
+QRect shapeRect(const QStyleOptionTab& tab, Side side, bool selected)
+{
+    constexpr int Lowering = 2;
+    QRect rect = tab.rect;
+    const int overlap = isFirst(tab) ? 0 : 1;
+    const int lowering = selected ? 0 : Lowering;
+    switch (side) {
+    case Side::North: return rect.adjusted(-overlap, lowering, 0, 0);
+    case Side::South: return rect.adjusted(-overlap, 0, 0, -lowering);
+    case Side::West: return rect.adjusted(lowering, -overlap, 0, 0);
+    default: return rect.adjusted(0, -overlap, -lowering, 0);
+    }
+}
+
+QBrush tabBackground(const PaintContext& context, BaseStyle::TabBackgroundState state)
+{
+    return context.brush(state == BaseStyle::TabBackground_Selected
+                             ? ThemeNames::tabBackgroundActiveBrush()
+                             : ThemeNames::tabBackgroundBrush());
+}
+
+QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
+{
+    const QBrush given = tab.palette.brush(QPalette::WindowText);
+    if (context.widget && given != context.widget->palette().brush(QPalette::WindowText))
+        return given; // the application colors this tab
+    if (!context.enabled())
+        return context.brush(ThemeNames::foregroundDisabledBrush());
+    switch (context.style.getTabBackgroundState(tab)) {
+    case BaseStyle::TabBackground_Highlighted:
+        return context.brush(ThemeNames::tabForegroundMouseOverBrush());
+    case BaseStyle::TabBackground_Selected:
+        return isCurrentTabHighlighted(context)
+                   ? QBrush(context.color(ThemeNames::mainUpLevel1Color()))
+                   : given;
+    default: return given;
+    }
+}
+
+} // namespace
+
+void paintFrame(const PaintContext& context)
+{
+    const PainterSaver saver(context.painter);
+    const QRect& rect = context.option.rect;
+    const QRectF frameRect = Shapes::onPixels(rect);
+    context.painter.fillRect(frameRect, context.brush(ThemeNames::tabBackgroundActiveBrush()));
+    if (const auto* frame = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(&context.option)) {
+        // The selected tab and its page are one surface: no line between them.
+        QRect gap = frame->selectedTabRect;
+        const Side side = sideOf(frame->shape);
+        if (side == Side::North || side == Side::South)
+            gap.adjust(0, -BaseOverlap, -1, BaseOverlap);
+        else
+            gap.adjust(-BaseOverlap, 0, BaseOverlap, -1);
+        context.painter.setClipRegion(QRegion(rect).subtracted(gap));
+    }
+    context.painter.setPen(
+        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    context.painter.setBrush(Qt::NoBrush);
+    context.painter.drawRect(frameRect);
+}
+
+void paintBarBase(const PaintContext& context, const QStyleOptionTabBarBase& bar)
+{
+    const QLine edge = pageEdge(sideOf(bar.shape), bar.rect);
+    const QRegion line = QRegion(QRect(edge.p1(), edge.p2())).subtracted(bar.selectedTabRect);
+    for (const QRect& part : line)
+        context.painter.fillRect(part, context.borderBrush());
 }
 
 void paintCloseButton(const PaintContext& context)
 {
-    context.drawByBase(QStyle::PE_IndicatorTabClose);
+    const QIcon icon = context.style.standardIcon(QStyle::SP_DockWidgetCloseButton, &context.option,
+                                                  context.widget);
+    const QBrush brush = BaseStyle::buttonBrushes(&context.option, context.widget).foregroundBrush;
+    Shapes::drawIcon(context, icon, brush, context.option.rect,
+                     context.metric(QStyle::PM_TabCloseIndicatorWidth));
 }
 
-void paintShape(const PaintContext& context, const QStyleOptionTab&)
+void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
 {
-    context.drawByBase(QStyle::CE_TabBarTabShape);
+    const BaseStyle::TabBackgroundState state = context.style.getTabBackgroundState(tab);
+    const bool selected = state == BaseStyle::TabBackground_Selected;
+    const bool highlighted = state == BaseStyle::TabBackground_Highlighted;
+    const QBrush fill = tabBackground(context, state);
+    const QBrush border =
+        highlighted ? context.brush(ThemeNames::tabBorderMouseOverBrush()) : context.borderBrush();
+    const Side side = sideOf(tab.shape);
+    const QRect rect = shapeRect(tab, side, selected);
+
+    if (isTriangular(tab.shape)) {
+        const PainterSaver saver(context.painter);
+        QPainterPath path;
+        path.addPolygon(triangularTab(Shapes::onPixels(rect), side));
+        context.painter.setRenderHint(QPainter::Antialiasing);
+        context.painter.setPen(Shapes::borderPen(border));
+        context.painter.setBrush(fill);
+        context.painter.drawPath(path);
+        return;
+    }
+    Shapes::drawBox(context, rect, Shapes::cornerRadius(radiusName(context.widget)), fill, border,
+                    pageCorners(side));
+    const QLine edge = pageEdge(side, rect);
+    const QPoint inset = side == Side::North || side == Side::South ? QPoint(1, 0) : QPoint(0, 1);
+    const PainterSaver saver(context.painter);
+    Shapes::drawLine(context, edge.p1() + inset, edge.p2() - inset,
+                     selected ? fill : context.borderBrush());
 }
 
-void paintLabel(const PaintContext& context, const QStyleOptionTab&)
+void paintLabel(const PaintContext& context, const QStyleOptionTab& tab)
 {
-    context.drawByBase(QStyle::CE_TabBarTabLabel);
+    const QBrush foreground = tabForeground(context, tab);
+    QStyleOptionTab label = tab;
+    label.palette.setBrush(label.palette.currentColorGroup(), QPalette::WindowText, foreground);
+    label.icon = ButtonContent::commonModifyStyleOptionIcon(tab.icon, foreground);
+    context.style.QCommonStyle::drawControl(QStyle::CE_TabBarTabLabel, &label, &context.painter,
+                                            context.widget);
 }
 
 } // namespace BRELK::Tabs

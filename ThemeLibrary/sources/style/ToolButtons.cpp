@@ -1,8 +1,12 @@
 #include "ButtonContent.h"
 #include "Families.h"
-#include "StyleContext.h"
+#include "PainterSaver.h"
+#include "Shapes.h"
+#include "ThemeNames.h"
 
 // Tool buttons.
+//
+// Properties: "ButtonType", "circular", "no menu arrow".
 
 namespace BRELK::ToolButtons {
 
@@ -23,14 +27,186 @@ QSize toolButtonSize(const MeasureContext& context, const QStyleOptionToolButton
     return {iconOnly ? qMax(width, height) : width, height};
 }
 
-void paintLabel(const PaintContext& context, const QStyleOptionToolButton&)
+namespace {
+
+constexpr int IconSpacing = 4;
+constexpr int FocusInset = 3;
+constexpr QStyle::State PanelStates =
+    QStyle::State_Sunken | QStyle::State_On | QStyle::State_Raised;
+
+bool hasMenuPart(const QStyleOptionToolButton& button)
 {
-    context.drawByBase(QStyle::CE_ToolButtonLabel);
+    return button.features & QStyleOptionToolButton::MenuButtonPopup;
+}
+
+/// The states of the button part and of the menu part: only the one that is pressed is sunken.
+struct PartStates
+{
+    QStyle::State button;
+    QStyle::State menu;
+};
+
+PartStates partStates(const QStyleOptionToolButton& option)
+{
+    QStyle::State state = option.state & ~QStyle::State_Sunken;
+    constexpr QStyle::State Pointed = QStyle::State_MouseOver | QStyle::State_Enabled;
+    if (state & QStyle::State_AutoRaise && (state & Pointed) != Pointed)
+        state &= ~QStyle::State_Raised;
+    PartStates states{state, state};
+    if (option.state & QStyle::State_Sunken) {
+        if (option.activeSubControls & QStyle::SC_ToolButton)
+            states.button |= QStyle::State_Sunken;
+        states.menu |= QStyle::State_Sunken;
+    }
+    return states;
+}
+
+void paintButtonPanel(const PaintContext& context, const QStyleOptionToolButton& button,
+                      const QRect& rect, QStyle::State state, int menuWidth)
+{
+    QStyleOptionToolButton panel = button;
+    panel.rect = rect;
+    panel.state = state;
+    // One circle, or pill, behind both parts.
+    if (context.flag(WidgetProperties::Circular) && hasMenuPart(button))
+        panel.rect.setWidth(rect.width() + menuWidth);
+    context.draw(QStyle::PE_PanelButtonTool, panel);
+}
+
+void paintFocus(const PaintContext& context, const QStyleOptionToolButton& button)
+{
+    auto focus = optionFrom<QStyleOptionFocusRect>(button);
+    focus.rect.adjust(FocusInset, FocusInset, -FocusInset, -FocusInset);
+    if (hasMenuPart(button))
+        focus.rect.adjust(0, 0, -context.metric(QStyle::PM_MenuButtonIndicator), 0);
+    context.draw(QStyle::PE_FrameFocusRect, focus);
+}
+
+void paintMenuPart(const PaintContext& context, const QStyleOptionToolButton& button,
+                   const QRect& area, QStyle::State state)
+{
+    QStyleOptionToolButton menu = button;
+    menu.rect = area.adjusted(-1, 0, 0, 0);
+    menu.state = state;
+    menu.subControls = QStyle::SC_ToolButtonMenu;
+    if (state & PanelStates && !context.flag(WidgetProperties::Circular))
+        context.draw(QStyle::PE_IndicatorButtonDropDown, menu);
+    context.draw(QStyle::PE_IndicatorArrowDown, menu);
+}
+
+void paintMenuMark(const PaintContext& context, const QStyleOptionToolButton& button)
+{
+    const int side = context.metric(QStyle::PM_MenuButtonIndicator);
+    QStyleOptionToolButton mark = button;
+    mark.rect = QRect(button.rect.right() - side,
+                      button.rect.y() + (button.rect.height() - side) / 2, side, side);
+    context.draw(QStyle::PE_IndicatorArrowDown, mark);
+}
+
+QBrush textBrush(const QStyleOptionToolButton& button)
+{
+    return button.palette.brush(QPalette::ButtonText);
+}
+
+void paintIcon(const PaintContext& context, const QStyleOptionToolButton& button, const QRect& rect)
+{
+    if (button.features & QStyleOptionToolButton::Arrow) {
+        context.style.drawToolButtonArrow(&context.proxy(), &button, rect, &context.painter,
+                                          context.widget);
+        return;
+    }
+    const QIcon::State state = BaseStyle::isChecked(button) ? QIcon::On : QIcon::Off;
+    const QSize size = button.icon.actualSize(button.iconSize.boundedTo(rect.size()));
+    context.proxy().drawItemPixmap(
+        &context.painter, rect, Qt::AlignCenter,
+        Shapes::iconPixmap(context.painter, button.icon, size, QIcon::Normal, state));
+}
+
+void paintBeside(const PaintContext& context, const QStyleOptionToolButton& button,
+                 const QRect& rect)
+{
+    const QRect iconRect(rect.x(), rect.y(), button.iconSize.width(), rect.height());
+    const QRect text = rect.adjusted(button.iconSize.width() + IconSpacing, 0, 0, 0);
+    const auto mirrored = [&](const QRect& part) {
+        return QStyle::visualRect(button.direction, rect, part);
+    };
+    paintIcon(context, button, mirrored(iconRect));
+    const auto flags = QStyle::visualAlignment(button.direction, Qt::AlignLeft | Qt::AlignVCenter);
+    Shapes::drawText(context, mirrored(text), int(flags) | Qt::TextShowMnemonic, button.text,
+                     textBrush(button));
+}
+
+void paintUnder(const PaintContext& context, const QStyleOptionToolButton& button,
+                const QRect& rect)
+{
+    const int textHeight = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).height();
+    paintIcon(context, button, rect.adjusted(0, 0, 0, -textHeight));
+    Shapes::drawText(context,
+                     QRect(rect.x(), rect.bottom() + 1 - textHeight, rect.width(), textHeight),
+                     Qt::AlignCenter | Qt::TextShowMnemonic, button.text, textBrush(button));
+}
+
+/// What the menu mark leaves of the label's place.
+QRect contentsRect(const PaintContext& context, const QStyleOptionToolButton& button)
+{
+    const bool hasMark = button.features & QStyleOptionToolButton::HasMenu && !hasMenuPart(button)
+                         && button.toolButtonStyle != Qt::ToolButtonIconOnly
+                         && !context.flag(WidgetProperties::NoMenuArrow);
+    return hasMark ? button.rect.adjusted(0, 0, -context.metric(QStyle::PM_MenuButtonIndicator), 0)
+                   : button.rect;
+}
+
+} // namespace
+
+void paintLabel(const PaintContext& context, const QStyleOptionToolButton& button)
+{
+    const bool hasIcon = !button.icon.isNull() || button.features & QStyleOptionToolButton::Arrow;
+    const QRect rect = contentsRect(context, button);
+    const PainterSaver saver(context.painter);
+    context.painter.setFont(button.font);
+    if (!hasIcon || button.toolButtonStyle == Qt::ToolButtonTextOnly) {
+        // A connector names what it leads to: its text begins at the start.
+        const bool isConnector = context.property(WidgetProperties::ButtonType).toString()
+                                 == ThemeNames::userConnector();
+        const auto flags = QStyle::visualAlignment(button.direction,
+                                                   isConnector ? Qt::AlignLeft : Qt::AlignHCenter);
+        Shapes::drawText(context, rect, int(flags) | Qt::AlignVCenter | Qt::TextShowMnemonic,
+                         button.text, textBrush(button));
+    } else if (button.text.isEmpty() || button.toolButtonStyle == Qt::ToolButtonIconOnly) {
+        paintIcon(context, button, rect);
+    } else if (button.toolButtonStyle == Qt::ToolButtonTextUnderIcon) {
+        paintUnder(context, button, rect);
+    } else {
+        paintBeside(context, button, rect);
+    }
 }
 
 void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& button)
 {
-    context.drawByBase(QStyle::CC_ToolButton, button);
+    const auto part = [&](QStyle::SubControl subControl) {
+        return context.proxy().subControlRect(QStyle::CC_ToolButton, &button, subControl,
+                                              context.widget);
+    };
+    const QRect buttonRect = part(QStyle::SC_ToolButton);
+    const QRect menuArea = part(QStyle::SC_ToolButtonMenu);
+    const PartStates states = partStates(button);
+
+    if (button.subControls & QStyle::SC_ToolButton && states.button & PanelStates)
+        paintButtonPanel(context, button, buttonRect, states.button, menuArea.width());
+    if (context.has(QStyle::State_HasFocus))
+        paintFocus(context, button);
+
+    QStyleOptionToolButton label = button;
+    label.state = states.button;
+    const int frameWidth = context.metric(QStyle::PM_DefaultFrameWidth);
+    label.rect = buttonRect.adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
+    ButtonContent::commonCallButtonText(label, context.widget);
+    context.draw(QStyle::CE_ToolButtonLabel, label);
+
+    if (button.subControls & QStyle::SC_ToolButtonMenu)
+        paintMenuPart(context, button, menuArea, states.menu);
+    else if (button.features & QStyleOptionToolButton::HasMenu)
+        paintMenuMark(context, button);
 }
 
 } // namespace BRELK::ToolButtons
