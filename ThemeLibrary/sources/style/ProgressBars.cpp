@@ -5,7 +5,7 @@
 
 #include <QElapsedTimer>
 #include <QProgressBar>
-#include <QTimerEvent>
+#include <QWindow>
 #include <QtMath>
 
 // Progress bars.
@@ -33,70 +33,77 @@ QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressB
 
 namespace {
 
-constexpr int FramesPerSecond = 30;
-constexpr int BusyPeriod = 1600; ///< milliseconds for the way there and back
 constexpr int DisabledHighlightAlpha = 153;
-constexpr char AnimationName[] = "_varn_busyAnimation";
 
 bool isBusy(int minimum, int maximum)
 {
     return minimum == 0 && maximum == 0;
 }
 
-/// Repaints a busy progress bar for as long as it is one and can be seen, then goes.
-class BusyAnimation : public QObject
+bool isOnScreen(const QWidget& widget)
 {
-public:
-    explicit BusyAnimation(QProgressBar& bar) : QObject(&bar), m_bar(bar)
-    {
-        setObjectName(QLatin1String(AnimationName));
-        startTimer(1000 / FramesPerSecond);
-    }
-
-protected:
-    void timerEvent(QTimerEvent* event) override
-    {
-        if (m_bar.isVisible() && isBusy(m_bar.minimum(), m_bar.maximum())) {
-            m_bar.update();
-        } else {
-            killTimer(event->timerId());
-            delete this;
-        }
-    }
-
-private:
-    QProgressBar& m_bar;
-};
-
-void animate(QObject* object)
-{
-    auto* bar = qobject_cast<QProgressBar*>(object);
-    if (!bar || !bar->isVisible()
-        || bar->findChild<QObject*>(QLatin1String(AnimationName), Qt::FindDirectChildrenOnly))
-        return;
-    new BusyAnimation(*bar); // owned by the bar
+    const QWindow* window = widget.isVisible() ? widget.window()->windowHandle() : nullptr;
+    return window && window->isExposed();
 }
 
 /// Asked of the widget's style, so that a style sheet can set "widget-animation-duration" to 0.
-bool mayMove(const QStyleOptionProgressBar& bar)
+bool mayMove(const QWidget& widget)
 {
-    const auto* widget = qobject_cast<const QWidget*>(bar.styleObject);
-    return !widget
-           || widget->style()->styleHint(QStyle::SH_Widget_Animation_Duration, &bar, widget) > 0;
+    return widget.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &widget) > 0;
 }
 
-/// Where the band of a busy bar stands, from 0 to 1, slowing down at both ends.
-qreal busyPosition(const QStyleOptionProgressBar& bar)
+/// Moves the band of a busy progress bar for as long as it is busy and can be seen, then goes.
+class BusyAnimation : public QObject
 {
-    if (!mayMove(bar))
-        return 0;
-    static const QElapsedTimer sClock = [] {
-        QElapsedTimer clock;
-        clock.start();
-        return clock;
-    }();
-    const qreal turn = qreal(sClock.elapsed() % BusyPeriod) / BusyPeriod;
-    return (1 - qCos(turn * 2 * M_PI)) / 2;
+public:
+    /// The animation of `object`, begun when needed; null when it is not to be animated.
+    static const BusyAnimation* of(QObject* object)
+    {
+        auto* bar = qobject_cast<QProgressBar*>(object);
+        if (!bar || !isOnScreen(*bar) || !mayMove(*bar))
+            return nullptr;
+        const auto* running =
+            bar->findChild<QObject*>(QLatin1String(Name), Qt::FindDirectChildrenOnly);
+        return running ? static_cast<const BusyAnimation*>(running) : new BusyAnimation(*bar);
+    }
+
+    /// Where the band stands, from 0 to 1, slowing down at both ends.
+    qreal position() const
+    {
+        const qreal turn = qreal(m_clock.elapsed() % Period) / Period;
+        return (1 - qCos(turn * 2 * M_PI)) / 2;
+    }
+
+protected:
+    void timerEvent(QTimerEvent*) override
+    {
+        if (isOnScreen(m_bar) && isBusy(m_bar.minimum(), m_bar.maximum()))
+            m_bar.update();
+        else
+            delete this;
+    }
+
+private:
+    static constexpr int FramesPerSecond = 30;
+    static constexpr int Period = 1600; ///< milliseconds for the way there and back
+    static constexpr char Name[] = "_varn_busyAnimation";
+
+    explicit BusyAnimation(QProgressBar& bar) : QObject(&bar), m_bar(bar)
+    {
+        setObjectName(QLatin1String(Name));
+        m_clock.start();
+        startTimer(1000 / FramesPerSecond);
+    }
+
+    QProgressBar& m_bar;
+    QElapsedTimer m_clock;
+};
+
+/// In the middle of its way when it does not move.
+qreal busyPosition(QObject* bar)
+{
+    const BusyAnimation* animation = BusyAnimation::of(bar);
+    return animation ? animation->position() : 0.5;
 }
 
 /// A progress bar as if it grew from left to right: `start` and `end` along its length, and which
@@ -111,7 +118,7 @@ Filling filling(const QStyleOptionProgressBar& bar, qreal length)
 {
     if (isBusy(bar.minimum, bar.maximum)) {
         const qreal band = length / 3;
-        const qreal start = busyPosition(bar) * (length - band);
+        const qreal start = busyPosition(bar.styleObject) * (length - band);
         return {start, start + band};
     }
     const qint64 range = qint64(bar.maximum) - bar.minimum;
@@ -200,8 +207,6 @@ void paintGroove(const PaintContext& context)
 
 void paintContents(const PaintContext& context, const QStyleOptionProgressBar& bar)
 {
-    if (isBusy(bar.minimum, bar.maximum) && mayMove(bar))
-        animate(bar.styleObject);
     const QRectF rect = Shapes::onPixels(bar.rect);
     const QRectF filled = filledRect(bar, rect);
     if (filled.width() < 1 || filled.height() < 1)
