@@ -185,6 +185,8 @@ QBrush itemBrush(const PaintContext& context, const QStyleOptionMenuItem& item)
 void paintPanel(const PaintContext& context)
 {
     constexpr int BorderDarkness = 160;
+    if (context.option.rect.isEmpty())
+        return;
     const PainterSaver saver(context.painter);
     const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
     const QBrush fill = ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush());

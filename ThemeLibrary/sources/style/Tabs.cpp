@@ -305,14 +305,68 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
                      selected ? fill : context.borderBrush());
 }
 
+namespace {
+
+bool isUpright(Side side)
+{
+    return side == Side::West || side == Side::East;
+}
+
+/// Turns the painter so that the label of an upright tab can be drawn lying, from the corner where
+/// the text begins.
+void turn(QPainter& painter, const QRect& rect, Side side)
+{
+    constexpr int RightAngle = 90;
+    const QRect edges = rect.adjusted(0, 0, 1, 1);
+    painter.translate(side == Side::East ? edges.topRight() : edges.bottomLeft());
+    painter.rotate(side == Side::East ? RightAngle : -RightAngle);
+}
+
+/// The icon stands before the text, where the common style left room for it.
+void paintIcon(const PaintContext& context, const QStyleOptionTab& tab, const QBrush& brush)
+{
+    constexpr int Spacing = 4;
+    const QRect text =
+        context.style.QCommonStyle::subElementRect(QStyle::SE_TabBarTabText, &tab, context.widget);
+    const int extent = context.metric(QStyle::PM_TabBarIconSize);
+    const QSize wanted = tab.iconSize.isValid() ? tab.iconSize : QSize(extent, extent);
+    const QSize size = tab.icon.actualSize(wanted).boundedTo(wanted);
+    QRect rect(text.left() - Spacing - size.width(), text.center().y() - size.height() / 2,
+               size.width(), size.height());
+    if (context.rightToLeft() && !isUpright(sideOf(tab.shape)))
+        rect.moveLeft(text.right() + 1 + Spacing);
+    const QIcon::State state = context.has(QStyle::State_Selected) ? QIcon::On : QIcon::Off;
+    const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(tab.icon, brush);
+    context.proxy().drawItemPixmap(
+        &context.painter, rect, Qt::AlignCenter,
+        Shapes::iconPixmap(context.painter, icon, size, QIcon::Normal, state));
+}
+
+void paintFocus(const PaintContext& context, const QStyleOptionTab& tab)
+{
+    const int inset = 2 + context.metric(QStyle::PM_DefaultFrameWidth);
+    auto focus = optionFrom<QStyleOptionFocusRect>(tab);
+    focus.rect.adjust(inset, inset, -inset, -inset);
+    context.draw(QStyle::PE_FrameFocusRect, focus);
+}
+
+} // namespace
+
 void paintLabel(const PaintContext& context, const QStyleOptionTab& tab)
 {
     const QBrush foreground = tabForeground(context, tab);
-    QStyleOptionTab label = tab;
-    label.palette.setBrush(label.palette.currentColorGroup(), QPalette::WindowText, foreground);
-    label.icon = ButtonContent::commonModifyStyleOptionIcon(tab.icon, foreground);
-    context.style.QCommonStyle::drawControl(QStyle::CE_TabBarTabLabel, &label, &context.painter,
-                                            context.widget);
+    const Side side = sideOf(tab.shape);
+    {
+        const PainterSaver saver(context.painter);
+        if (isUpright(side))
+            turn(context.painter, tab.rect, side);
+        if (!tab.icon.isNull())
+            paintIcon(context, tab, foreground);
+        Shapes::drawText(context, context.part(QStyle::SE_TabBarTabText),
+                         Qt::AlignCenter | Qt::TextShowMnemonic, tab.text, foreground);
+    }
+    if (context.has(QStyle::State_HasFocus))
+        paintFocus(context, tab);
 }
 
 } // namespace BRELK::Tabs
