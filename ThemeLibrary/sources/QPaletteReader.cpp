@@ -4,6 +4,8 @@
 
 #include <QMetaEnum>
 
+#include <utility>
+
 namespace BRELK {
 
 namespace {
@@ -58,8 +60,8 @@ void collectGroup(ThemeEntries& entries, const ThemeElement& list, int group, in
 } // namespace
 
 QPaletteReader::QPaletteReader(const QString& path, const QMap<QString, QBrush>& brushes,
-                               const QMap<QString, QColor>& colors, const QPalette& basePalette)
-    : m_palette(basePalette)
+                               const QMap<QString, QColor>& colors, QPalette basePalette)
+    : m_palette(std::move(basePalette))
 {
     const ThemeDocuments documents = readThemeDocuments(path, QStringLiteral("QPalette"));
     m_status = Status(documents.front()->getStatus());

@@ -17,7 +17,7 @@ public:
     /// Names are looked up in `brushes` first, then in `colors`; roles that the file does not map
     /// are `basePalette`'s.
     QPaletteReader(const QString& path, const QMap<QString, QBrush>& brushes,
-                   const QMap<QString, QColor>& colors, const QPalette& basePalette);
+                   const QMap<QString, QColor>& colors, QPalette basePalette);
 
     /// Not `NO_ERROR` only when the file cannot be opened or is not well-formed.
     Status getStatus() const { return m_status; }

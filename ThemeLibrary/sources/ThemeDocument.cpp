@@ -8,13 +8,14 @@
 #include <QXmlStreamReader>
 
 #include <algorithm>
-#include <tuple>
+#include <memory>
 #include <utility>
 
 namespace BRELK {
 
 namespace {
 
+constexpr QLatin1String Extends("extends");
 constexpr int MaxDepth = 64;
 constexpr int MaxDocuments = 8;
 constexpr int MaxReports = 200;
@@ -71,24 +72,33 @@ bool isPlainDoctype(const QXmlStreamReader& reader)
            && !reader.text().contains(u'[');
 }
 
-/// Reads on to the end of the content, or to what must not be given to the document parser.
+/// Why the token that `reader` is at must not be given to the document parser; empty when it may.
+QString problemOfToken(const QXmlStreamReader& reader, int& depth, ThemeFileBudget& budget)
+{
+    switch (reader.tokenType()) {
+    case QXmlStreamReader::StartElement:
+        if (++depth > MaxDepth)
+            return QStringLiteral("elements are nested too deeply");
+        return --budget.elements < 0 ? QStringLiteral("there are too many elements") : QString();
+    case QXmlStreamReader::EndElement: --depth; return {};
+    case QXmlStreamReader::DTD:
+        return isPlainDoctype(reader)
+                   ? QString()
+                   : QStringLiteral("document type definitions are not supported");
+    default: return {};
+    }
+}
+
+/// Reads on to the end of the content, or to the first problem, which is returned.
 QString scan(QXmlStreamReader& reader, ThemeFileBudget& budget)
 {
     int depth = 0;
-    while (!reader.atEnd()) {
-        const QXmlStreamReader::TokenType token = reader.readNext();
-        if (token == QXmlStreamReader::StartElement) {
-            if (++depth > MaxDepth)
-                return QStringLiteral("elements are nested too deeply");
-            if (--budget.elements < 0)
-                return QStringLiteral("there are too many elements");
-        } else if (token == QXmlStreamReader::EndElement) {
-            --depth;
-        } else if (token == QXmlStreamReader::DTD && !isPlainDoctype(reader)) {
-            return QStringLiteral("document type definitions are not supported");
-        }
+    QString problem;
+    while (!reader.atEnd() && problem.isEmpty()) {
+        reader.readNext();
+        problem = problemOfToken(reader, depth, budget);
     }
-    return {};
+    return problem;
 }
 
 /// Why `base` cannot be the theme that a file extends; empty when it can.
@@ -106,8 +116,10 @@ QString problemOfBase(const QString& base, const QStringList& themes)
     return {};
 }
 
-bool hasRoot(const ThemeDocument& document, const QString& rootTag)
+bool isUsable(const ThemeDocument& document, const QString& rootTag)
 {
+    if (document.getStatus() != ThemeDocument::NO_ERROR)
+        return false;
     const ThemeElement root = document.getRoot();
     if (root.getTag() == rootTag)
         return true;
@@ -115,6 +127,27 @@ bool hasRoot(const ThemeDocument& document, const QString& rootTag)
                     + QStringLiteral(", not ") + quoted(rootTag),
                 QStringLiteral("the file is not used"));
     return false;
+}
+
+/// The file `name` of the theme that `root` extends; null, and reported, when it cannot be used.
+std::unique_ptr<ThemeDocument> readBase(const ThemeElement& root, const QDir& repository,
+                                        const QString& name, const QStringList& themes,
+                                        ThemeFileBudget& budget)
+{
+    const QString base = root.getAttribute(Extends);
+    QString problem = problemOfBase(base, themes);
+    std::unique_ptr<ThemeDocument> document;
+    if (problem.isEmpty()) {
+        document = std::make_unique<ThemeDocument>(
+            repository.filePath(base + QLatin1Char('/') + name), budget);
+        document->reportFailure();
+        if (isUsable(*document, root.getTag()))
+            return document;
+        problem = QLatin1String("extends ") + quoted(base)
+                  + QLatin1String(", which has no readable ") + name;
+    }
+    root.report(problem, QStringLiteral("read without it"));
+    return nullptr;
 }
 
 } // namespace
@@ -285,38 +318,23 @@ void ThemeDocument::report(int line, const QString& what, const QString& done) c
 
 ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag)
 {
-    ThemeFileBudget budget;
-    const auto read = [&budget, &rootTag](const QString& filePath) {
-        auto document = std::make_unique<ThemeDocument>(filePath, budget);
-        document->reportFailure();
-        const bool isUsable =
-            document->getStatus() == ThemeDocument::NO_ERROR && hasRoot(*document, rootTag);
-        return std::make_pair(std::move(document), isUsable);
-    };
     const QFileInfo file(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
-    const QString repository = QFileInfo(file.absolutePath()).absolutePath();
-    const QString extends = QStringLiteral("extends");
+    const QDir repository(QFileInfo(file.absolutePath()).absolutePath());
     QStringList themes{file.absoluteDir().dirName()};
+    ThemeFileBudget budget;
     ThemeDocuments documents;
-    auto [document, isUsable] = read(path);
-    documents.push_back(std::move(document));
-    while (isUsable && documents.back()->getRoot().hasAttribute(extends)) {
-        const ThemeElement root = documents.back()->getRoot();
-        const QString base = root.getAttribute(extends);
-        QString problem = problemOfBase(base, themes);
-        isUsable = problem.isEmpty();
-        if (isUsable) {
-            std::tie(document, isUsable) =
-                read(repository + QLatin1Char('/') + base + QLatin1Char('/') + file.fileName());
-            problem = QStringLiteral("extends ") + quoted(base)
-                      + QStringLiteral(", which has no readable ") + file.fileName();
-        }
-        if (isUsable) {
-            themes += base;
-            documents.push_back(std::move(document));
-        } else {
-            root.report(problem, QStringLiteral("read without it"));
-        }
+    documents.push_back(std::make_unique<ThemeDocument>(path, budget));
+    documents.front()->reportFailure();
+    if (!isUsable(*documents.front(), rootTag))
+        return documents;
+
+    for (ThemeElement root = documents.front()->getRoot(); root.hasAttribute(Extends);
+         root = documents.back()->getRoot()) {
+        auto base = readBase(root, repository, file.fileName(), themes, budget);
+        if (!base)
+            break;
+        documents.push_back(std::move(base));
+        themes += root.getAttribute(Extends);
     }
     return documents;
 }
