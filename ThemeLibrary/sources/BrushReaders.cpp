@@ -17,7 +17,7 @@ QColor literalColor(const QString& text)
     const bool isCode = text.startsWith(u'#');
     if (isCode && text.size() != 4 && text.size() != 7 && text.size() != 9)
         return {};
-    return QColor(text);
+    return {text};
 }
 
 QPointF readPoint(const ThemeElement& element, const QString& attribute, const QPointF& missing,

@@ -27,16 +27,16 @@ constexpr double DefaultRubberBandOpacity = 0.25;
 
 struct Size
 {
+    double defaultFontScale;
     const char* tag;
     ThemeFont::ThemeFontId font;
-    double defaultFontScale;
     int defaultRadius;
 };
 
-constexpr Size Sizes[] = {{"SmallSize", ThemeFont::SMALL_FONT, 0.9, 2},
-                          {"BaseSize", ThemeFont::BASE_FONT, 1.0, 4},
-                          {"MediumSize", ThemeFont::MEDIUM_FONT, 1.2, 6},
-                          {"LargeSize", ThemeFont::LARGE_FONT, 1.5, 8}};
+constexpr Size Sizes[] = {{0.9, "SmallSize", ThemeFont::SMALL_FONT, 2},
+                          {1.0, "BaseSize", ThemeFont::BASE_FONT, 4},
+                          {1.2, "MediumSize", ThemeFont::MEDIUM_FONT, 6},
+                          {1.5, "LargeSize", ThemeFont::LARGE_FONT, 8}};
 
 bool isSize(const QString& tag)
 {

@@ -15,13 +15,17 @@ namespace BRELK {
 
 namespace {
 
-constexpr QLatin1String Extends("extends");
 constexpr int MaxDepth = 64;
 constexpr int MaxDocuments = 8;
 constexpr int MaxReports = 200;
 constexpr int MaxQuotedLength = 60;
 /// Parsers compare each attribute of a tag with all others of it.
 constexpr int MaxAttributes = 100;
+
+QString extendsAttribute()
+{
+    return QStringLiteral("extends");
+}
 
 QString leftOut()
 {
@@ -134,7 +138,7 @@ std::unique_ptr<ThemeDocument> readBase(const ThemeElement& root, const QDir& re
                                         const QString& name, const QStringList& themes,
                                         ThemeFileBudget& budget)
 {
-    const QString base = root.getAttribute(Extends);
+    const QString base = root.getAttribute(extendsAttribute());
     QString problem = problemOfBase(base, themes);
     std::unique_ptr<ThemeDocument> document;
     if (problem.isEmpty()) {
@@ -328,13 +332,13 @@ ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag)
     if (!isUsable(*documents.front(), rootTag))
         return documents;
 
-    for (ThemeElement root = documents.front()->getRoot(); root.hasAttribute(Extends);
+    for (ThemeElement root = documents.front()->getRoot(); root.hasAttribute(extendsAttribute());
          root = documents.back()->getRoot()) {
         auto base = readBase(root, repository, file.fileName(), themes, budget);
         if (!base)
             break;
         documents.push_back(std::move(base));
-        themes += root.getAttribute(Extends);
+        themes += root.getAttribute(extendsAttribute());
     }
     return documents;
 }
