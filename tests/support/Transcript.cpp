@@ -8,6 +8,7 @@
 #include <QImage>
 #include <QPaintEngine>
 #include <QPixmap>
+#include <QScreen>
 #include <QStyleOption>
 #include <QtTest>
 
@@ -270,7 +271,7 @@ private:
 
     void add(Shape shape)
     {
-        shape.transform = painter()->transform();
+        shape.transform = painter()->deviceTransform();
         if (painter()->hasClipping())
             shape.clip = painter()->clipBoundingRect();
         shape.antialiased = shape.kind != Shape::Text && shape.kind != Shape::Pixmap
@@ -297,20 +298,20 @@ QPaintEngine* Transcript::paintEngine() const
 int Transcript::metric(PaintDeviceMetric metric) const
 {
     constexpr int Side = 4096;
-    constexpr int Dpi = 96;
+    const int dpi = qRound(QGuiApplication::primaryScreen()->logicalDotsPerInch());
     switch (metric) {
     case PdmWidth:
     case PdmHeight: return Side;
     case PdmDpiX:
     case PdmDpiY:
     case PdmPhysicalDpiX:
-    case PdmPhysicalDpiY: return Dpi;
+    case PdmPhysicalDpiY: return dpi;
     case PdmDepth: return 32;
     case PdmDevicePixelRatio: return 1;
     case PdmDevicePixelRatioScaled: return int(devicePixelRatioFScale());
     case PdmNumColors: return 0;
     case PdmWidthMM:
-    case PdmHeightMM: return qRound(Side * 25.4 / Dpi);
+    case PdmHeightMM: return qRound(Side * 25.4 / dpi);
     default: return 0;
     }
 }
