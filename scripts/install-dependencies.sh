@@ -1,5 +1,6 @@
 #!/bin/sh
-# Installs what building, running and testing need on a Debian machine; does nothing when all of it is there.
+# Installs what building, running and testing need on a Debian machine, and the packages given as arguments; does nothing
+# when all of it is there.
 set -eu
 
 packages="
@@ -7,6 +8,7 @@ packages="
     qtbase5-dev libqt5svg5
     fonts-dejavu-core fontconfig
     python3 clang-format
+    $*
 "
 
 missing=

@@ -1,36 +1,161 @@
 #include "Helpers.h"
+#include "ShapeTile.h"
 
+#include <QCache>
+#include <QPaintEngine>
 #include <QPainter>
-#include <QPainterPath>
+
+#include <cmath>
 
 namespace BRELK {
+
+namespace {
+
+constexpr int TileCacheBytes = 4 << 20;
+
+/// Larger tiles and those of wider pens are cheaper drawn than kept.
+constexpr int LargestTile = 1 << 16;
+
+/// Up to this many pixels copying the whole shape is quicker than stretching a smaller tile.
+constexpr qreal LargestWholeShape = 1 << 12;
+constexpr qreal WidestPen = 16;
+
+/// Qt's rasterizer and ours compute positions in whole numbers that overflow not far beyond.
+constexpr qreal FarthestPixel = 1 << 15;
+
+bool isVisible(const QPen& pen)
+{
+    return pen.style() != Qt::NoPen && pen.brush().style() != Qt::NoBrush;
+}
+
+bool isGradientOfShape(const QBrush& brush)
+{
+    return brush.gradient()
+           && (brush.gradient()->coordinateMode() == QGradient::ObjectBoundingMode
+               || brush.gradient()->coordinateMode() == QGradient::ObjectMode);
+}
+
+/// Whether the shape's picture depends on nothing but what a tile's key holds.
+bool isTileable(const QPainter& painter, const QTransform& transform)
+{
+    const QPaintEngine* engine = painter.paintEngine();
+    if (engine->type() != QPaintEngine::Raster || transform.type() > QTransform::TxScale
+        || transform.m11() <= 0 || transform.m22() <= 0 || painter.opacity() < 1
+        || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
+        return false;
+    const QPen& pen = painter.pen();
+    if (isVisible(pen)
+        && (pen.style() != Qt::SolidLine || pen.brush().style() != Qt::SolidPattern
+            || pen.widthF() > WidestPen))
+        return false;
+    const QBrush& brush = painter.brush();
+    return brush.style() <= Qt::SolidPattern
+           || (isGradientOfShape(brush) && painter.brushOrigin().isNull());
+}
+
+bool isAlmostWhole(qreal number)
+{
+    constexpr qreal Tolerance = 1e-6;
+    return std::abs(number - std::round(number)) < Tolerance;
+}
+
+/// Makes the painter's coordinates device pixels.
+class DeviceCoordinates
+{
+public:
+    DeviceCoordinates(QPainter* painter, const QTransform& deviceTransform)
+        : m_painter(painter)
+        , m_world(painter->worldTransform())
+        , m_enabled(painter->worldMatrixEnabled())
+    {
+        const QTransform beneath =
+            m_enabled ? m_world.inverted() * deviceTransform : deviceTransform;
+        m_painter->setWorldTransform(beneath.inverted());
+    }
+
+    ~DeviceCoordinates()
+    {
+        m_painter->setWorldTransform(m_world);
+        m_painter->setWorldMatrixEnabled(m_enabled);
+    }
+
+    Q_DISABLE_COPY_MOVE(DeviceCoordinates)
+
+private:
+    QPainter* m_painter;
+    QTransform m_world;
+    bool m_enabled;
+};
+
+const ShapeTile& tileFor(const TileKey& key, const TileAxis& horizontal, const TileAxis& vertical)
+{
+    static QCache<TileKey, ShapeTile> sTiles(TileCacheBytes);
+    if (const ShapeTile* known = sTiles.object(key))
+        return *known;
+    auto* tile = new ShapeTile(key, horizontal, vertical);
+    sTiles.insert(key, tile, tile->byteCount());
+    return *tile;
+}
+
+/// Draws the shape from a tile; false if it has to be drawn as a path.
+bool drawFromTile(const RoundedShape& shape, QPainter* painter)
+{
+    const QTransform transform = painter->deviceTransform();
+    if (!isTileable(*painter, transform))
+        return false;
+    const QRectF rect = transform.mapRect(shape.rect);
+    const bool stretchable = painter->brush().style() <= Qt::SolidPattern
+                             && rect.width() * rect.height() > LargestWholeShape;
+    if (rect.left() < -FarthestPixel || rect.top() < -FarthestPixel || rect.right() > FarthestPixel
+        || rect.bottom() > FarthestPixel)
+        return false;
+
+    static const QPen sNoPen(Qt::NoPen);
+    const QPen& pen = isVisible(painter->pen()) ? painter->pen() : sNoPen;
+    const QSizeF reach = penReach(pen, transform.m11(), transform.m22());
+    TileAxis horizontal(rect.left(), rect.right(), reach.width() * transform.m11(),
+                        shape.radius * transform.m11(), stretchable);
+    TileAxis vertical(rect.top(), rect.bottom(), reach.height() * transform.m22(),
+                      shape.radius * transform.m22(), stretchable);
+    if (qint64(horizontal.size) * vertical.size > LargestTile)
+        return false;
+    const ShapeTile& tile = tileFor({pen, painter->brush(), shape.radius, transform.m11(),
+                                     transform.m22(), horizontal.edge, vertical.edge,
+                                     horizontal.length, vertical.length, shape.straightCorners},
+                                    horizontal, vertical);
+    if (transform.type() <= QTransform::TxTranslate && isAlmostWhole(transform.dx())
+        && isAlmostWhole(transform.dy())) {
+        horizontal.first -= qRound(transform.dx());
+        vertical.first -= qRound(transform.dy());
+        tile.draw(painter, horizontal, vertical);
+    } else {
+        const DeviceCoordinates deviceCoordinates(painter, transform);
+        tile.draw(painter, horizontal, vertical);
+    }
+    return true;
+}
+
+} // namespace
 
 void Helpers::drawRoundedRectShape(const QRectF& rect, int radius,
                                    StraightCornerFlags straightCorners, QPainter* painter)
 {
-    if (!painter || rect.width() <= 0 || rect.height() <= 0)
+    const bool drawable = rect.width() > 0 && rect.height() > 0 && std::isfinite(rect.x())
+                          && std::isfinite(rect.y()) && std::isfinite(rect.right())
+                          && std::isfinite(rect.bottom());
+    if (!drawable || !painter || !painter->isActive())
         return;
-    const qreal diameter = 2 * qBound(0.0, qreal(radius), qMin(rect.width(), rect.height()) / 2);
-    const auto diameterAt = [&](StraightCornerFlag corner) {
-        return straightCorners & corner ? 0.0 : diameter;
-    };
-    const qreal topLeft = diameterAt(TopLeftCorner);
-    const qreal topRight = diameterAt(TopRightCorner);
-    const qreal bottomRight = diameterAt(BottomRightCorner);
-    const qreal bottomLeft = diameterAt(BottomLeftCorner);
-
-    QPainterPath path;
-    path.arcMoveTo(rect.left(), rect.top(), topLeft, topLeft, 180);
-    path.arcTo(rect.left(), rect.top(), topLeft, topLeft, 180, -90);
-    path.arcTo(rect.right() - topRight, rect.top(), topRight, topRight, 90, -90);
-    path.arcTo(rect.right() - bottomRight, rect.bottom() - bottomRight, bottomRight, bottomRight, 0,
-               -90);
-    path.arcTo(rect.left(), rect.bottom() - bottomLeft, bottomLeft, bottomLeft, 270, -90);
-    path.closeSubpath();
-    painter->save();
+    const qreal largestRadius = std::min(rect.width(), rect.height()) / 2;
+    RoundedShape shape{rect, qBound(0.0, qreal(radius), largestRadius),
+                       straightCorners & AllCorners};
+    if (radius <= 0)
+        shape.straightCorners = AllCorners;
+    if (drawFromTile(shape, painter))
+        return;
+    const bool antialiased = painter->testRenderHint(QPainter::Antialiasing);
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->drawPath(path);
-    painter->restore();
+    painter->drawPath(shape.path());
+    painter->setRenderHint(QPainter::Antialiasing, antialiased);
 }
 
 } // namespace BRELK

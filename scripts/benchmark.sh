@@ -1,0 +1,12 @@
+#!/bin/sh
+# Installs what is missing, builds, and runs all benchmarks. Arguments go to each of them, as in
+# --benchmark_filter=drawShape. Times are of this machine and this moment: compare within one run.
+set -eu
+cd "$(dirname "$0")/.."
+
+./scripts/install-dependencies.sh libbenchmark-dev >&2
+cmake --preset release -DVARN_BUILD_BENCHMARKS=ON >&2
+cmake --build --preset release --parallel --target varn_benchmarks >&2
+for program in build/release/bin/bench_*; do
+    QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" "$program" "$@"
+done
