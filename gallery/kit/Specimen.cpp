@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractSlider>
 #include <QApplication>
+#include <QBasicTimer>
 #include <QCoreApplication>
 #include <QHoverEvent>
 #include <QMouseEvent>
@@ -74,9 +75,16 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
-            QMetaObject::invokeMethod(
-                this, [this] { point(); }, Qt::QueuedConnection);
+            m_layoutSettled.start(0, this);
         return QObject::eventFilter(watched, event);
+    }
+
+protected:
+    void timerEvent(QTimerEvent* event) override
+    {
+        Q_UNUSED(event)
+        m_layoutSettled.stop();
+        point();
     }
 
 private:
@@ -100,6 +108,7 @@ private:
     State m_state;
     Place m_place;
     bool m_pressed = false;
+    QBasicTimer m_layoutSettled;
 };
 
 QPoint handleCenter(const QSlider& slider)
@@ -112,7 +121,8 @@ QPoint handleCenter(const QSlider& slider)
     option.sliderPosition = slider.sliderPosition();
     option.sliderValue = slider.value();
     option.subControls = QStyle::SC_All;
-    option.upsideDown = (slider.orientation() == Qt::Vertical) != slider.invertedAppearance();
+    const bool startsAtFarEnd = slider.orientation() == Qt::Vertical || slider.isRightToLeft();
+    option.upsideDown = slider.invertedAppearance() != startsAtFarEnd;
     return slider.style()
         ->subControlRect(QStyle::CC_Slider, &option, QStyle::SC_SliderHandle, &slider)
         .center();

@@ -32,12 +32,15 @@ Dialog* embedded(Dialog* dialog)
     dialog->setSizeGripEnabled(false);
     QObject::connect(dialog, &QDialog::finished, dialog, &QWidget::show, Qt::QueuedConnection);
     // A dialog tells its first field that it has the focus, whether it is so or not.
-    QTimer::singleShot(0, dialog, [dialog] {
+    auto* shown = new QTimer(dialog);
+    shown->setSingleShot(true);
+    QObject::connect(shown, &QTimer::timeout, dialog, [dialog] {
         QWidget* field = dialog->focusWidget();
         QFocusEvent lost(QEvent::FocusOut);
         if (field && !field->hasFocus())
             QCoreApplication::sendEvent(field, &lost);
     });
+    shown->start(0);
     return dialog;
 }
 
