@@ -90,15 +90,14 @@ QColumnView* makeColumns()
     return columns;
 }
 
-/// `view` with its selection focused and its third row hovered.
+/// `view` with its selection focused and the row below hovered.
 template <class View>
 View* focusedAndHovered(View* view)
 {
     force(*view, State::Focused);
     forceAt(*view->viewport(), State::Hovered, [view] {
-        constexpr int Inset = Unit;
         const QRect current = view->visualRect(view->currentIndex());
-        return current.center() + QPoint(0, 2 * current.height() - Inset);
+        return current.center() + QPoint(0, current.height());
     });
     return view;
 }
@@ -117,7 +116,7 @@ void fillViews(Page& page)
     const auto add = [&page](const QString& title, QWidget* enabled, QWidget* focused,
                              QWidget* disabled) {
         Section& section = page.addSection(title);
-        section.add(captioned(QStringLiteral("Focused, third row hovered"), focused), true);
+        section.add(captioned(QStringLiteral("Focused, the row below hovered"), focused), true);
         section.add(pair(enabled, disabled), true);
     };
     add(QStringLiteral("Lists"), makeList(), focusedAndHovered(makeList()), makeList());
