@@ -115,7 +115,6 @@ private Q_SLOTS:
         QVERIFY(installedStyle());
         const QPalette palette = QApplication::palette();
         QCOMPARE(palette, installedStyle()->getPalette());
-        QCOMPARE(QToolTip::palette().color(QPalette::Window), QColor(0x102030));
         QCOMPARE(palette.color(QPalette::Inactive, QPalette::Window), QColor(0x102030));
         // A text is halved by its factor of 200, a dark background doubled by that of backgrounds.
         QCOMPARE(palette.color(QPalette::Disabled, QPalette::WindowText).lightness(), 127);
@@ -124,6 +123,16 @@ private Q_SLOTS:
         QVERIFY(qApp->styleSheet().contains(QLatin1String("#203040")));
         QVERIFY(!qApp->styleSheet().contains(QLatin1Char('@')));
         QCOMPARE(QApplication::font().pointSizeF(), 13.0);
+    }
+
+    void tipsAreTheThemesWhereTheApplicationHasColorsOfItsOwn()
+    {
+        QApplication::setPalette(QPalette(Qt::green));
+        BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
+        QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(Qt::green));
+        QCOMPARE(QToolTip::palette().color(QPalette::Window), QColor(0x102030));
+        QApplication::setPalette({});
+        QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(0x102030));
     }
 
     void registersPathsOfTheThemeBeforeTheLibrarys()
