@@ -11,6 +11,7 @@
 #include <QGridLayout>
 #include <QListWidget>
 #include <QProcess>
+#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 #include <QStackedWidget>
@@ -62,7 +63,7 @@ GalleryWindow::GalleryWindow(const Settings& settings)
     layout->addWidget(m_pages, 2, 2);
     layout->setColumnStretch(2, 1);
     layout->setRowStretch(2, 1);
-    resize(UsualSize);
+    resize(UsualSize.boundedTo(screen()->availableSize()));
     m_navigation->setCurrentRow(qMax(0, pageNames().indexOf(settings.page)));
     m_navigation->setFocus();
 }
