@@ -281,6 +281,22 @@ private Q_SLOTS:
         QVERIFY(!m_style->hasSeenAlt(link));
     }
 
+    void aWindowThatIsGoneHasNotSeenAlt()
+    {
+        alignas(QWidget) char place[sizeof(QWidget)];
+        auto* first = new (place) QWidget;
+        QCommandLinkButton link(first);
+        link.ensurePolished();
+        sendAlt(link, QEvent::KeyPress);
+        sendAlt(link, QEvent::KeyRelease);
+        QVERIFY(m_style->hasSeenAlt(first));
+        link.setParent(nullptr);
+        first->~QWidget();
+        auto* second = new (place) QWidget;
+        QVERIFY(!m_style->hasSeenAlt(second));
+        second->~QWidget();
+    }
+
     void noEventIsConsumed()
     {
         QCommandLinkButton button;
@@ -317,6 +333,8 @@ private Q_SLOTS:
         QCOMPARE(clicked.size(), 1);
         QTest::mouseClick(iconButton(*lineEdit), Qt::LeftButton);
         QCOMPARE(lineEdit->text(), QString());
+        QTest::qWait(
+            300); // Qt fades the button out, and leaks what does so if it is not let finish
     }
 };
 

@@ -125,6 +125,10 @@ bool BaseStyle::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Paint: colorIconBeforePaint(*widget); break;
     case QEvent::KeyPress:
         if (isAlt(*event)) {
+            // A window that is deleted unclosed must not speak for the next one at its address.
+            if (const QWidget* window = widget->window(); !m_seenAlt.contains(window))
+                connect(window, &QObject::destroyed, this,
+                        [this, window] { m_seenAlt.removeAll(window); });
             m_seenAlt.append(widget->window());
             m_alt_down = true;
             updateMnemonics(*widget->window());
