@@ -47,6 +47,11 @@ private Q_SLOTS:
             QTest::newRow(name) << int(corners) << radius << QByteArray(text);
         };
         row("all round", Helpers::None, 4, "rounded 0.5,0.5 99x19 r4 brush #ff0000 smooth");
+        row("left square", Helpers::LeftCorners, 4,
+            "rounded 0.5,0.5 99x19 r4 square top-left,bottom-left brush #ff0000 smooth");
+        row("one round", Helpers::TopCorners | Helpers::BottomLeftCorner, 3,
+            "rounded 0.5,0.5 99x19 r3 square top-left,top-right,bottom-left brush #ff0000 smooth");
+        row("all square", Helpers::AllCorners, 4, "rect 0.5,0.5 99x19 brush #ff0000 smooth");
         row("pill", Helpers::None, 40, "rounded 0.5,0.5 99x19 r9.5 brush #ff0000 smooth");
     }
 
