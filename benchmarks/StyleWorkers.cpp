@@ -68,13 +68,14 @@ std::unique_ptr<QApplication> createApplication(Look look, const std::string& th
     static int sCount = 1;
     static char sName[] = "bench_Style";
     static char* sArguments[] = {sName, nullptr};
-    if (look == Look::Fusion) {
-        auto application = std::make_unique<QApplication>(sCount, sArguments);
-        QApplication::setStyle(QStringLiteral("fusion"));
-        return application;
-    }
+    // Without the style, palette and sheets the theme still brings its font and its icons: texts
+    // cost the same in all looks.
+    if (look == Look::Fusion)
+        qputenv("BRELK_USE_NATIVE_STYLE", "1");
     auto application = std::make_unique<BRELK::ThemeQApplication>(
         sCount, sArguments, QString::fromStdString(theme), QString::fromStdString(repository));
+    if (look == Look::Fusion)
+        QApplication::setStyle(QStringLiteral("fusion"));
     if (look == Look::Style)
         application->setStyleSheet(QString());
     return application;

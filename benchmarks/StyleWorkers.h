@@ -11,7 +11,7 @@
 namespace StyleBenchmark {
 
 enum class Look {
-    Fusion, ///< Qt's own style in its own palette
+    Fusion, ///< Qt's own style in its own palette, with the theme's font and icons
     Style, ///< the theme's style without the theme's style sheets
     WholeTheme, ///< the theme as it is applied to applications
 };

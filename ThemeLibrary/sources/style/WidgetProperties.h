@@ -112,11 +112,11 @@ constexpr char Tracking[] = "tracking";
 constexpr char WorkflowLinkBrush[] = "WorkflowLinkBrush";
 constexpr char WorkflowLinkBrushDisabled[] = "WorkflowLinkBrushDisabled";
 
-/// An absent property, or none to ask, reads as an invalid variant.
-inline QVariant value(const QObject* object, const char* property)
-{
-    return object ? object->property(property) : QVariant();
-}
+/// The value of one of the properties above: invalid when `object` is null or lacks it.
+///
+/// Much quicker than QObject::property(), which compares the name with dozens of declared ones to
+/// find nothing most of the time: a class is asked once per name.
+QVariant value(const QObject* object, const char* property);
 
 /// False when absent.
 inline bool flag(const QObject* object, const char* property)
