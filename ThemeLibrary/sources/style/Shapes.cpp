@@ -1,27 +1,13 @@
 #include "Shapes.h"
 
 #include "PainterSaver.h"
+#include "Texts.h"
 #include "ThemeColorHelper.h"
 #include "ThemeResources.h"
 
 #include <QGuiApplication>
 
 namespace BRELK::Shapes {
-
-namespace {
-
-QString elided(const QFontMetrics& metrics, const QString& text, Qt::TextElideMode mode, int width,
-               int flags)
-{
-    if (!text.contains(QLatin1Char('\n')))
-        return metrics.elidedText(text, mode, width, flags);
-    QStringList lines = text.split(QLatin1Char('\n'));
-    for (QString& line : lines)
-        line = metrics.elidedText(line, mode, width, flags);
-    return lines.join(QLatin1Char('\n'));
-}
-
-} // namespace
 
 QRectF onPixels(const QRect& rect)
 {
@@ -88,7 +74,7 @@ void drawText(const PaintContext& context, const QRect& rect, int flags, const Q
 {
     if (text.isEmpty() || rect.isEmpty())
         return;
-    const QString shown = elided(context.painter.fontMetrics(), text, elide, rect.width(), flags);
+    const QString shown = Texts::fitted(context.painter, text, elide, rect.width(), flags);
     const QPen pen = context.painter.pen();
     context.painter.setPen(QPen(brush, 1));
     context.proxy().drawItemText(&context.painter, rect, flags, context.option.palette,
@@ -109,7 +95,7 @@ void BaseStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
     const QPen pen = painter->pen();
     if (role != QPalette::NoRole)
         painter->setPen(QPen(palette.brush(role), pen.widthF()));
-    painter->drawText(rect, flags, text);
+    Texts::draw(*painter, rect, flags, text);
     painter->setPen(pen);
 }
 

@@ -1,0 +1,180 @@
+#include "Texts.h"
+
+#include "PainterSaver.h"
+
+#include <QCache>
+#include <QGuiApplication>
+#include <QPaintEngine>
+#include <QPainter>
+#include <QStyle>
+#include <QTextLayout>
+
+namespace BRELK::Texts {
+
+namespace {
+
+constexpr int KeptLines = 1024;
+constexpr int LongestLine = 128;
+/// Flags that only say where a line goes, or that change nothing in one that is alone.
+constexpr int SimpleFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine
+                            | Qt::TextShowMnemonic | Qt::TextDontClip;
+
+struct LineKey
+{
+    QString text;
+    QFont font;
+    int resolution;
+    bool mnemonics; ///< "&" underlines what follows
+    Qt::LayoutDirection direction;
+
+    friend bool operator==(const LineKey& a, const LineKey& b)
+    {
+        return a.text == b.text && a.font == b.font && a.resolution == b.resolution
+               && a.mnemonics == b.mnemonics && a.direction == b.direction;
+    }
+
+    friend uint qHash(const LineKey& key, uint seed) { return ::qHash(key.text, seed); }
+};
+
+struct Line
+{
+    QTextLayout layout;
+    QSizeF size;
+};
+
+/// Takes the marks of mnemonics out of `text` and returns what is underlined for them.
+QVector<QTextLayout::FormatRange> takeMnemonics(QString& text)
+{
+    constexpr QLatin1Char Mark('&');
+    QTextCharFormat underlined;
+    underlined.setFontUnderline(true);
+    QVector<QTextLayout::FormatRange> formats;
+    for (int i = text.indexOf(Mark); i >= 0; i = text.indexOf(Mark, i + 1)) {
+        text.remove(i, 1);
+        if (i < text.size() && text.at(i) != Mark)
+            formats.append({i, 1, underlined});
+    }
+    return formats;
+}
+
+Line* layOut(const LineKey& key)
+{
+    constexpr qreal NoEnd = 0x01000000;
+    auto* line = new Line;
+    QString text = key.text;
+    if (key.mnemonics)
+        line->layout.setFormats(takeMnemonics(text));
+    line->layout.setText(text);
+    line->layout.setFont(key.font);
+    line->layout.setCacheEnabled(true);
+    QTextOption option(Qt::AlignLeft);
+    option.setTextDirection(key.direction);
+    line->layout.setTextOption(option);
+    line->layout.beginLayout();
+    QTextLine only = line->layout.createLine();
+    only.setLineWidth(NoEnd);
+    line->layout.endLayout();
+    line->size = {only.horizontalAdvance(), only.ascent() + only.descent()};
+    return line;
+}
+
+using Lines = QCache<LineKey, Line>;
+
+Lines& keptLines()
+{
+    static Lines sLines(KeptLines);
+    return sLines;
+}
+
+void forgetLines()
+{
+    keptLines().clear();
+}
+
+/// Lines must not outlive the fonts that the application loads or ends with.
+bool forgetLinesInTime()
+{
+    qAddPostRoutine(forgetLines);
+    QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, forgetLines);
+    return true;
+}
+
+bool isSimple(const QPainter& painter, int flags, const QString& text)
+{
+    if ((flags & ~SimpleFlags) || flags & Qt::AlignJustify || text.isEmpty()
+        || text.size() > LongestLine || !painter.paintEngine()
+        || painter.paintEngine()->type() != QPaintEngine::Raster)
+        return false;
+    for (const QChar character : text) {
+        if (character < QLatin1Char(' ') || character == QChar(0x9c)
+            || character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
+            return false;
+    }
+    return true;
+}
+
+const Line& lineOf(const QPainter& painter, int flags, const QString& text)
+{
+    static const bool sForgotten = forgetLinesInTime();
+    Q_UNUSED(sForgotten)
+    const LineKey key{text, painter.font(), painter.device()->logicalDpiY(),
+                      bool(flags & Qt::TextShowMnemonic), painter.layoutDirection()};
+    Line* line = keptLines().object(key);
+    if (!line) {
+        line = layOut(key);
+        keptLines().insert(key, line);
+    }
+    return *line;
+}
+
+/// Where a box of `size` goes in `rect`: in fractions of a pixel, as the painter itself does it.
+QRectF aligned(const QSizeF& size, Qt::LayoutDirection direction, int flags, const QRectF& rect)
+{
+    const int alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));
+    QRectF box(rect.topLeft(), size);
+    if (alignment & Qt::AlignRight)
+        box.moveRight(rect.right());
+    else if (alignment & Qt::AlignHCenter)
+        box.moveLeft(rect.left() + (rect.width() - size.width()) / 2);
+    if (alignment & Qt::AlignBottom)
+        box.moveBottom(rect.bottom());
+    else if (alignment & Qt::AlignVCenter)
+        box.moveTop(rect.top() + (rect.height() - size.height()) / 2);
+    return box;
+}
+
+} // namespace
+
+void draw(QPainter& painter, const QRect& rect, int flags, const QString& text)
+{
+    if (!isSimple(painter, flags, text)) {
+        painter.drawText(rect, flags, text);
+        return;
+    }
+    const Line& line = lineOf(painter, flags, text);
+    const QRectF bounds = aligned(line.size, painter.layoutDirection(), flags, rect);
+    const bool clipped = !(flags & Qt::TextDontClip) && !QRectF(rect).contains(bounds);
+    if (!clipped) {
+        line.layout.lineAt(0).draw(&painter, bounds.topLeft());
+        return;
+    }
+    const PainterSaver saver(painter);
+    painter.setClipRect(QRectF(rect), Qt::IntersectClip);
+    line.layout.lineAt(0).draw(&painter, bounds.topLeft());
+}
+
+QString fitted(const QPainter& painter, const QString& text, Qt::TextElideMode mode, int width,
+               int flags)
+{
+    if (isSimple(painter, flags, text) && lineOf(painter, flags, text).size.width() <= width)
+        return text;
+    const QFontMetrics metrics = painter.fontMetrics();
+    if (!text.contains(QLatin1Char('\n')))
+        return metrics.elidedText(text, mode, width, flags);
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString& line : lines)
+        line = metrics.elidedText(line, mode, width, flags);
+    return lines.join(QLatin1Char('\n'));
+}
+
+} // namespace BRELK::Texts
