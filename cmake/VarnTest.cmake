@@ -17,6 +17,11 @@ file(CHMOD ${VARN_TEST_HOME} DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_
 # and a dozen frames are enough for it.
 list(APPEND VARN_TEST_ENVIRONMENT ASAN_OPTIONS=fast_unwind_on_malloc=0:malloc_context_size=12)
 
+set(VARN_TEST_TIMEOUT 120)
+if(VARN_SANITIZE)
+    set(VARN_TEST_TIMEOUT 600)
+endif()
+
 function(varn_add_test name label)
     add_executable(${name} ${ARGN})
     varn_compile_options(${name})
@@ -29,7 +34,8 @@ endfunction()
 # varn_add_test_command(NAME LABEL COMMAND...): any other command that fails or passes, in the same surroundings.
 function(varn_add_test_command name label)
     add_test(NAME ${name} COMMAND ${ARGN})
-    set_tests_properties(${name} PROPERTIES LABELS ${label} ENVIRONMENT "${VARN_TEST_ENVIRONMENT}" TIMEOUT 120)
+    set_tests_properties(${name} PROPERTIES
+        LABELS ${label} ENVIRONMENT "${VARN_TEST_ENVIRONMENT}" TIMEOUT ${VARN_TEST_TIMEOUT})
 endfunction()
 
 # varn_add_lint(PROGRAM [FILE...]): a check of the sources themselves, a Python program of tools/. FILEs are what else

@@ -197,7 +197,7 @@ QWidget* makeSidePane()
     apply->setDefault(true);
     auto* reset = new QPushButton(QStringLiteral("Reset"));
     QWidget* pane = column({card, makeFilterBox(), makeOptionBox(), row({apply, reset})});
-    static_cast<QVBoxLayout*>(pane->layout())->addStretch();
+    static_cast<QBoxLayout*>(pane->layout())->addStretch();
     return pane;
 }
 
