@@ -7,11 +7,8 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QDateTimeEdit>
-#include <QHash>
 #include <QLineEdit>
 #include <QStyleOption>
-
-#include <array>
 
 // How a button-like control finds its brushes: words for what it is and how it stands are joined to
 // theme names, then a row of rules, each of which may override the ones before it, dresses special
@@ -21,84 +18,13 @@ namespace BRELK {
 
 namespace {
 
-constexpr std::array PropertyNames{WidgetProperties::Blinking,   WidgetProperties::BlinkChecked,
-                                   WidgetProperties::Checkable,  WidgetProperties::Highlighted,
-                                   WidgetProperties::Status,     WidgetProperties::Order,
-                                   WidgetProperties::ButtonType, WidgetProperties::Outline};
-
-enum Property : unsigned {
-    Blinking,
-    BlinkChecked,
-    Checkable,
-    Highlighted,
-    Status,
-    Order,
-    ButtonType,
-    Outline
-};
-
-/// Which of the properties the class of an object declares, one bit each.
-///
-/// QObject::property() compares the name with every declared one, dozens for a widget, to find
-/// nothing most of the time; a class is asked once here.
-unsigned declaredProperties(const QMetaObject* meta)
-{
-    struct Declared
-    {
-        const char* className = nullptr;
-        unsigned mask = 0;
-    };
-
-    static QHash<const QMetaObject*, Declared> sDeclared;
-
-    Declared& declared = sDeclared[meta];
-    if (declared.className != meta->className()) {
-        declared = {meta->className(), 0};
-        for (unsigned i = 0; i < PropertyNames.size(); ++i)
-            declared.mask |= meta->indexOfProperty(PropertyNames.at(i)) >= 0 ? 1U << i : 0U;
-    }
-    return declared.mask;
-}
-
-class PropertyReader
-{
-public:
-    explicit PropertyReader(const QWidget* widget) : m_widget(widget)
-    {
-        if (!widget)
-            return;
-        m_present = declaredProperties(widget->metaObject());
-        const QList<QByteArray> dynamic = widget->dynamicPropertyNames();
-        if (dynamic.isEmpty())
-            return;
-        for (unsigned i = 0; i < PropertyNames.size(); ++i)
-            m_present |= dynamic.contains(QByteArray::fromRawData(
-                             PropertyNames.at(i), int(qstrlen(PropertyNames.at(i)))))
-                             ? 1U << i
-                             : 0U;
-    }
-
-    QVariant value(Property property) const
-    {
-        return m_present & (1U << property) ? m_widget->property(PropertyNames.at(property))
-                                            : QVariant();
-    }
-
-    bool flag(Property property) const { return value(property).toBool(); }
-
-private:
-    const QWidget* m_widget;
-    unsigned m_present = 0;
-};
-
 struct ButtonLook
 {
     const QStyleOption& option;
     const QWidget* widget;
-    PropertyReader properties{widget};
     bool enabled = !widget || widget->isEnabled();
-    bool highlighted = properties.flag(Highlighted);
-    bool checkable = properties.flag(Checkable);
+    bool highlighted = WidgetProperties::flag(widget, WidgetProperties::Highlighted);
+    bool checkable = WidgetProperties::flag(widget, WidgetProperties::Checkable);
     QString kind = {};
     QString state = {};
     BaseStyle::ButtonBrushes brushes = {};
@@ -122,14 +48,14 @@ struct ButtonLook
     bool isIdle() const { return !BaseStyle::isDown(option) && !isHovered(); }
 };
 
-QString stateWord(const QStyleOption& option, const PropertyReader& properties)
+QString stateWord(const QStyleOption& option, const QWidget* widget)
 {
     const auto checkWord = [](bool checked) {
         return checked ? ThemeNames::checked() : ThemeNames::unchecked();
     };
     QString word;
-    if (properties.flag(Blinking))
-        word = checkWord(properties.flag(BlinkChecked));
+    if (WidgetProperties::flag(widget, WidgetProperties::Blinking))
+        word = checkWord(WidgetProperties::flag(widget, WidgetProperties::BlinkChecked));
     else if (BaseStyle::isDefaultButton(&option) && option.state & QStyle::State_Active)
         word = ThemeNames::byDefault();
     else
@@ -159,13 +85,14 @@ void findWords(ButtonLook& look)
     if (calendarAtRest || isMenuPartPressed(look.option, look.widget))
         look.state = ThemeNames::unchecked() + ThemeNames::hover();
     else
-        look.state = stateWord(look.option, look.properties);
+        look.state = stateWord(look.option, look.widget);
 
     if (look.highlighted)
         look.kind = ThemeNames::highlighted();
-    for (const Property property : {Status, Order, ButtonType}) {
+    for (const char* property :
+         {WidgetProperties::Status, WidgetProperties::Order, WidgetProperties::ButtonType}) {
         if (look.kind.isEmpty())
-            look.kind = look.properties.value(property).toString();
+            look.kind = WidgetProperties::text(look.widget, property);
     }
 }
 
@@ -173,10 +100,11 @@ void composeByName(ButtonLook& look)
 {
     findWords(look);
     const QString toggle = look.checkable ? ThemeNames::toggle() : QString();
-    const QString name = toggle + ThemeNames::button() + look.kind + look.state;
-    look.brushes.backgroundBrush = look.brush(name + ThemeNames::backgroundPart());
-    look.brushes.borderBrush = look.brush(name + ThemeNames::borderPart());
-    look.brushes.foregroundBrush = look.brush(name + ThemeNames::foregroundPart());
+    const auto brush = [&](const QString& part) {
+        return look.brush(toggle + ThemeNames::button() + look.kind + look.state + part);
+    };
+    look.brushes = {brush(ThemeNames::backgroundPart()), brush(ThemeNames::borderPart()),
+                    brush(ThemeNames::foregroundPart())};
 }
 
 void flattenBorder(ButtonLook& look)
@@ -191,7 +119,7 @@ void flattenBorder(ButtonLook& look)
 
 void outline(ButtonLook& look)
 {
-    if (!look.properties.flag(Outline))
+    if (!WidgetProperties::flag(look.widget, WidgetProperties::Outline))
         return;
     if (BaseStyle::isChecked(look.option) && look.isHovered() && !look.isPressed()) {
         // Deliberate: the toggle word is left out here.

@@ -8,109 +8,109 @@
 namespace BRELK::WidgetProperties {
 
 // Buttons and inputs
-constexpr char BlinkChecked[] = "blink_checked";
-constexpr char Blinking[] = "blinking";
-constexpr char ButtonType[] = "ButtonType";
-constexpr char Checkable[] = "checkable";
-constexpr char Checked[] = "checked";
-constexpr char Circular[] = "circular";
-constexpr char CustomActionIcons[] = "customActionIcons";
-constexpr char DrawErrorIndicator[] = "drawErrorIndicator";
-constexpr char Frameless[] = "frameless";
-constexpr char Highlighted[] = "highlighted";
-constexpr char HighlightedIcon[] = "highlightedIcon";
-constexpr char NoMenuArrow[] = "no menu arrow";
-constexpr char Order[] = "Order";
-constexpr char OriginalIcon[] = "originalIcon";
-constexpr char Outline[] = "outline";
-constexpr char Status[] = "Status";
-constexpr char Switch[] = "switch";
-constexpr char TextAlignment[] = "textAlignment";
+inline constexpr char BlinkChecked[] = "blink_checked";
+inline constexpr char Blinking[] = "blinking";
+inline constexpr char ButtonType[] = "ButtonType";
+inline constexpr char Checkable[] = "checkable";
+inline constexpr char Checked[] = "checked";
+inline constexpr char Circular[] = "circular";
+inline constexpr char CustomActionIcons[] = "customActionIcons";
+inline constexpr char DrawErrorIndicator[] = "drawErrorIndicator";
+inline constexpr char Frameless[] = "frameless";
+inline constexpr char Highlighted[] = "highlighted";
+inline constexpr char HighlightedIcon[] = "highlightedIcon";
+inline constexpr char NoMenuArrow[] = "no menu arrow";
+inline constexpr char Order[] = "Order";
+inline constexpr char OriginalIcon[] = "originalIcon";
+inline constexpr char Outline[] = "outline";
+inline constexpr char Status[] = "Status";
+inline constexpr char Switch[] = "switch";
+inline constexpr char TextAlignment[] = "textAlignment";
 
 // Button groups
-constexpr char ButtonGroupContainer[] = "ButtonGroupWidget_Container";
-constexpr char ButtonGroupExclusive[] = "ButtonGroupWidget_Exclusive";
-constexpr char ButtonGroupVisibleCount[] = "ButtonGroupWidget_VisibleCount";
-constexpr char ButtonGroupWorkflow[] = "ButtonGroupWidget_Workflow";
-constexpr char ButtonVisibleIndex[] = "Button_VisibleIndex";
-constexpr char ColorButtonContainer[] = "ColorButtonWidget_Container";
-constexpr char Orientation[] = "orientation";
+inline constexpr char ButtonGroupContainer[] = "ButtonGroupWidget_Container";
+inline constexpr char ButtonGroupExclusive[] = "ButtonGroupWidget_Exclusive";
+inline constexpr char ButtonGroupVisibleCount[] = "ButtonGroupWidget_VisibleCount";
+inline constexpr char ButtonGroupWorkflow[] = "ButtonGroupWidget_Workflow";
+inline constexpr char ButtonVisibleIndex[] = "Button_VisibleIndex";
+inline constexpr char ColorButtonContainer[] = "ColorButtonWidget_Container";
+inline constexpr char Orientation[] = "orientation";
 
 // Sliders and scroll bars
-constexpr char Minimized[] = "minimized";
-constexpr char RangeSlider[] = "rangeSlider";
-constexpr char SliderHighContrast[] = "slider_high_contrast";
-constexpr char SliderHighlighted[] = "slider_highlighted";
+inline constexpr char Minimized[] = "minimized";
+inline constexpr char RangeSlider[] = "rangeSlider";
+inline constexpr char SliderHighContrast[] = "slider_high_contrast";
+inline constexpr char SliderHighlighted[] = "slider_highlighted";
 
 // Tabs
-constexpr char AppBaseTabSize[] = "appBaseTabSize";
-constexpr char AppCurrentTabHighlighted[] = "appCurrentTabHighlighted";
-constexpr char AppLargeTabSize[] = "appLargeTabSize";
-constexpr char AppMediumTabSize[] = "appMediumTabSize";
-constexpr char AppSmallTabSize[] = "appSmallTabSize";
-constexpr char BaseTabSize[] = "baseTabSize";
-constexpr char CurrentTabHighlighted[] = "currentTabHighlighted";
-constexpr char LargeTabSize[] = "largeTabSize";
-constexpr char MediumTabSize[] = "mediumTabSize";
-constexpr char SmallTabSize[] = "smallTabSize";
-constexpr char Stretched[] = "stretched";
+inline constexpr char AppBaseTabSize[] = "appBaseTabSize";
+inline constexpr char AppCurrentTabHighlighted[] = "appCurrentTabHighlighted";
+inline constexpr char AppLargeTabSize[] = "appLargeTabSize";
+inline constexpr char AppMediumTabSize[] = "appMediumTabSize";
+inline constexpr char AppSmallTabSize[] = "appSmallTabSize";
+inline constexpr char BaseTabSize[] = "baseTabSize";
+inline constexpr char CurrentTabHighlighted[] = "currentTabHighlighted";
+inline constexpr char LargeTabSize[] = "largeTabSize";
+inline constexpr char MediumTabSize[] = "mediumTabSize";
+inline constexpr char SmallTabSize[] = "smallTabSize";
+inline constexpr char Stretched[] = "stretched";
 
 // Menus and item views
-constexpr char CustomItemDelegate[] = "customItemDelegate";
-constexpr char CustomItemViewPalette[] = "customItemViewPalette";
-constexpr char DrawChildIndicatorInListView[] = "drawChildIndicatorInListView";
-constexpr char DrawItemsSeparators[] = "drawItemsSeparators";
-constexpr char FlatView[] = "flatView";
-constexpr char HideFocusRect[] = "hideFocusRect";
-constexpr char HighlightItemsOnMouseHover[] = "highlightItemsOnMouseHover";
-constexpr char IsComboBoxPopupItem[] = "_q_isComboBoxPopupItem";
+inline constexpr char CustomItemDelegate[] = "customItemDelegate";
+inline constexpr char CustomItemViewPalette[] = "customItemViewPalette";
+inline constexpr char DrawChildIndicatorInListView[] = "drawChildIndicatorInListView";
+inline constexpr char DrawItemsSeparators[] = "drawItemsSeparators";
+inline constexpr char FlatView[] = "flatView";
+inline constexpr char HideFocusRect[] = "hideFocusRect";
+inline constexpr char HighlightItemsOnMouseHover[] = "highlightItemsOnMouseHover";
+inline constexpr char IsComboBoxPopupItem[] = "_q_isComboBoxPopupItem";
 
 // Cards, frames and the rest
-constexpr char CardContents[] = "CardWidgetBase_Contents";
-constexpr char CardFooter[] = "CardWidgetBase_Footer";
-constexpr char CardHeader[] = "CardWidgetBase_Header";
-constexpr char CardNoCornerRadius[] = "CardWidget_NoCornerRadius";
-constexpr char CardSubtitle[] = "CardWidgetBase_Subtitle";
-constexpr char CardTitle[] = "CardWidgetBase_Title";
-constexpr char Expandable[] = "expandable";
-constexpr char Filled[] = "filled";
-constexpr char FooterVisible[] = "footerVisible";
-constexpr char HeaderVisible[] = "headerVisible";
-constexpr char InvertedAppearance[] = "invertedAppearance";
-constexpr char PillFont[] = "Pill_Font";
-constexpr char RoundedPixmap[] = "roundedPixmap";
-constexpr char Shape[] = "shape";
-constexpr char Small[] = "small";
+inline constexpr char CardContents[] = "CardWidgetBase_Contents";
+inline constexpr char CardFooter[] = "CardWidgetBase_Footer";
+inline constexpr char CardHeader[] = "CardWidgetBase_Header";
+inline constexpr char CardNoCornerRadius[] = "CardWidget_NoCornerRadius";
+inline constexpr char CardSubtitle[] = "CardWidgetBase_Subtitle";
+inline constexpr char CardTitle[] = "CardWidgetBase_Title";
+inline constexpr char Expandable[] = "expandable";
+inline constexpr char Filled[] = "filled";
+inline constexpr char FooterVisible[] = "footerVisible";
+inline constexpr char HeaderVisible[] = "headerVisible";
+inline constexpr char InvertedAppearance[] = "invertedAppearance";
+inline constexpr char PillFont[] = "Pill_Font";
+inline constexpr char RoundedPixmap[] = "roundedPixmap";
+inline constexpr char Shape[] = "shape";
+inline constexpr char Small[] = "small";
 
 /// Written by `polish`, for the widget libraries that draw with the style's values.
-constexpr char BackgroundBrush[] = "BackgroundBrush";
-constexpr char BackgroundBrushDisabled[] = "BackgroundBrushDisabled";
-constexpr char BorderBrush[] = "BorderBrush";
-constexpr char BorderBrushDisabled[] = "BorderBrushDisabled";
-constexpr char CardTitleDefaultFont[] = "CardWidgetBase_Title_DefaultFont";
-constexpr char CardTitleMinimizedFont[] = "CardWidgetBase_Title_MinimizedFont";
-constexpr char CornerRadius[] = "CornerRadius";
-constexpr char DefaultBrush[] = "DefaultBrush";
-constexpr char DefaultBrushDisabled[] = "DefaultBrushDisabled";
-constexpr char HoverBrush[] = "HoverBrush";
-constexpr char InvertedControls[] = "invertedControls";
-constexpr char PeriodicTableBackgroundColor[] = "PeriodicTableDelegate_BackgroundColor";
-constexpr char PeriodicTableBorderColor[] = "PeriodicTableDelegate_BorderColor";
-constexpr char PeriodicTableColorList[] = "PeriodicTableDelegate_ColorList";
-constexpr char PeriodicTableForegroundColor[] = "PeriodicTableDelegate_ForegroundColor";
-constexpr char PeriodicTableForegroundSubLevelColor[] =
+inline constexpr char BackgroundBrush[] = "BackgroundBrush";
+inline constexpr char BackgroundBrushDisabled[] = "BackgroundBrushDisabled";
+inline constexpr char BorderBrush[] = "BorderBrush";
+inline constexpr char BorderBrushDisabled[] = "BorderBrushDisabled";
+inline constexpr char CardTitleDefaultFont[] = "CardWidgetBase_Title_DefaultFont";
+inline constexpr char CardTitleMinimizedFont[] = "CardWidgetBase_Title_MinimizedFont";
+inline constexpr char CornerRadius[] = "CornerRadius";
+inline constexpr char DefaultBrush[] = "DefaultBrush";
+inline constexpr char DefaultBrushDisabled[] = "DefaultBrushDisabled";
+inline constexpr char HoverBrush[] = "HoverBrush";
+inline constexpr char InvertedControls[] = "invertedControls";
+inline constexpr char PeriodicTableBackgroundColor[] = "PeriodicTableDelegate_BackgroundColor";
+inline constexpr char PeriodicTableBorderColor[] = "PeriodicTableDelegate_BorderColor";
+inline constexpr char PeriodicTableColorList[] = "PeriodicTableDelegate_ColorList";
+inline constexpr char PeriodicTableForegroundColor[] = "PeriodicTableDelegate_ForegroundColor";
+inline constexpr char PeriodicTableForegroundSubLevelColor[] =
     "PeriodicTableDelegate_ForegroundSubLevelColor";
-constexpr char PeriodicTableForegroundUpLevelColor[] =
+inline constexpr char PeriodicTableForegroundUpLevelColor[] =
     "PeriodicTableDelegate_ForegroundUpLevelColor";
-constexpr char RangeBrush[] = "RangeBrush";
-constexpr char RangeBrushDisabled[] = "RangeBrushDisabled";
-constexpr char StyleSheetWidgetFont[] =
+inline constexpr char RangeBrush[] = "RangeBrush";
+inline constexpr char RangeBrushDisabled[] = "RangeBrushDisabled";
+inline constexpr char StyleSheetWidgetFont[] =
     "_q_styleSheetWidgetFont"; ///< Qt's own: the font it restores under a sheet
-constexpr char SunkenBrush[] = "SunkenBrush";
-constexpr char TickPosition[] = "tickPosition";
-constexpr char Tracking[] = "tracking";
-constexpr char WorkflowLinkBrush[] = "WorkflowLinkBrush";
-constexpr char WorkflowLinkBrushDisabled[] = "WorkflowLinkBrushDisabled";
+inline constexpr char SunkenBrush[] = "SunkenBrush";
+inline constexpr char TickPosition[] = "tickPosition";
+inline constexpr char Tracking[] = "tracking";
+inline constexpr char WorkflowLinkBrush[] = "WorkflowLinkBrush";
+inline constexpr char WorkflowLinkBrushDisabled[] = "WorkflowLinkBrushDisabled";
 
 /// The value of one of the properties above: invalid when `object` is null or lacks it.
 ///
@@ -121,7 +121,15 @@ QVariant value(const QObject* object, const char* property);
 /// False when absent.
 inline bool flag(const QObject* object, const char* property)
 {
-    return value(object, property).toBool();
+    const QVariant found = value(object, property);
+    return found.isValid() && found.toBool();
+}
+
+/// Empty when absent.
+inline QString text(const QObject* object, const char* property)
+{
+    const QVariant found = value(object, property);
+    return found.isValid() ? found.toString() : QString();
 }
 
 } // namespace BRELK::WidgetProperties

@@ -1,14 +1,27 @@
 #include "WidgetTraits.h"
 
+#include <QAbstractSpinBox>
 #include <QAction>
+#include <QColumnView>
+#include <QCommandLinkButton>
 #include <QDateTimeEdit>
+#include <QGroupBox>
+#include <QLabel>
+#include <QListView>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QTableView>
 #include <QTimeEdit>
+#include <QToolBox>
 #include <QToolButton>
+#include <QTreeView>
 
 namespace BRELK::WidgetTraits {
 
 namespace {
 
+/// For classes that no header declares; comparing names is slower than casting.
 bool inherits(const QObject* object, const char* className)
 {
     return object && object->inherits(className);
@@ -39,7 +52,7 @@ bool isCascadingListPanel(const QWidget* widget)
 
 bool isColumnView(const QWidget* widget)
 {
-    return inherits(widget, "QColumnView");
+    return qobject_cast<const QColumnView*>(widget);
 }
 
 bool isComboBoxList(const QWidget* widget)
@@ -54,7 +67,7 @@ bool isComboBoxPopup(const QObject* object)
 
 bool isCommandLink(const QWidget* widget)
 {
-    return inherits(widget, "QCommandLinkButton");
+    return qobject_cast<const QCommandLinkButton*>(widget);
 }
 
 bool isDefaultComboBoxDelegate(const QObject* object)
@@ -64,7 +77,7 @@ bool isDefaultComboBoxDelegate(const QObject* object)
 
 bool isGroupBox(const QWidget* widget)
 {
-    return inherits(widget, "QGroupBox");
+    return qobject_cast<const QGroupBox*>(widget);
 }
 
 bool isInComboBoxPopup(const QWidget* widget)
@@ -74,12 +87,12 @@ bool isInComboBoxPopup(const QWidget* widget)
 
 bool isInTabBar(const QWidget* widget)
 {
-    return widget && inherits(widget->parent(), "QTabBar");
+    return widget && qobject_cast<const QTabBar*>(widget->parent());
 }
 
 bool isLabel(const QWidget* widget)
 {
-    return inherits(widget, "QLabel");
+    return qobject_cast<const QLabel*>(widget);
 }
 
 bool isLineEditClearButton(const QWidget* widget)
@@ -96,7 +109,7 @@ bool isLineEditIconButton(const QWidget* widget)
 
 bool isListView(const QWidget* widget)
 {
-    return inherits(widget, "QListView");
+    return qobject_cast<const QListView*>(widget);
 }
 
 bool isMinimizedScrollBar(const QWidget* widget)
@@ -121,27 +134,27 @@ bool isSegmentedGroup(const QObject* object)
 
 bool isSpinBox(const QWidget* widget)
 {
-    return inherits(widget, "QAbstractSpinBox");
+    return qobject_cast<const QAbstractSpinBox*>(widget);
 }
 
 bool isStatusBar(const QWidget* widget)
 {
-    return inherits(widget, "QStatusBar");
+    return qobject_cast<const QStatusBar*>(widget);
 }
 
 bool isTableView(const QWidget* widget)
 {
-    return inherits(widget, "QTableView");
+    return qobject_cast<const QTableView*>(widget);
 }
 
 bool isTabWidgetOrBar(const QWidget* widget)
 {
-    return inherits(widget, "QTabWidget") || inherits(widget, "QTabBar");
+    return qobject_cast<const QTabWidget*>(widget) || qobject_cast<const QTabBar*>(widget);
 }
 
 bool isToolBox(const QWidget* widget)
 {
-    return inherits(widget, "QToolBox");
+    return qobject_cast<const QToolBox*>(widget);
 }
 
 bool isToolBoxButton(const QWidget* widget)
@@ -151,7 +164,7 @@ bool isToolBoxButton(const QWidget* widget)
 
 bool isTreeView(const QWidget* widget)
 {
-    return inherits(widget, "QTreeView");
+    return qobject_cast<const QTreeView*>(widget);
 }
 
 } // namespace BRELK::WidgetTraits
