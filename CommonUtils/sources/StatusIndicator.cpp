@@ -1,6 +1,9 @@
 #include "Helpers.h"
 
 #include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
 
 namespace BRELK {
 
@@ -14,17 +17,36 @@ int Helpers::getPerceivedBrightness(const QColor& color)
 void Helpers::drawInputStatusIndicator(const QRectF& rect, int radius, const QColor& color,
                                        QPainter* painter)
 {
-    if (!painter || rect.isEmpty())
+    if (!painter || !painter->isActive() || rect.isEmpty() || !color.isValid())
         return;
-    constexpr qreal Side = 6;
-    const QPointF corner = rect.topRight() + QPointF(-radius * 0.3, radius * 0.3);
-    const QPointF triangle[] = {corner, corner - QPointF(Side, 0), corner + QPointF(0, Side)};
-    painter->save();
+    // Along the sides the fold is so long that as much of it is left by any rounding.
+    constexpr qreal Length = 7;
+    constexpr qreal LengthPerRadius = 0.586;
+    constexpr qreal MostOfSide = 0.75;
+    constexpr qreal HalfBorder = 0.5;
+    const qreal shortSide = std::min(rect.width(), rect.height());
+    const qreal curve = radius > 0 ? std::min(radius + HalfBorder, shortSide / 2) : 0;
+    const qreal length =
+        std::max(curve, std::min(Length + LengthPerRadius * curve, MostOfSide * shortSide));
+
+    const bool mirrored = painter->layoutDirection() == Qt::RightToLeft;
+    const QPointF corner = mirrored ? rect.topLeft() : rect.topRight();
+    const QPointF along(mirrored ? 1 : -1, 0);
+    const QPointF down(0, 1);
+    const QPointF center = corner + curve * (along + down);
+    const QRectF circle(center - QPointF(curve, curve), center + QPointF(curve, curve));
+    QPainterPath fold(corner + length * along);
+    if (curve > 0)
+        fold.arcTo(circle, 90, mirrored ? 90 : -90);
+    else
+        fold.lineTo(corner);
+    fold.lineTo(corner + length * down);
+    fold.closeSubpath();
+
+    const bool antialiased = painter->testRenderHint(QPainter::Antialiasing);
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(color);
-    painter->drawPolygon(triangle, 3);
-    painter->restore();
+    painter->fillPath(fold, color);
+    painter->setRenderHint(QPainter::Antialiasing, antialiased);
 }
 
 } // namespace BRELK
