@@ -61,7 +61,7 @@ bool isNear(QRgb color, QRgb other, int tolerance)
            && std::abs(qBlue(color) - qBlue(other)) <= tolerance;
 }
 
-/// An opaque color in a pixel, next to the reference color.
+/// What the color of a pixel is made of, apart from its alpha.
 struct Blend
 {
     float referenceShare = 0;
@@ -75,73 +75,85 @@ public:
         : m_icon(icon.convertToFormat(QImage::Format_ARGB32)), m_reference(reference)
     { }
 
-    QRgb at(int x, int y) const
+    QRgb at(QPoint place) const
     {
-        return reinterpret_cast<const QRgb*>(m_icon.constScanLine(y))[x];
+        return reinterpret_cast<const QRgb*>(m_icon.constScanLine(place.y()))[place.x()];
     }
 
-    Blend blendAt(int x, int y) const
+    Blend blendAt(QPoint place) const
     {
-        const QRgb color = at(x, y);
-        if (isReference(color))
+        const QRgb color = at(place);
+        if (isReference(place))
             return {1, color};
-        if (isFlat(x, y) || !anyNear(x, y, [this](QRgb near) { return isReference(near); }))
+        const auto reference = [this](QPoint near) { return isReference(near); };
+        if (qAlpha(m_reference) < Opaque || isFlat(place)
+            || !anyAround(place, EdgeWidth, reference))
             return {0, color};
-        return unmixed(x, y);
+        return unmixed(place);
     }
 
 private:
-    bool isReference(QRgb color) const
+    template <class Predicate>
+    bool anyAround(QPoint place, int distance, Predicate predicate) const
+    {
+        const QPoint reach(distance, distance);
+        const QRect area = QRect(place - reach, place + reach) & m_icon.rect();
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                if (predicate(QPoint(x, y)))
+                    return true;
+        return false;
+    }
+
+    bool looksLikeReference(QRgb color) const
     {
         return qAlpha(m_reference) == Opaque && qAlpha(color)
                && isNear(color, m_reference, roundingError(qAlpha(color)));
     }
 
-    QRect around(int x, int y, int distance) const
+    /// A faint pixel may look like the reference by chance. If it is the soft edge of something, so
+    /// does what it is the edge of.
+    bool isReference(QPoint place) const
     {
-        return QRect(x - distance, y - distance, 2 * distance + 1, 2 * distance + 1)
-               & m_icon.rect();
-    }
-
-    template <class Predicate>
-    bool anyNear(int x, int y, Predicate predicate) const
-    {
-        const QRect area = around(x, y, EdgeWidth);
-        for (int row = area.top(); row <= area.bottom(); ++row)
-            for (int column = area.left(); column <= area.right(); ++column)
-                if (predicate(at(column, row)))
-                    return true;
-        return false;
+        const QRgb color = at(place);
+        if (!looksLikeReference(color))
+            return false;
+        const auto isMoreOpaque = [&](QPoint near) { return qAlpha(at(near)) > qAlpha(color); };
+        return qAlpha(color) == Opaque || !anyAround(place, 1, isMoreOpaque)
+               || anyAround(place, 1, [&](QPoint near) {
+                      return isMoreOpaque(near) && looksLikeReference(at(near));
+                  });
     }
 
     /// Whether the pixel lies inside an area of its color and so is no blend.
-    bool isFlat(int x, int y) const
+    bool isFlat(QPoint place) const
     {
-        const QRgb color = at(x, y);
-        const QRect area = around(x, y, 1);
-        for (int row = area.top(); row <= area.bottom(); ++row)
-            for (int column = area.left(); column <= area.right(); ++column)
-                if (qAlpha(at(column, row)) != qAlpha(color)
-                    || !isNear(at(column, row), color, roundingError(qAlpha(color))))
-                    return false;
-        return true;
+        const QRgb color = at(place);
+        return !anyAround(place, 1, [&](QPoint near) {
+            return qAlpha(at(near)) != qAlpha(color)
+                   || !isNear(at(near), color, roundingError(qAlpha(color)));
+        });
     }
 
-    /// Takes the pixel for a blend of the reference with the nearby color that explains it best:
-    /// the one for which it lies closest to the line between the two, and short of its end.
-    Blend unmixed(int x, int y) const
+    /// Takes the pixel for a blend of the reference with a nearby color. Of those for which the
+    /// pixel lies close to the line between the two, and short of its end, the farthest is the
+    /// least blended itself.
+    Blend unmixed(QPoint place) const
     {
-        const QRgb color = at(x, y);
+        const QRgb color = at(place);
         const Rgb reference(m_reference);
         const Rgb difference = Rgb(color) - reference;
+        const float tolerance = LargestDeviation + float(roundingError(qAlpha(color)));
         Blend best{0, color};
-        float smallest = LargestDeviation + float(roundingError(qAlpha(color)));
-        anyNear(x, y, [&](QRgb other) {
+        float longest = 0;
+        anyAround(place, EdgeWidth, [&](QPoint near) {
+            const QRgb other = at(near);
             const Rgb line = Rgb(other) - reference;
             const float share = difference.dot(line) / std::max(line.dot(line), 1.0F);
             const float deviation = (difference - line * share).length();
-            if (qAlpha(other) && share > 0 && share < 1 && deviation < smallest) {
-                smallest = deviation;
+            if (qAlpha(other) && share > 0 && share < 1 && deviation < tolerance
+                && line.length() > longest) {
+                longest = line.length();
                 best = {1 - share, other};
             }
             return false;
@@ -183,11 +195,11 @@ QImage recoloredImage(const QImage& icon, QRgb reference, const QImage& replacem
         const auto* fill = reinterpret_cast<const QRgb*>(replacement.constScanLine(y));
         auto* line = reinterpret_cast<QRgb*>(result.scanLine(y));
         for (int x = 0; x < result.width(); ++x) {
-            int alpha = qAlpha(reader.at(x, y));
+            int alpha = qAlpha(reader.at({x, y}));
             line[x] = 0;
             if (alpha == 0)
                 continue;
-            Blend blend = reader.blendAt(x, y);
+            Blend blend = reader.blendAt({x, y});
             if (disabled) {
                 alpha = alpha * DisabledOpacity / Opaque;
                 blend.other = withoutColor(blend.other);
