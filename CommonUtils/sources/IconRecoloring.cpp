@@ -78,12 +78,12 @@ public:
 
     QString iconName() const override { return m_name; }
 
-    QList<QSize> availableSizes(QIcon::Mode, QIcon::State state) const override
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State state) const override
     {
         return m_recoloring.icon.availableSizes(QIcon::Normal, state);
     }
 
-    QSize actualSize(const QSize& size, QIcon::Mode, QIcon::State state) override
+    QSize actualSize(const QSize& size, QIcon::Mode /*mode*/, QIcon::State state) override
     {
         const DevicePixels devicePixels;
         return m_recoloring.icon.actualSize(size, QIcon::Normal, state);

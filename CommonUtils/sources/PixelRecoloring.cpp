@@ -190,22 +190,21 @@ QRgb mixed(QRgb replacement, const Blend& blend, int alpha)
 QImage recoloredImage(const QImage& icon, QRgb reference, const QImage& replacement, bool disabled)
 {
     const IconReader reader(icon, reference);
+    const auto recolored = [&](QPoint place, QRgb fill) {
+        const int alpha = qAlpha(reader.at(place));
+        if (alpha == 0)
+            return QRgb(0);
+        Blend blend = reader.blendAt(place);
+        if (disabled)
+            blend.other = withoutColor(blend.other);
+        return mixed(fill, blend, disabled ? alpha * DisabledOpacity / Opaque : alpha);
+    };
     QImage result(icon.size(), QImage::Format_ARGB32_Premultiplied);
     for (int y = 0; y < result.height(); ++y) {
         const auto* fill = reinterpret_cast<const QRgb*>(replacement.constScanLine(y));
         auto* line = reinterpret_cast<QRgb*>(result.scanLine(y));
-        for (int x = 0; x < result.width(); ++x) {
-            int alpha = qAlpha(reader.at({x, y}));
-            line[x] = 0;
-            if (alpha == 0)
-                continue;
-            Blend blend = reader.blendAt({x, y});
-            if (disabled) {
-                alpha = alpha * DisabledOpacity / Opaque;
-                blend.other = withoutColor(blend.other);
-            }
-            line[x] = mixed(fill[x], blend, alpha);
-        }
+        for (int x = 0; x < result.width(); ++x)
+            line[x] = recolored({x, y}, fill[x]);
     }
     return result;
 }

@@ -13,14 +13,15 @@ namespace {
 
 constexpr int TileCacheBytes = 4 << 20;
 
-/// Larger tiles and those of wider pens are cheaper drawn than kept.
+/// Larger tiles, in pixels, and those of wider pens are cheaper drawn than kept.
 constexpr int LargestTile = 1 << 16;
+constexpr qreal WidestPen = 16;
 
 /// Up to this many pixels copying the whole shape is quicker than stretching a smaller tile.
 constexpr qreal LargestWholeShape = 1 << 12;
-constexpr qreal WidestPen = 16;
 
-/// Qt's rasterizer and ours compute positions in whole numbers that overflow not far beyond.
+/// Tiles place their pixels with whole numbers, as Qt's rasterizer does, which overflow not far
+/// beyond.
 constexpr qreal FarthestPixel = 1 << 15;
 
 bool isVisible(const QPen& pen)

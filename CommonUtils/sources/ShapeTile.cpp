@@ -11,8 +11,7 @@ namespace {
 /// Positions are told apart as finely as Qt's rasterizer does.
 constexpr int Subpixels = 64;
 
-/// Draws the shape with square corners, sharp whatever joins the pen
-/// makes.
+/// Draws `rect` with sharp corners, whatever joins the pen makes.
 void drawSquare(QPainter* painter, const QRectF& rect, const QSizeF& reach)
 {
     QPainterPath inside;
@@ -193,16 +192,13 @@ void ShapeTile::draw(QPainter* painter, const TileAxis& horizontal, const TileAx
 {
     for (const Stripe& column : m_columns) {
         const int left = horizontal.placed(column.start);
-        const int right = horizontal.placed(column.start + column.size - 1);
-        const int end =
-            right
-            + (column.start + column.size - 1 == horizontal.nearCorner ? horizontal.stretch : 0);
+        const int right = horizontal.placed(column.start + column.size);
         painter->fillRect(
-            QRect(left, vertical.first + vertical.nearCorner, end - left + 1, vertical.between()),
+            QRect(left, vertical.placed(vertical.nearCorner), right - left, vertical.between()),
             column.color);
     }
     for (const Stripe& row : m_rows)
-        painter->fillRect(QRect(horizontal.first + horizontal.nearCorner,
+        painter->fillRect(QRect(horizontal.placed(horizontal.nearCorner),
                                 vertical.placed(row.start), horizontal.between(), row.size),
                           row.color);
 
