@@ -7,6 +7,10 @@ cd "$(dirname "$0")/.."
 ./scripts/install-dependencies.sh libbenchmark-dev >&2
 cmake --preset release -DVARN_BUILD_BENCHMARKS=ON >&2
 cmake --build --preset release --parallel --target varn_benchmarks >&2
+export QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}"
 for program in build/release/bin/bench_*; do
-    QT_QPA_PLATFORM="${QT_QPA_PLATFORM:-offscreen}" "$program" "$@"
+    # Not every program has benchmarks that match a filter.
+    if "$program" --benchmark_list_tests=true "$@" 2>/dev/null | grep -v "^Failed to match" | grep -q .; then
+        "$program" "$@"
+    fi
 done
