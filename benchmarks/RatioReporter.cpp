@@ -23,7 +23,7 @@ std::string withoutTail(const std::string& name)
 
 } // namespace
 
-bool RatioReporter::ReportContext(const Context&)
+bool RatioReporter::ReportContext(const Context& /*context*/)
 {
     GetOutputStream() << std::left << std::setw(NameWidth) << "microseconds, ratios to Fusion"
                       << std::right << std::setw(10) << "Fusion" << std::setw(10) << "style"
@@ -76,7 +76,7 @@ void RatioReporter::Finalize()
         std::vector<Ratios> means;
         for (const auto& [control, ratios] : controls) {
             means.push_back(mean(ratios));
-            print(group + '/' + control, means.back());
+            print(std::string(group).append("/").append(control), means.back());
         }
         print("= " + group, mean(means));
     }

@@ -84,17 +84,15 @@ std::unique_ptr<QApplication> createApplication(Look look, const std::string& th
 [[noreturn]] void serve(int socket, Look look, const std::string& theme,
                         const std::string& repository)
 {
-    const auto application = createApplication(look, theme, repository);
-    {
-        Runner runner;
-        int index = 0;
-        while (read(socket, &index, sizeof index) == sizeof index) {
-            const double time = runner.measure(index);
-            if (write(socket, &time, sizeof time) != sizeof time)
-                break;
-        }
+    const std::unique_ptr<QApplication> application = createApplication(look, theme, repository);
+    Runner runner;
+    int index = 0;
+    while (application && read(socket, &index, sizeof index) == sizeof index) {
+        const double time = runner.measure(index);
+        if (write(socket, &time, sizeof time) != sizeof time)
+            break;
     }
-    _exit(0);
+    _exit(0); // what the parent would clean up at its end is not this process's
 }
 
 } // namespace
@@ -119,7 +117,7 @@ Worker::~Worker()
         waitpid(m_process, nullptr, 0);
 }
 
-double Worker::measure(int index)
+double Worker::measure(int index) const
 {
     double time = -1;
     if (send(m_socket, &index, sizeof index, MSG_NOSIGNAL) != sizeof index

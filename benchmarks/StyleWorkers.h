@@ -29,7 +29,7 @@ public:
 
     /// The processor time in nanoseconds that one unit of case number `index` takes, from one batch
     /// of runs. Negative when the process has died.
-    double measure(int index);
+    double measure(int index) const;
 
 private:
     pid_t m_process;

@@ -3,9 +3,9 @@
 #include "StyleWorkers.h"
 
 #include <algorithm>
-#include <array>
 #include <benchmark/benchmark.h>
 #include <cstdlib>
+#include <functional>
 
 // How long the style takes for what an application asks of it, beside Qt's Fusion style.
 //
@@ -25,24 +25,37 @@ struct Workers
     Worker theme;
 };
 
-void compare(benchmark::State& state, Workers& workers, int index)
+/// The shortest times of a case so far, in nanoseconds; zero at first.
+struct Times
 {
-    std::array<Worker*, 3> competitors{&workers.fusion, &workers.style, &workers.theme};
-    std::array<double, 3> best{};
+    double fusion = 0;
+    double style = 0;
+    double theme = 0;
+};
+
+/// False when the process of the worker has died.
+bool improve(double& shortest, const Worker& worker, int index)
+{
+    const double time = worker.measure(index);
+    shortest = shortest > 0 ? std::min(shortest, time) : time;
+    return time >= 0;
+}
+
+void compare(benchmark::State& state, const Workers& workers, int index)
+{
+    Times times;
     for ([[maybe_unused]] const auto round : state) {
-        for (size_t i = 0; i < competitors.size(); ++i) {
-            const double time = competitors.at(i)->measure(index);
-            if (time < 0) {
-                state.SkipWithError("its process died");
-                return;
-            }
-            best.at(i) = best.at(i) > 0 ? std::min(best.at(i), time) : time;
+        if (!improve(times.fusion, workers.fusion, index)
+            || !improve(times.style, workers.style, index)
+            || !improve(times.theme, workers.theme, index)) {
+            state.SkipWithError("its process died");
+            return;
         }
-        state.SetIterationTime(best.at(1) / 1e9);
+        state.SetIterationTime(times.style / 1e9);
     }
-    state.counters[RatioReporter::Fusion] = best.at(0);
-    state.counters[RatioReporter::Style] = best.at(1);
-    state.counters[RatioReporter::Theme] = best.at(2);
+    state.counters[RatioReporter::Fusion] = times.fusion;
+    state.counters[RatioReporter::Style] = times.style;
+    state.counters[RatioReporter::Theme] = times.theme;
 }
 
 std::string environment(const char* name, const char* otherwise)
@@ -63,13 +76,13 @@ int main(int argc, char** argv)
     setenv("QT_LOGGING_RULES", "qt.qpa.*=false", 0);
     const std::string theme = environment("VARN_BENCHMARK_THEME", "Dark");
     const std::string repository = environment("VARN_THEME_REPOSITORY", VARN_THEME_REPOSITORY);
-    Workers workers{{Look::Fusion, theme, repository},
-                    {Look::Style, theme, repository},
-                    {Look::WholeTheme, theme, repository}};
+    const Workers workers{{Look::Fusion, theme, repository},
+                          {Look::Style, theme, repository},
+                          {Look::WholeTheme, theme, repository}};
 
     const std::vector<Case> cases = allCases();
     for (size_t i = 0; i < cases.size(); ++i)
-        benchmark::RegisterBenchmark(cases.at(i).name.c_str(), compare, std::ref(workers), int(i))
+        benchmark::RegisterBenchmark(cases.at(i).name.c_str(), compare, std::cref(workers), int(i))
             ->UseManualTime()
             ->Iterations(Rounds);
     RatioReporter reporter;

@@ -9,6 +9,8 @@
 #include <QStyle>
 #include <QTextLayout>
 
+#include <algorithm>
+
 namespace BRELK::Texts {
 
 namespace {
@@ -86,17 +88,31 @@ Lines& keptLines()
     return sLines;
 }
 
+const QGuiApplication*& watchedApplication()
+{
+    static const QGuiApplication* sApplication = nullptr;
+    return sApplication;
+}
+
 void forgetLines()
 {
     keptLines().clear();
 }
 
-/// Lines must not outlive the fonts that the application loads or ends with.
-bool forgetLinesInTime()
+void forgetApplication()
 {
-    qAddPostRoutine(forgetLines);
+    forgetLines();
+    watchedApplication() = nullptr;
+}
+
+/// Lines must outlive neither the fonts that the application changes nor the application.
+void watchApplication()
+{
+    if (watchedApplication() == qGuiApp)
+        return;
+    watchedApplication() = qGuiApp;
+    qAddPostRoutine(forgetApplication);
     QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, forgetLines);
-    return true;
 }
 
 bool isSimple(const QPainter& painter, int flags, const QString& text)
@@ -105,32 +121,27 @@ bool isSimple(const QPainter& painter, int flags, const QString& text)
         || text.size() > LongestLine || !painter.paintEngine()
         || painter.paintEngine()->type() != QPaintEngine::Raster)
         return false;
-    for (const QChar character : text) {
-        if (character < QLatin1Char(' ') || character == QChar(0x9c)
-            || character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
-            return false;
-    }
-    return true;
+    return std::none_of(text.begin(), text.end(), [](QChar character) {
+        return character < QLatin1Char(' ') || character == QChar(0x9c)
+               || character == QChar::LineSeparator || character == QChar::ParagraphSeparator;
+    });
 }
 
 const Line& lineOf(const QPainter& painter, int flags, const QString& text)
 {
-    static const bool sForgotten = forgetLinesInTime();
-    Q_UNUSED(sForgotten)
+    watchApplication();
     const LineKey key{text, painter.font(), painter.device()->logicalDpiY(),
                       bool(flags & Qt::TextShowMnemonic), painter.layoutDirection()};
-    Line* line = keptLines().object(key);
-    if (!line) {
-        line = layOut(key);
-        keptLines().insert(key, line);
-    }
-    return *line;
+    if (const Line* known = keptLines().object(key))
+        return *known;
+    keptLines().insert(key, layOut(key));
+    return *keptLines().object(key);
 }
 
 /// Where a box of `size` goes in `rect`: in fractions of a pixel, as the painter itself does it.
 QRectF aligned(const QSizeF& size, Qt::LayoutDirection direction, int flags, const QRectF& rect)
 {
-    const int alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));
+    const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));
     QRectF box(rect.topLeft(), size);
     if (alignment & Qt::AlignRight)
         box.moveRight(rect.right());
