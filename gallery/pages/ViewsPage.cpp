@@ -10,6 +10,7 @@
 #include <QHeaderView>
 #include <QListView>
 #include <QStandardItemModel>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTreeView>
 
@@ -82,6 +83,8 @@ QTreeView* makeTree()
 QColumnView* makeColumns()
 {
     auto* columns = new QColumnView;
+    // The delegate that a column view comes with draws icons past the style.
+    columns->setItemDelegate(new QStyledItemDelegate(columns));
     fill(columns, makeTreeModel(columns));
     const QModelIndex root = columns->model()->index(0, 0);
     columns->setCurrentIndex(columns->model()->index(0, 0, root));

@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 
@@ -22,12 +23,30 @@ bool cardFlag(const StyleContext& context, const char* property)
     return context.flag(property) || WidgetProperties::flag(context.widget->parent(), property);
 }
 
-int partRadius(const StyleContext& context)
+/// Nothing of a frame: neither round corners nor a border.
+bool isFrameless(const StyleContext& context)
 {
     const QVariant shape = context.property(WidgetProperties::Shape);
-    const bool square = cardFlag(context, WidgetProperties::CardNoCornerRadius)
-                        || (shape.isValid() && shape.toInt() == QFrame::NoFrame);
-    return square ? 0 : Shapes::cornerRadius(ThemeNames::mediumSize());
+    return shape.isValid() && shape.toInt() == QFrame::NoFrame;
+}
+
+int partRadius(const StyleContext& context)
+{
+    return isFrameless(context) || cardFlag(context, WidgetProperties::CardNoCornerRadius)
+               ? 0
+               : Shapes::cornerRadius(ThemeNames::mediumSize());
+}
+
+/// The parts share the border of the card: it is left out, beyond the part's end, where the next
+/// part begins.
+void paintPart(const PaintContext& context, const QBrush& fill, Corners joined)
+{
+    const int above = joined & Helpers::TopCorners ? -1 : 0;
+    const int below = joined & Helpers::BottomCorners ? 1 : 0;
+    const PainterSaver saver(context.painter);
+    context.painter.setClipRect(context.option.rect, Qt::IntersectClip);
+    Shapes::drawBox(context, context.option.rect.adjusted(0, above, 0, below), partRadius(context),
+                    fill, isFrameless(context) ? QBrush() : context.borderBrush(), joined);
 }
 
 /// A header is round at the outer end of the card, which is its lower end in an inverted card. A
@@ -35,14 +54,13 @@ int partRadius(const StyleContext& context)
 void paintEnd(const PaintContext& context, bool isUpper)
 {
     const bool alone = cardFlag(context, WidgetProperties::Minimized);
-    const Corners corners = alone     ? Helpers::None
-                            : isUpper ? Helpers::BottomCorners
-                                      : Helpers::TopCorners;
-    const QRect& rect = context.option.rect;
-    Shapes::drawBox(context, rect, partRadius(context),
-                    context.brush(ThemeNames::backgroundUpLevel1Brush()), Qt::NoBrush, corners);
+    const Corners joined = alone     ? Helpers::None
+                           : isUpper ? Helpers::BottomCorners
+                                     : Helpers::TopCorners;
+    paintPart(context, context.brush(ThemeNames::backgroundUpLevel1Brush()), joined);
     if (alone)
         return;
+    const QRect& rect = context.option.rect;
     const QBrush line = cardFlag(context, WidgetProperties::Expandable)
                             ? QBrush(context.color(ThemeNames::backgroundUpLevel2Color()))
                             : context.borderBrush();
@@ -57,13 +75,12 @@ void paintContents(const PaintContext& context, bool inverted)
 {
     const bool hasHeader = cardFlag(context, WidgetProperties::HeaderVisible);
     const bool hasFooter = cardFlag(context, WidgetProperties::FooterVisible);
-    Corners corners;
+    Corners joined;
     if (inverted ? hasFooter : hasHeader)
-        corners |= Helpers::TopCorners;
+        joined |= Helpers::TopCorners;
     if (inverted ? hasHeader : hasFooter)
-        corners |= Helpers::BottomCorners;
-    Shapes::drawBox(context, context.option.rect, partRadius(context),
-                    context.option.palette.brush(QPalette::Window), Qt::NoBrush, corners);
+        joined |= Helpers::BottomCorners;
+    paintPart(context, context.option.palette.brush(QPalette::Window), joined);
 }
 
 } // namespace

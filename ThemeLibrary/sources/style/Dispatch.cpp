@@ -60,6 +60,7 @@ Painter painterOf(QStyle::ControlElement element)
     case QStyle::CE_MenuBarEmptyArea:    return by<Menus::paintBarEmptyArea>;
     case QStyle::CE_MenuBarItem:         return by<Menus::paintBarItem>;
     case QStyle::CE_MenuItem:            return by<Menus::paintItem>;
+    case QStyle::CE_MenuTearoff:         return by<Menus::paintTearoff>;
     case QStyle::CE_ProgressBarContents: return by<ProgressBars::paintContents>;
     case QStyle::CE_ProgressBarGroove:   return by<ProgressBars::paintGroove>;
     case QStyle::CE_ProgressBarLabel:    return by<ProgressBars::paintLabel>;

@@ -121,6 +121,7 @@ QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem& ite
                   const QSize& contents, const QSize& base);
 void paintPanel(const PaintContext& context);
 void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item);
+void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item);
 void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item);
 void paintBarEmptyArea(const PaintContext& context);
 } // namespace Menus
@@ -195,7 +196,7 @@ void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBa
 
 namespace ToolBoxes {
 void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab);
-}
+} // namespace ToolBoxes
 
 namespace ToolButtons {
 QSize toolButtonSize(const MeasureContext& context, const QStyleOptionToolButton& button,

@@ -5,13 +5,15 @@
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
 
+#include <QCursor>
 #include <QListView>
 #include <QScrollBar>
+#include <QTableView>
 
 // Lists, tables, trees, column views and their rows.
 //
-// Properties: "drawChildIndicatorInListView", "drawItemsSeparators", "flatView",
-// "highlightItemsOnMouseHover".
+// Properties: "customItemViewPalette", "drawChildIndicatorInListView", "drawItemsSeparators",
+// "flatView", "highlightItemsOnMouseHover".
 
 namespace BRELK::ItemViews {
 
@@ -20,11 +22,12 @@ namespace {
 constexpr int ListPadding = 8;
 constexpr int RowPadding = 4;
 constexpr int HeaderMargin = 4;
-constexpr int HeaderMarkSize = 16;
+constexpr int HeaderMarkSize = 10;
 constexpr int SectionWidth = 100;
 constexpr int ListIconSize = 16;
 constexpr int IconModeIconSize = 32;
 constexpr int Indentation = 20;
+constexpr int IndicatorSize = 16; ///< of the arrow that tells of children
 
 int listViewPadding(const BaseStyle& style)
 {
@@ -37,6 +40,15 @@ bool isInListMode(const QWidget* widget)
 {
     const auto* list = qobject_cast<const QListView*>(widget);
     return list && list->viewMode() == QListView::ListMode;
+}
+
+/// Whether a row of a list tells, at its end, that its item has children.
+bool showsChildren(const QWidget* widget, const QStyleOptionViewItem& item)
+{
+    const QAbstractItemModel* model = item.index.model();
+    return isInListMode(widget) && model
+           && WidgetProperties::flag(widget, WidgetProperties::DrawChildIndicatorInListView)
+           && !WidgetTraits::isComboBoxList(widget) && model->hasChildren(item.index);
 }
 
 QRect shiftedInPanel(const StyleContext& context, const QRect& base)
@@ -64,10 +76,11 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
     }
 }
 
-QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem&, const QSize&,
+QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item, const QSize&,
                const QSize& base)
 {
-    return {base.width(), qMax(base.height(), context.rowHeight(RowPadding))};
+    const int indicator = showsChildren(context.widget, item) ? IndicatorSize : 0;
+    return {base.width() + indicator, qMax(base.height(), context.rowHeight(RowPadding))};
 }
 
 QRect indicatorRect(const StyleContext& context, const QRect& base)
@@ -96,7 +109,6 @@ namespace {
 
 constexpr qreal HoverOpacity = 0.16;
 constexpr int TextMargin = 1; ///< beside the focus margin, between text and rectangle
-constexpr int IndicatorSize = 16;
 
 QPalette::ColorGroup colorGroup(const StyleContext& context)
 {
@@ -128,23 +140,38 @@ QBrush selectionBrush(const StyleContext& context)
     return context.brush(focused ? ThemeNames::mainBrush() : ThemeNames::mainSubLevel1Brush());
 }
 
-bool isHighlighted(const StyleContext& context)
+/// In a table that selects rows, the toolkit repaints the whole row under the mouse, but tells it
+/// to one cell.
+bool isInHoveredRow(const StyleContext& context, const QStyleOptionViewItem& item)
 {
-    return BaseStyle::isHovered(&context.option)
+    const auto* table = qobject_cast<const QTableView*>(context.widget);
+    if (!table || !table->viewport()->underMouse() || !context.enabled()
+        || table->selectionBehavior() != QAbstractItemView::SelectRows)
+        return false;
+    const QPoint position = table->viewport()->mapFromGlobal(QCursor::pos());
+    return table->rowAt(position.y()) == item.index.row();
+}
+
+bool isHighlighted(const StyleContext& context, const QStyleOptionViewItem& item)
+{
+    return (BaseStyle::isHovered(&item) || isInHoveredRow(context, item))
            && context.flag(WidgetProperties::HighlightItemsOnMouseHover);
 }
 
 void paintSelection(const PaintContext& context)
 {
-    const QRect& rect = context.option.rect;
-    if (context.has(QStyle::State_Selected)) {
-        context.painter.fillRect(rect, selectionBrush(context));
-    } else if (isHighlighted(context)) {
-        const qreal opacity = context.painter.opacity();
-        context.painter.setOpacity(opacity * HoverOpacity);
-        context.painter.fillRect(rect, context.brush(ThemeNames::mainBrush()));
-        context.painter.setOpacity(opacity);
-    }
+    if (context.has(QStyle::State_Selected))
+        context.painter.fillRect(context.option.rect, selectionBrush(context));
+}
+
+void paintHover(const PaintContext& context, const QStyleOptionViewItem& item)
+{
+    if (context.has(QStyle::State_Selected) || !isHighlighted(context, item))
+        return;
+    const qreal opacity = context.painter.opacity();
+    context.painter.setOpacity(opacity * HoverOpacity);
+    context.painter.fillRect(item.rect, context.brush(ThemeNames::mainBrush()));
+    context.painter.setOpacity(opacity);
 }
 
 bool hasSeparators(const StyleContext& context)
@@ -157,6 +184,24 @@ bool hasSeparators(const StyleContext& context)
     return !WidgetTraits::isListView(context.widget) || isInListMode(context.widget);
 }
 
+/// Whether a row's state calls for another background than the view's, which lies under it already.
+/// A view that the application gave a color of its own keeps it.
+bool hasThemedBackground(const StyleContext& context)
+{
+    if (context.enabled() || context.flag(WidgetProperties::CustomItemViewPalette))
+        return false;
+    return context.option.palette.brush(QPalette::Active, QPalette::Base)
+           == BaseStyle::getBrush(ThemeNames::itemViewBackgroundBrush(), true);
+}
+
+void paintSeparator(const PaintContext& context)
+{
+    const QRect& rect = context.option.rect;
+    if (hasSeparators(context))
+        Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(),
+                         context.color(ThemeNames::backgroundColor()));
+}
+
 /// The room that a thin scroll bar over the list takes from its rows.
 int scrollBarRoom(const StyleContext& context)
 {
@@ -166,14 +211,6 @@ int scrollBarRoom(const StyleContext& context)
     return bar && bar->isVisible() && WidgetTraits::isMinimizedScrollBar(bar)
                ? sVerticalScrollBarPadding
                : 0;
-}
-
-bool showsChildren(const StyleContext& context, const QStyleOptionViewItem& item)
-{
-    const QAbstractItemModel* model = item.index.model();
-    return context.flag(WidgetProperties::DrawChildIndicatorInListView) && model
-           && model->hasChildren(item.index) && isInListMode(context.widget)
-           && !WidgetTraits::isComboBoxList(context.widget);
 }
 
 void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item)
@@ -225,7 +262,8 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
 {
     const QRect whole = context.part(QStyle::SE_ItemViewItemText);
     const int margin = context.metric(QStyle::PM_FocusFrameHMargin) + TextMargin;
-    const int room = scrollBarRoom(context) + (showsChildren(context, item) ? IndicatorSize : 0);
+    const int room =
+        scrollBarRoom(context) + (showsChildren(context.widget, item) ? IndicatorSize : 0);
     const QRect rect = context.rightToLeft() ? whole.adjusted(margin + room, 0, -margin, 0)
                                              : whole.adjusted(margin, 0, -margin - room, 0);
     const int alignment = int(QStyle::visualAlignment(item.direction, item.displayAlignment));
@@ -285,9 +323,9 @@ void paintPanel(const PaintContext& context, const QStyleOptionViewItem& item)
         context.painter.setBrushOrigin(origin);
     }
     paintSelection(context);
-    if (hasSeparators(context))
-        Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(),
-                         context.color(ThemeNames::backgroundColor()));
+    if (!WidgetTraits::isTreeView(context.widget))
+        paintHover(context, item);
+    paintSeparator(context);
 }
 
 void paintRow(const PaintContext& context, const QStyleOptionViewItem& item)
@@ -295,9 +333,14 @@ void paintRow(const PaintContext& context, const QStyleOptionViewItem& item)
     if (item.features & QStyleOptionViewItem::Alternate)
         context.painter.fillRect(item.rect,
                                  context.brush(ThemeNames::itemViewAlternateBackgroundBrush()));
+    else if (hasThemedBackground(context))
+        context.painter.fillRect(item.rect, context.brush(ThemeNames::itemViewBackgroundBrush()));
     // In a tree the row begins before its first item, with the branches.
-    if (WidgetTraits::isTreeView(context.widget))
-        paintSelection(context);
+    if (!WidgetTraits::isTreeView(context.widget))
+        return;
+    paintSelection(context);
+    paintHover(context, item);
+    paintSeparator(context);
 }
 
 void paintBranch(const PaintContext& context)
@@ -322,7 +365,7 @@ void paintItem(const PaintContext& context, const QStyleOptionViewItem& item)
         paintIcon(context, item, brush);
     if (!item.text.isEmpty())
         paintText(context, item, brush);
-    if (showsChildren(context, item))
+    if (showsChildren(context.widget, item))
         paintChildIndicator(context, brush);
     if (context.has(QStyle::State_HasFocus))
         paintItemFocus(context, item);

@@ -114,6 +114,17 @@ void paintSeparator(const PaintContext& context, const QStyleOptionMenuItem& ite
                          {rect.right(), rect.center().y()}, line);
 }
 
+/// Quieter than the mark inside it, in the same color.
+void paintMarkBorder(const PaintContext& context, const QRect& rect, int radius,
+                     const QBrush& brush)
+{
+    constexpr qreal Opacity = 0.6;
+    const qreal opacity = context.painter.opacity();
+    context.painter.setOpacity(isSelected(context) ? opacity : opacity * Opacity);
+    Shapes::drawBox(context, rect, radius, Qt::NoBrush, brush);
+    context.painter.setOpacity(opacity);
+}
+
 /// A box or circle for what can be checked, with the mark in it when it is; an icon in a box when
 /// that is checked.
 void paintMark(const PaintContext& context, const QStyleOptionMenuItem& item, const QRect& column,
@@ -123,20 +134,18 @@ void paintMark(const PaintContext& context, const QStyleOptionMenuItem& item, co
     QRect rect(0, 0, side, side);
     rect.moveCenter(column.center());
     const bool checkable = item.checkType != QStyleOptionMenuItem::NotCheckable;
-    const QBrush& outline = context.style.lightOutlineBrush(item.palette);
     if (!item.icon.isNull()) {
         const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(item.icon, brush);
         const QIcon::State state = item.checked ? QIcon::On : QIcon::Off;
         const int extent = context.metric(QStyle::PM_SmallIconSize);
         if (checkable && item.checked)
-            Shapes::drawBox(context, rect.adjusted(-2, -2, 2, 2), 0, Qt::NoBrush, outline);
+            paintMarkBorder(context, rect.adjusted(-2, -2, 2, 2), 2, brush);
         context.proxy().drawItemPixmap(
             &context.painter, column, Qt::AlignCenter,
             Shapes::iconPixmap(context.painter, icon, {extent, extent}, QIcon::Normal, state));
     } else if (checkable) {
         const bool exclusive = item.checkType == QStyleOptionMenuItem::Exclusive;
-        Shapes::drawBox(context, rect, exclusive ? side / 2 : 2, Qt::NoBrush,
-                        isSelected(context) ? brush : outline);
+        paintMarkBorder(context, rect, exclusive ? side / 2 : 2, brush);
         if (item.checked && exclusive)
             context.style.drawRadioMark(&context.painter, rect.adjusted(2, 2, -2, -2), brush);
         else if (item.checked)
@@ -178,6 +187,18 @@ QBrush itemBrush(const PaintContext& context, const QStyleOptionMenuItem& item)
         return ButtonContent::textBrush(item, context.widget, QPalette::Text, themed);
     }
     return item.palette.brush(QPalette::Text);
+}
+
+} // namespace
+
+namespace {
+
+/// What lies behind a whole menu bar: one surface, with or without disabled items. The toolkit asks
+/// for the empty area without a state.
+QBrush barBrush(const PaintContext& context)
+{
+    const bool enabled = context.widget ? context.widget->isEnabled() : context.enabled();
+    return BaseStyle::getBrush(ThemeNames::backgroundSubLevel2Brush(), enabled);
 }
 
 } // namespace
@@ -224,6 +245,16 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
     }
 }
 
+void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item)
+{
+    // The base style fills it with the color of buttons, which is not that of menus.
+    QStyleOptionMenuItem tearoff = item;
+    tearoff.palette.setBrush(QPalette::Button,
+                             ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush()));
+    context.style.QProxyStyle::drawControl(QStyle::CE_MenuTearoff, &tearoff, &context.painter,
+                                           context.widget);
+}
+
 void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     constexpr int HoverLine = 2;
@@ -231,8 +262,7 @@ void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item)
     const QRect& rect = item.rect;
     const bool open = isSelected(context) && BaseStyle::isPressed(item);
     const QColor main = context.color(ThemeNames::mainColor());
-    context.painter.fillRect(rect, open ? QBrush(main)
-                                        : context.brush(ThemeNames::backgroundSubLevel2Brush()));
+    context.painter.fillRect(rect, open ? QBrush(main) : barBrush(context));
     if (isSelected(context) && !open)
         context.painter.fillRect(
             QRect(rect.x(), rect.bottom() + 1 - HoverLine, rect.width(), HoverLine), main);
@@ -251,8 +281,7 @@ void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 
 void paintBarEmptyArea(const PaintContext& context)
 {
-    context.painter.fillRect(context.option.rect,
-                             context.brush(ThemeNames::backgroundSubLevel2Brush()));
+    context.painter.fillRect(context.option.rect, barBrush(context));
 }
 
 } // namespace BRELK::Menus

@@ -79,6 +79,8 @@ QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& fra
         rect.setHeight(context.widget->height());
     else
         rect.setWidth(context.widget->width());
+    if (context.rightToLeft())
+        rect.moveRight(base.right());
     return rect;
 }
 
@@ -96,12 +98,17 @@ QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, const QR
     }
 }
 
-QRect rightButtonRect(const StyleContext&, const QStyleOptionTab& tab, const QRect& base)
+QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect& base)
 {
     QRect rect = base;
     switch (tab.shape) {
     case QTabBar::RoundedNorth:
-    case QTabBar::RoundedSouth: rect.moveRight(tab.rect.right() - CloseButtonInset); break;
+    case QTabBar::RoundedSouth:
+        if (context.rightToLeft())
+            rect.moveLeft(tab.rect.left() + CloseButtonInset);
+        else
+            rect.moveRight(tab.rect.right() - CloseButtonInset);
+        break;
     case QTabBar::RoundedWest: rect.moveTop(tab.rect.top() + CloseButtonInset); break;
     case QTabBar::RoundedEast: rect.moveBottom(tab.rect.bottom() - CloseButtonInset); break;
     default: break;
@@ -194,18 +201,21 @@ bool isFirst(const QStyleOptionTab& tab)
            || tab.position == QStyleOptionTab::OnlyOneTab;
 }
 
-/// Tabs that are not selected are a little lower, and share one border line with their neighbour.
+/// Tabs that are not selected are a little lower and end at the line that the page begins with.
+/// Neighbours share one border line.
 QRect shapeRect(const QStyleOptionTab& tab, Side side, bool selected)
 {
     constexpr int Lowering = 2;
-    QRect rect = tab.rect;
     const int overlap = isFirst(tab) ? 0 : 1;
     const int lowering = selected ? 0 : Lowering;
+    const int line = selected ? 0 : BaseOverlap;
+    const int toLeft = tab.direction == Qt::RightToLeft ? 0 : overlap;
+    const int toRight = overlap - toLeft;
     switch (side) {
-    case Side::North: return rect.adjusted(-overlap, lowering, 0, 0);
-    case Side::South: return rect.adjusted(-overlap, 0, 0, -lowering);
-    case Side::West: return rect.adjusted(lowering, -overlap, 0, 0);
-    default: return rect.adjusted(0, -overlap, -lowering, 0);
+    case Side::North: return tab.rect.adjusted(-toLeft, lowering, toRight, -line);
+    case Side::South: return tab.rect.adjusted(-toLeft, line, toRight, -lowering);
+    case Side::West: return tab.rect.adjusted(lowering, -overlap, -line, 0);
+    default: return tab.rect.adjusted(line, -overlap, -lowering, 0);
     }
 }
 
@@ -247,9 +257,9 @@ void paintFrame(const PaintContext& context)
         QRect gap = frame->selectedTabRect;
         const Side side = sideOf(frame->shape);
         if (side == Side::North || side == Side::South)
-            gap.adjust(0, -BaseOverlap, -1, BaseOverlap);
+            gap.adjust(0, 0, -1, 0);
         else
-            gap.adjust(-BaseOverlap, 0, BaseOverlap, -1);
+            gap.adjust(0, 0, 0, -1);
         context.painter.setClipRegion(QRegion(rect).subtracted(gap));
     }
     context.painter.setPen(
@@ -301,8 +311,7 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
     const QLine edge = pageEdge(side, rect);
     const QPoint inset = side == Side::North || side == Side::South ? QPoint(1, 0) : QPoint(0, 1);
     const PainterSaver saver(context.painter);
-    Shapes::drawLine(context, edge.p1() + inset, edge.p2() - inset,
-                     selected ? fill : context.borderBrush());
+    Shapes::drawLine(context, edge.p1() + inset, edge.p2() - inset, fill);
 }
 
 namespace {
@@ -331,8 +340,7 @@ void paintIcon(const PaintContext& context, const QStyleOptionTab& tab, const QB
     const int extent = context.metric(QStyle::PM_TabBarIconSize);
     const QSize wanted = tab.iconSize.isValid() ? tab.iconSize : QSize(extent, extent);
     const QSize size = tab.icon.actualSize(wanted).boundedTo(wanted);
-    QRect rect(text.left() - Spacing - size.width(), text.center().y() - size.height() / 2,
-               size.width(), size.height());
+    QRect rect(text.left() - Spacing - size.width(), text.y(), size.width(), text.height());
     if (context.rightToLeft() && !isUpright(sideOf(tab.shape)))
         rect.moveLeft(text.right() + 1 + Spacing);
     const QIcon::State state = context.has(QStyle::State_Selected) ? QIcon::On : QIcon::Off;

@@ -2,6 +2,7 @@
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeColorHelper.h"
+#include "ThemeNames.h"
 
 // The title bars of sub-windows and docks, and the frames of windows.
 
@@ -96,11 +97,34 @@ QRect partRect(const PaintContext& context, const QStyleOptionTitleBar& bar,
     return context.proxy().subControlRect(QStyle::CC_TitleBar, &bar, part, context.widget);
 }
 
+bool isLight(const QColor& color)
+{
+    constexpr int Middle = 128;
+    return Helpers::getPerceivedBrightness(color) > Middle;
+}
+
+/// The caption of the active window is white whatever the theme: on a light title bar it gets a
+/// ground of the main color to stand on.
+void paintCaptionBacking(const PaintContext& context, const QStyleOptionTitleBar& bar,
+                         const QRect& label, const QString& text)
+{
+    constexpr int Padding = 8;
+    constexpr int Inset = 4;
+    const int width = bar.fontMetrics.horizontalAdvance(text) + 2 * Padding;
+    QRect rect(0, 0, qMin(width, label.width()), label.height() - 2 * Inset);
+    rect.moveCenter(label.center());
+    if (!text.isEmpty() && rect.isValid())
+        Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::baseSize()),
+                        context.color(ThemeNames::mainColor()), Qt::NoBrush);
+}
+
 void paintCaption(const PaintContext& context, const QStyleOptionTitleBar& bar, bool active)
 {
     const QRect rect = partRect(context, bar, QStyle::SC_TitleBarLabel);
     const QString text =
         bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, rect.width() - CaptionRoom);
+    if (active && isLight(bar.palette.color(QPalette::Light)))
+        paintCaptionBacking(context, bar, rect, text);
     context.painter.setPen(active ? QColor(Qt::white) : bar.palette.color(QPalette::Text));
     context.painter.drawText(rect.adjusted(1, 1, 1, 1), Qt::AlignCenter, text);
 }
@@ -120,6 +144,13 @@ void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& ba
     context.proxy().drawItemPixmap(
         &context.painter, rect, Qt::AlignCenter,
         Shapes::iconPixmap(context.painter, icon, {MenuIconSize, MenuIconSize}));
+}
+
+/// The theme has no icon for these, and the toolkit's have colors of their own.
+bool isToolkitIcon(QStyle::StandardPixmap icon)
+{
+    return icon == QStyle::SP_TitleBarContextHelpButton || icon == QStyle::SP_TitleBarShadeButton
+           || icon == QStyle::SP_TitleBarUnshadeButton;
 }
 
 /// A vertical dock title reads from the bottom to the top: the painter is turned so that it can be
@@ -173,8 +204,7 @@ void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titl
     context.painter.setBrush(Qt::NoBrush);
     context.painter.drawRect(rect);
 
-    if (titleBar.subControls & QStyle::SC_TitleBarLabel)
-        paintCaption(context, titleBar, active);
+    paintCaption(context, titleBar, active);
     for (const TitleButton& button : TitleButtons) {
         if (titleBar.subControls & button.part && button.isShown(titleBar))
             context.style.drawTitleBarButton(&context.painter, &titleBar, button.part, button.icon,
@@ -209,11 +239,17 @@ void BaseStyle::drawTitleBarButton(QPainter* painter, const QStyleOptionTitleBar
             & (State_MouseOver | State_Sunken | State_HasFocus | State_Active | State_Enabled);
     proxy()->drawPrimitive(PE_PanelButtonBevel, &button, painter, widget);
 
-    const QIcon colored = ThemeColorHelper::getModifiedIconWithForegroundBrush(
-        standardIcon(icon, nullptr, widget), buttonBrushes(&button, widget).foregroundBrush);
-    proxy()->drawItemPixmap(
-        painter, rect, Qt::AlignCenter,
-        Shapes::iconPixmap(*painter, colored, {TitleBars::IconSize, TitleBars::IconSize}));
+    const QBrush foreground = buttonBrushes(&button, widget).foregroundBrush;
+    const QIcon given = standardIcon(icon, nullptr, widget);
+    const QIcon colored = ThemeColorHelper::getModifiedIconWithForegroundBrush(given, foreground);
+    QPixmap pixmap =
+        Shapes::iconPixmap(*painter, colored, {TitleBars::IconSize, TitleBars::IconSize});
+    if (TitleBars::isToolkitIcon(icon) && !pixmap.isNull()) {
+        QPainter tint(&pixmap);
+        tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        tint.fillRect(pixmap.rect(), foreground);
+    }
+    proxy()->drawItemPixmap(painter, rect, Qt::AlignCenter, pixmap);
 }
 
 } // namespace BRELK

@@ -15,12 +15,28 @@ namespace {
 constexpr int HorizontalPadding = 6;
 constexpr int VerticalPadding = 4;
 
+bool hasMenuPart(const QStyleOptionToolButton& button)
+{
+    return button.features & QStyleOptionToolButton::MenuButtonPopup;
+}
+
+/// Whether room beside the label is kept for the arrow that tells of a menu. An icon alone shares
+/// its place with it.
+bool hasMenuMark(const QStyleOptionToolButton& button, const QWidget* widget)
+{
+    return button.features & QStyleOptionToolButton::HasMenu && !hasMenuPart(button)
+           && button.toolButtonStyle != Qt::ToolButtonIconOnly
+           && !WidgetProperties::flag(widget, WidgetProperties::NoMenuArrow);
+}
+
 } // namespace
 
 QSize toolButtonSize(const MeasureContext& context, const QStyleOptionToolButton& button,
                      const QSize& contents, const QSize&)
 {
-    const int width = contents.width() + 2 * context.dpiScaled(HorizontalPadding);
+    const int markWidth =
+        hasMenuMark(button, context.widget) ? context.metric(QStyle::PM_MenuButtonIndicator) : 0;
+    const int width = contents.width() + markWidth + 2 * context.dpiScaled(HorizontalPadding);
     const int height =
         qMax(contents.height() + 2 * context.dpiScaled(VerticalPadding), context.controlHeight());
     const bool iconOnly = button.toolButtonStyle == Qt::ToolButtonIconOnly;
@@ -33,11 +49,6 @@ constexpr int IconSpacing = 4;
 constexpr int FocusInset = 3;
 constexpr QStyle::State PanelStates =
     QStyle::State_Sunken | QStyle::State_On | QStyle::State_Raised;
-
-bool hasMenuPart(const QStyleOptionToolButton& button)
-{
-    return button.features & QStyleOptionToolButton::MenuButtonPopup;
-}
 
 /// The states of the button part and of the menu part: only the one that is pressed is sunken.
 struct PartStates
@@ -68,8 +79,11 @@ void paintButtonPanel(const PaintContext& context, const QStyleOptionToolButton&
     panel.rect = rect;
     panel.state = state;
     // One circle, or pill, behind both parts.
-    if (context.flag(WidgetProperties::Circular) && hasMenuPart(button))
+    if (context.flag(WidgetProperties::Circular) && hasMenuPart(button)) {
         panel.rect.setWidth(rect.width() + menuWidth);
+        if (context.rightToLeft())
+            panel.rect.moveRight(rect.right());
+    }
     context.draw(QStyle::PE_PanelButtonTool, panel);
 }
 
@@ -78,7 +92,8 @@ void paintFocus(const PaintContext& context, const QStyleOptionToolButton& butto
     auto focus = optionFrom<QStyleOptionFocusRect>(button);
     focus.rect.adjust(FocusInset, FocusInset, -FocusInset, -FocusInset);
     if (hasMenuPart(button))
-        focus.rect.adjust(0, 0, -context.metric(QStyle::PM_MenuButtonIndicator), 0);
+        focus.rect = context.visual(
+            focus.rect.adjusted(0, 0, -context.metric(QStyle::PM_MenuButtonIndicator), 0));
     context.draw(QStyle::PE_FrameFocusRect, focus);
 }
 
@@ -86,7 +101,7 @@ void paintMenuPart(const PaintContext& context, const QStyleOptionToolButton& bu
                    const QRect& area, QStyle::State state)
 {
     QStyleOptionToolButton menu = button;
-    menu.rect = area.adjusted(-1, 0, 0, 0);
+    menu.rect = context.rightToLeft() ? area.adjusted(0, 0, 1, 0) : area.adjusted(-1, 0, 0, 0);
     menu.state = state;
     menu.subControls = QStyle::SC_ToolButtonMenu;
     if (state & PanelStates && !context.flag(WidgetProperties::Circular))
@@ -98,8 +113,8 @@ void paintMenuMark(const PaintContext& context, const QStyleOptionToolButton& bu
 {
     const int side = context.metric(QStyle::PM_MenuButtonIndicator);
     QStyleOptionToolButton mark = button;
-    mark.rect = QRect(button.rect.right() - side,
-                      button.rect.y() + (button.rect.height() - side) / 2, side, side);
+    mark.rect = context.visual({button.rect.right() - side,
+                                button.rect.y() + (button.rect.height() - side) / 2, side, side});
     context.draw(QStyle::PE_IndicatorArrowDown, mark);
 }
 
@@ -122,15 +137,24 @@ void paintIcon(const PaintContext& context, const QStyleOptionToolButton& button
         Shapes::iconPixmap(context.painter, button.icon, size, QIcon::Normal, state));
 }
 
+QSize textSize(const QStyleOptionToolButton& button)
+{
+    return button.fontMetrics.size(Qt::TextShowMnemonic, button.text);
+}
+
+/// The icon and the text stand together in the middle.
 void paintBeside(const PaintContext& context, const QStyleOptionToolButton& button,
                  const QRect& rect)
 {
-    const QRect iconRect(rect.x(), rect.y(), button.iconSize.width(), rect.height());
-    const QRect text = rect.adjusted(button.iconSize.width() + IconSpacing, 0, 0, 0);
+    const int iconWidth = button.iconSize.width();
+    const int width = qMin(iconWidth + IconSpacing + textSize(button).width(), rect.width());
+    const QRect block(rect.x() + (rect.width() - width) / 2, rect.y(), width, rect.height());
+    const QRect icon(block.x(), block.y(), qMin(iconWidth, width), block.height());
+    const QRect text = block.adjusted(iconWidth + IconSpacing, 0, 0, 0);
     const auto mirrored = [&](const QRect& part) {
         return QStyle::visualRect(button.direction, rect, part);
     };
-    paintIcon(context, button, mirrored(iconRect));
+    paintIcon(context, button, mirrored(icon));
     const auto flags = QStyle::visualAlignment(button.direction, Qt::AlignLeft | Qt::AlignVCenter);
     Shapes::drawText(context, mirrored(text), int(flags) | Qt::TextShowMnemonic, button.text,
                      textBrush(button));
@@ -139,21 +163,22 @@ void paintBeside(const PaintContext& context, const QStyleOptionToolButton& butt
 void paintUnder(const PaintContext& context, const QStyleOptionToolButton& button,
                 const QRect& rect)
 {
-    const int textHeight = button.fontMetrics.size(Qt::TextShowMnemonic, button.text).height();
-    paintIcon(context, button, rect.adjusted(0, 0, 0, -textHeight));
+    const int textHeight = textSize(button).height();
+    const int height = qMin(button.iconSize.height() + IconSpacing + textHeight, rect.height());
+    const QRect block(rect.x(), rect.y() + (rect.height() - height) / 2, rect.width(), height);
+    paintIcon(context, button, block.adjusted(0, 0, 0, -textHeight - IconSpacing));
     Shapes::drawText(context,
-                     QRect(rect.x(), rect.bottom() + 1 - textHeight, rect.width(), textHeight),
+                     QRect(block.x(), block.bottom() + 1 - textHeight, block.width(), textHeight),
                      Qt::AlignCenter | Qt::TextShowMnemonic, button.text, textBrush(button));
 }
 
 /// What the menu mark leaves of the label's place.
 QRect contentsRect(const PaintContext& context, const QStyleOptionToolButton& button)
 {
-    const bool hasMark = button.features & QStyleOptionToolButton::HasMenu && !hasMenuPart(button)
-                         && button.toolButtonStyle != Qt::ToolButtonIconOnly
-                         && !context.flag(WidgetProperties::NoMenuArrow);
-    return hasMark ? button.rect.adjusted(0, 0, -context.metric(QStyle::PM_MenuButtonIndicator), 0)
-                   : button.rect;
+    if (!hasMenuMark(button, context.widget))
+        return button.rect;
+    const int markWidth = context.metric(QStyle::PM_MenuButtonIndicator);
+    return context.visual(button.rect.adjusted(0, 0, -markWidth, 0));
 }
 
 } // namespace
