@@ -41,10 +41,8 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 void paintStatusBar(const PaintContext& context)
 {
     const QRect& rect = context.option.rect;
-    const PainterSaver saver(context.painter);
     context.painter.fillRect(rect, context.brush(ThemeNames::backgroundSubLevel1Brush()));
-    context.painter.setPen(context.borderBrush().color());
-    context.painter.drawLine(rect.topRight(), rect.topLeft());
+    Shapes::drawLine(context, rect.topLeft(), rect.topRight(), context.borderBrush().color());
 }
 
 void paintSplitter(const PaintContext& context)
