@@ -23,6 +23,7 @@ constexpr int SmallestTextWidth = 72;
 constexpr int Margin = 8;
 constexpr int IconSize = 16;
 constexpr int IconSpacing = 4;
+constexpr int ElisionMargin = 3; ///< keeps an elided text off the border
 
 /// Half the shorter side makes a circle, or a pill.
 int panelRadius(const StyleContext& context, const QRect& rect)
@@ -91,16 +92,40 @@ Corners toolButtonCorners(const StyleContext& context, const QStyleOptionToolBut
     return isMenuPart ? joinedBehind(context) : joinedBefore(context);
 }
 
+bool isArrowOfEditor(const QWidget* widget)
+{
+    const auto* comboBox = qobject_cast<const QComboBox*>(widget);
+    return (comboBox && comboBox->isEditable()) || WidgetTraits::isCalendarPopupEditor(widget);
+}
+
+/// The arrow of an editable combo box ends before the box does, its panel with it.
+QRect panelRect(const StyleContext& context)
+{
+    QRect rect = context.option.rect;
+    if (isArrowOfEditor(context.widget))
+        rect.setRight(qMax(rect.right(), context.widget->width() - 1));
+    return rect;
+}
+
 Corners straightCorners(const StyleContext& context)
 {
     if (const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(&context.option))
         return toolButtonCorners(context, *button);
-    const auto* comboBox = qobject_cast<const QComboBox*>(context.widget);
     // Deliberate: combo boxes keep their sides in right-to-left layouts.
-    if ((comboBox && comboBox->isEditable()) || WidgetTraits::isCalendarPopupEditor(context.widget))
+    if (isArrowOfEditor(context.widget))
         return Helpers::LeftCorners;
     return WidgetTraits::isSpinBox(context.widget) ? spinButtonCorners(context)
                                                    : Corners(Helpers::None);
+}
+
+/// The ground of a spin box is also that of its buttons, until one is pressed.
+bool isSpinButtonOnGround(const StyleContext& context, const QBrush& background)
+{
+    return WidgetTraits::isSpinBox(context.widget)
+           && !WidgetTraits::isCalendarPopupEditor(context.widget)
+           && background
+                  == BaseStyle::getBrush(ThemeNames::inputUncheckedBackgroundBrush(),
+                                         context.widget->isEnabled());
 }
 
 /// An outline button is empty until it is pointed at, pressed or checked; a flat one shows nothing
@@ -114,15 +139,46 @@ bool isFilled(const StyleContext& context)
                 || BaseStyle::isFlatButton(&context.option));
 }
 
+/// A spin box shows on its frame, not on its buttons, that it holds an error.
+bool showsError(const StyleContext& context)
+{
+    return context.flag(WidgetProperties::DrawErrorIndicator)
+           && (!WidgetTraits::isSpinBox(context.widget)
+               || WidgetTraits::isCalendarPopupEditor(context.widget));
+}
+
+bool isInRow(const QWidget* segment)
+{
+    return WidgetProperties::value(segment->parent(), WidgetProperties::Orientation).toInt()
+           == Qt::Horizontal;
+}
+
+/// Of two borders that meet, that of the earlier segment is seen; the later one's lies outside.
+QRect segmentRect(const StyleContext& context)
+{
+    const QWidget* segment = context.widget;
+    const bool isLater =
+        WidgetProperties::value(segment, WidgetProperties::ButtonVisibleIndex).toInt() > 0
+        && !WidgetProperties::flag(segment->parent(), WidgetProperties::ButtonGroupWorkflow);
+    const bool inRow = isInRow(segment);
+    return context.option.rect.adjusted(isLater && inRow ? -1 : 0, isLater && !inRow ? -1 : 0, 0,
+                                        0);
+}
+
 void paintSegment(const PaintContext& context, const BaseStyle::ButtonBrushes& brushes)
 {
     const PainterSaver saver(context.painter);
     context.painter.setRenderHint(QPainter::Antialiasing);
     context.painter.setPen(Shapes::borderPen(brushes.borderBrush));
     context.painter.setBrush(brushes.backgroundBrush);
-    context.style.drawButtonGroup(Shapes::onPixels(context.option.rect), &context.painter,
-                                  &context.option, Shapes::cornerRadius(ThemeNames::baseSize()),
-                                  brushes, context.widget);
+    const QRect rect = segmentRect(context);
+    if (context.rightToLeft() && isInRow(context.widget)) {
+        context.painter.translate(2 * context.option.rect.x() + context.option.rect.width(), 0);
+        context.painter.scale(-1, 1);
+    }
+    context.style.drawButtonGroup(Shapes::onPixels(rect), &context.painter, &context.option,
+                                  Shapes::cornerRadius(ThemeNames::baseSize()), brushes,
+                                  context.widget);
 }
 
 /// Where the label goes: left of the menu arrow, right of it in a right-to-left layout.
@@ -132,6 +188,16 @@ QRect labelRect(const StyleContext& context, const QStyleOptionButton& button)
         return button.rect;
     const int indicator = context.metric(QStyle::PM_MenuButtonIndicator);
     return context.visual(button.rect.adjusted(0, 0, -indicator, 0));
+}
+
+/// The largest square whose corners a circle inside `rect` reaches.
+QRect squareInside(const QRect& rect)
+{
+    constexpr qreal SideOfDiameter = 0.7071;
+    const int side = int(qMin(rect.width(), rect.height()) * SideOfDiameter);
+    QRect square(0, 0, side, side);
+    square.moveCenter(rect.center());
+    return square;
 }
 
 QSize shownIconSize(const QStyleOptionButton& button, const QRect& rect)
@@ -163,8 +229,10 @@ void paintPanel(const PaintContext& context)
         paintSegment(context, brushes);
         return;
     }
+    if (isSpinButtonOnGround(context, brushes.backgroundBrush))
+        return;
     const bool filled = isFilled(context);
-    const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
+    const bool hasError = showsError(context);
     if (!filled && !hasError && BaseStyle::isFlatButton(&context.option))
         return;
     const QColor errorColor = context.color(ThemeNames::statusDangerColor());
@@ -173,7 +241,7 @@ void paintPanel(const PaintContext& context)
     else if (context.flag(WidgetProperties::Frameless))
         brushes.borderBrush = Qt::NoBrush;
 
-    const QRect& rect = context.option.rect;
+    const QRect rect = panelRect(context);
     const int radius = panelRadius(context, rect);
     Shapes::drawBox(context, rect, radius, filled ? brushes.backgroundBrush : QBrush(),
                     brushes.borderBrush, straightCorners(context));
@@ -191,7 +259,9 @@ void paintButton(const PaintContext& context, const QStyleOptionButton& button)
 
     if (context.has(QStyle::State_HasFocus)) {
         auto focus = optionFrom<QStyleOptionFocusRect>(button);
-        focus.rect = context.part(QStyle::SE_PushButtonFocusRect);
+        focus.rect = context.flag(WidgetProperties::Circular)
+                         ? squareInside(button.rect)
+                         : context.part(QStyle::SE_PushButtonFocusRect);
         context.draw(QStyle::PE_FrameFocusRect, focus);
     }
 }
@@ -239,6 +309,8 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
         rect = context.visual(content.adjusted(iconSize.width() + spacing, 0, 0, 0));
     }
     constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
+    if (button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width() > rect.width())
+        rect.adjust(ElisionMargin, 0, -ElisionMargin, 0);
     Shapes::drawText(context, rect, Flags, button.text, foreground);
 }
 

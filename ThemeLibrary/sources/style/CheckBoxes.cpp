@@ -18,11 +18,13 @@ constexpr int IndicatorSize = 16;
 constexpr int SwitchWidth = 32;
 constexpr int LabelSpacing = 8;
 constexpr int VerticalPadding = 2;
+constexpr int FocusMargin = 3; ///< what the focus mark needs after the label
 
 QSize labelledSize(const MeasureContext& context, const QSize& contents, const QSize& indicator,
                    int spacing)
 {
-    const int width = indicator.width() + (contents.width() > 0 ? spacing + contents.width() : 0);
+    const int label = contents.width() > 0 ? spacing + contents.width() + FocusMargin : 0;
+    const int width = indicator.width() + label;
     const int height = qMax(contents.height(), indicator.height());
     return {width, qMax(height, context.rowHeight(VerticalPadding))};
 }

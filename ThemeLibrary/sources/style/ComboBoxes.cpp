@@ -4,6 +4,10 @@
 #include "Shapes.h"
 #include "ThemeNames.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QScrollBar>
+
 // Combo boxes and calendar-popup date editors.
 
 namespace BRELK::ComboBoxes {
@@ -13,11 +17,31 @@ namespace {
 constexpr int TextPadding = 8;
 constexpr int FrameInset = 4; ///< what the edit field already keeps off the border
 constexpr int IconSpacing = 4;
+constexpr int FocusInset = 3;
 
 /// The arrow area is a square of the box's height, but never narrower than the arrow.
 int arrowExtent(const StyleContext& context, const QRect& box)
 {
     return qMax(box.height(), context.metric(QStyle::PM_MenuButtonIndicator));
+}
+
+/// As wide as the longest item at least; the combo box keeps it on the screen.
+QRect popupRect(const StyleContext& context, const QRect& box)
+{
+    const auto* comboBox = qobject_cast<const QComboBox*>(context.widget);
+    if (!comboBox)
+        return box;
+    const QAbstractItemView* view = comboBox->view();
+    const auto* popup = qobject_cast<const QFrame*>(view->parentWidget());
+    const int frames = view->frameWidth() + (popup ? popup->frameWidth() : 0);
+    const bool scrolls = comboBox->count() > comboBox->maxVisibleItems();
+    const int bar = scrolls ? view->verticalScrollBar()->sizeHint().width() : 0;
+    const int width = view->sizeHintForColumn(comboBox->modelColumn()) + 2 * frames + bar;
+    QRect rect = box;
+    rect.setWidth(qMax(width, box.width()));
+    if (context.rightToLeft())
+        rect.moveRight(box.right());
+    return rect;
 }
 
 } // namespace
@@ -37,7 +61,7 @@ QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox
 {
     // Deliberate: nothing is mirrored, combo boxes keep their sides in right-to-left layouts.
     const QRect& box = comboBox.rect;
-    QRect rect = base;
+    QRect rect = context.visual(base); // the base style has mirrored it
     switch (part) {
     case QStyle::SC_ComboBoxEditField:
         if (comboBox.editable) {
@@ -49,14 +73,20 @@ QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox
     case QStyle::SC_ComboBoxArrow:
         rect.setLeft(box.width() + 4 - arrowExtent(context, box));
         return rect;
+    case QStyle::SC_ComboBoxListBoxPopup: return popupRect(context, base);
     default: return base;
     }
 }
 
 namespace {
 
-/// A combo box without a frame shows only its text, and a patch under it while it is pointed at or
-/// open.
+bool showsPlaceholder(const QWidget* widget)
+{
+    const auto* comboBox = qobject_cast<const QComboBox*>(widget);
+    return comboBox && comboBox->currentIndex() < 0 && !comboBox->placeholderText().isEmpty();
+}
+
+/// A combo box without a frame marks its text, and not its arrow, while it is pointed at or open.
 void paintQuietBackground(const PaintContext& context, const QRect& rect)
 {
     if (!BaseStyle::isHovered(&context.option) && !BaseStyle::isDown(context.option))
@@ -69,6 +99,8 @@ void paintQuietBackground(const PaintContext& context, const QRect& rect)
 
 QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
+    if (showsPlaceholder(context.widget))
+        return comboBox.palette.brush(QPalette::PlaceholderText);
     const QBrush themed = comboBox.frame
                               ? BaseStyle::buttonBrushes(&comboBox, context.widget).foregroundBrush
                               : context.brush(ThemeNames::foregroundBrush());
@@ -81,7 +113,7 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
 {
     const QSize size = comboBox.currentIcon.actualSize(comboBox.iconSize.boundedTo(rect.size()));
     QRect iconRect(rect.x() + IconSpacing, rect.y(), size.width(), rect.height());
-    if (context.rightToLeft() && !comboBox.editable)
+    if (context.rightToLeft())
         iconRect.moveRight(rect.right() - IconSpacing);
     if (comboBox.editable) // the line edit leaves this place open
         context.painter.fillRect(iconRect,
@@ -100,7 +132,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
     QRect rect = context.proxy().subControlRect(QStyle::CC_ComboBox, &comboBox,
                                                 QStyle::SC_ComboBoxEditField, context.widget);
     if (!comboBox.frame && !comboBox.editable)
-        paintQuietBackground(context, comboBox.rect);
+        paintQuietBackground(context, rect | QRect(comboBox.rect.topLeft(), rect.size()));
 
     const PainterSaver saver(context.painter);
     context.painter.setClipRect(rect, Qt::IntersectClip);
@@ -140,6 +172,12 @@ void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comb
         arrow.rect = arrowRect;
         ButtonContent::commonCallButtonText(arrow, context.widget);
         context.draw(QStyle::PE_IndicatorArrowDown, arrow);
+    }
+    if (!comboBox.editable && context.has(QStyle::State_HasFocus)) {
+        auto focus = optionFrom<QStyleOptionFocusRect>(copy);
+        const int inset = comboBox.frame ? FocusInset : 0;
+        focus.rect.adjust(inset, inset, -inset, -inset);
+        context.draw(QStyle::PE_FrameFocusRect, focus);
     }
 }
 

@@ -82,6 +82,7 @@ QStyle::PrimitiveElement lineArrow(const StyleContext& context, bool forwards)
 
 void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool forwards)
 {
+    context.painter.fillRect(bar.rect, context.style.grooveBackgroundBrush(context.enabled()));
     QStyleOptionSlider arrow = bar;
     arrow.rect = QRect(0, 0, ArrowSize, ArrowSize);
     arrow.rect.moveCenter(bar.rect.center());

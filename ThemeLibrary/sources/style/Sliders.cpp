@@ -18,6 +18,7 @@ constexpr int HandleLength = 16;
 constexpr int GrooveThickness = 12; ///< the metric; the groove is half of it, less two
 constexpr int CrossSize = 20;
 constexpr int TickLength = 4;
+constexpr int TickRoom = TickLength + 2;
 
 int minimumHeight(const QWidget* widget)
 {
@@ -73,9 +74,11 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider, const QSize&,
                  const QSize& base)
 {
-    const QSize smallest(slider.orientation == Qt::Vertical ? context.dpiScaled(CrossSize) : 0,
-                         slider.orientation == Qt::Horizontal ? context.dpiScaled(CrossSize) : 0);
-    return base.expandedTo(smallest);
+    // The handle stays in the middle: ticks on one side take as much room as on both.
+    const int cross = context.dpiScaled(
+        slider.tickPosition == QSlider::NoTicks ? CrossSize : HandleLength + 2 * TickRoom);
+    const bool vertical = slider.orientation == Qt::Vertical;
+    return base.expandedTo({vertical ? cross : 0, vertical ? 0 : cross});
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
@@ -137,7 +140,7 @@ void paintGroove(const SliderLook& look)
 QRectF highlightedRect(const SliderLook& look)
 {
     const QRectF groove = look.groove;
-    const QRectF handle = look.handle;
+    const QRect& handle = look.handle;
     if (look.horizontal) {
         return look.slider.upsideDown
                    ? groove.adjusted(handle.right() - look.radius + 0.5, 0.5, -1.0, 0.5)
@@ -178,22 +181,21 @@ qint64 tickInterval(const SliderLook& look, int available)
     return qMax(1, stepWidth < SmallestStepWidth ? slider.pageStep : slider.singleStep);
 }
 
-void paintTick(const SliderLook& look, int position, int inset, int length)
+void paintTick(const SliderLook& look, int position, int inset, int length, const QBrush& brush)
 {
     const QRect& rect = look.slider.rect;
-    QPainter& painter = look.context.painter;
-    if (look.slider.tickPosition & QSlider::TicksAbove) {
+    const auto draw = [&](int from, int to) {
         if (look.horizontal)
-            painter.drawLine(position, rect.top() + inset, position, rect.top() + length);
+            Shapes::drawLine(look.context, {position, from}, {position, to}, brush);
         else
-            painter.drawLine(rect.left() + inset, position, rect.left() + length, position);
-    }
-    if (look.slider.tickPosition & QSlider::TicksBelow) {
-        if (look.horizontal)
-            painter.drawLine(position, rect.bottom() - inset, position, rect.bottom() - length);
-        else
-            painter.drawLine(rect.right() - inset, position, rect.right() - length, position);
-    }
+            Shapes::drawLine(look.context, {from, position}, {to, position}, brush);
+    };
+    const int start = look.horizontal ? rect.top() : rect.left();
+    const int end = look.horizontal ? rect.bottom() : rect.right();
+    if (look.slider.tickPosition & QSlider::TicksAbove)
+        draw(start + inset, start + length);
+    if (look.slider.tickPosition & QSlider::TicksBelow)
+        draw(end - length, end - inset);
 }
 
 void paintTicks(const SliderLook& look)
@@ -208,14 +210,15 @@ void paintTicks(const SliderLook& look)
     if (range < 0 || space <= 0 || range / interval > space) // closer than a pixel
         return;
 
-    context.painter.setPen(context.brush(ThemeNames::inputForegroundBrush()).color());
+    const QBrush brush = context.brush(ThemeNames::inputForegroundBrush()).color();
     const qint64 end = qint64(slider.maximum) + 1;
     for (qint64 value = slider.minimum; value <= end; value += interval) {
         if (value == end && interval == 1)
             break;
         const int shown = int(qMin(value, qint64(slider.maximum)));
         const int inset = shown == slider.minimum || shown == slider.maximum ? 1 : 2;
-        paintTick(look, positionOf(slider, shown, space) + handleLength / 2, inset, tickLength);
+        paintTick(look, positionOf(slider, shown, space) + handleLength / 2, inset, tickLength,
+                  brush);
     }
 }
 
@@ -239,6 +242,19 @@ void paintHandle(const SliderLook& look)
     painter.setPen(look.highContrast ? look.highContrastBorder().color() : brush.color());
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawEllipse(look.handle.adjusted(1, 1, -1, -1));
+}
+
+/// Around the way of the handle, clear of the ticks.
+void paintFocus(const SliderLook& look)
+{
+    const QRect& rect = look.slider.rect;
+    const QRect& handle = look.handle;
+    auto focus = optionFrom<QStyleOptionFocusRect>(look.slider);
+    focus.rect = look.horizontal
+                     ? QRect(rect.x(), handle.y() - 1, rect.width(), handle.height() + 2)
+                     : QRect(handle.x() - 1, rect.y(), handle.width() + 2, rect.height());
+    focus.rect &= rect;
+    look.context.draw(QStyle::PE_FrameFocusRect, focus);
 }
 
 } // namespace
@@ -266,6 +282,8 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
         paintTicks(look);
     if (slider.subControls & QStyle::SC_SliderHandle)
         paintHandle(look);
+    if (context.has(QStyle::State_HasFocus))
+        paintFocus(look);
 }
 
 } // namespace BRELK::Sliders

@@ -4,6 +4,8 @@
 #include "ThemeNames.h"
 
 // Spin boxes, date and time editors.
+//
+// Properties: "drawErrorIndicator".
 
 namespace BRELK::SpinBoxes {
 
@@ -53,7 +55,7 @@ QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
 
 namespace {
 
-constexpr int BarLength = 8;
+constexpr int BarLength = 6;
 constexpr int BarThickness = 2;
 
 QRect centredBar(const QRect& rect, int width, int height)
@@ -128,6 +130,29 @@ void paintStepButton(const PaintContext& context, const QStyleOptionSpinBox& spi
     context.draw(hasSigns ? button.sign : button.arrow, copy);
 }
 
+QColor borderColor(const PaintContext& context, bool hasError)
+{
+    if (hasError)
+        return context.color(ThemeNames::statusDangerColor());
+    return context.has(QStyle::State_HasFocus)
+               ? context.color(ThemeNames::mainColor())
+               : context.brush(ThemeNames::inputBorderBrush()).color();
+}
+
+void paintStepButtons(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
+                      const QRect& frame)
+{
+    const PainterSaver saver(context.painter);
+    if (spinBox.subControls & QStyle::SC_SpinBoxUp) {
+        context.painter.setClipRect(frame.adjusted(0, 1, -1, -1));
+        paintStepButton(context, spinBox, UpButton);
+    }
+    if (spinBox.subControls & QStyle::SC_SpinBoxDown) {
+        context.painter.setClipRect(frame.adjusted(0, 0, -1, -1));
+        paintStepButton(context, spinBox, DownButton);
+    }
+}
+
 } // namespace
 
 void paintMinus(const PaintContext& context)
@@ -155,22 +180,16 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
 {
     const QRect frame = context.proxy().subControlRect(QStyle::CC_SpinBox, &spinBox,
                                                        QStyle::SC_SpinBoxFrame, context.widget);
-    const PainterSaver saver(context.painter);
-    if (spinBox.frame && spinBox.subControls & QStyle::SC_SpinBoxFrame) {
-        const QBrush border = context.has(QStyle::State_HasFocus)
-                                  ? QBrush(context.color(ThemeNames::mainColor()))
-                                  : QBrush(context.brush(ThemeNames::inputBorderBrush()).color());
-        Shapes::drawBox(context, frame, Shapes::cornerRadius(ThemeNames::baseSize()),
-                        context.brush(ThemeNames::inputUncheckedBackgroundBrush()), border);
-    }
-    if (spinBox.subControls & QStyle::SC_SpinBoxUp) {
-        context.painter.setClipRect(frame.adjusted(0, 1, -1, -1));
-        paintStepButton(context, spinBox, UpButton);
-    }
-    if (spinBox.subControls & QStyle::SC_SpinBoxDown) {
-        context.painter.setClipRect(frame.adjusted(0, 0, -1, -1));
-        paintStepButton(context, spinBox, DownButton);
-    }
+    const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
+    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
+    if (spinBox.frame && spinBox.subControls & QStyle::SC_SpinBoxFrame)
+        Shapes::drawBox(context, frame, radius,
+                        context.brush(ThemeNames::inputUncheckedBackgroundBrush()),
+                        borderColor(context, hasError));
+    paintStepButtons(context, spinBox, frame);
+    if (hasError && spinBox.frame)
+        Helpers::drawInputStatusIndicator(
+            frame, radius, context.color(ThemeNames::statusDangerColor()), &context.painter);
 }
 
 } // namespace BRELK::SpinBoxes
