@@ -107,6 +107,15 @@ QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& combo
     return ButtonContent::textBrush(comboBox, context.widget, QPalette::ButtonText, themed);
 }
 
+/// The base style moves the field of a pressed box; a text that jumps is hard to read.
+QRect fieldRect(const PaintContext& context, const QStyleOptionComboBox& comboBox)
+{
+    QStyleOptionComboBox steady = comboBox;
+    steady.state &= ~(QStyle::State_Sunken | QStyle::State_On);
+    return context.proxy().subControlRect(QStyle::CC_ComboBox, &steady,
+                                          QStyle::SC_ComboBoxEditField, context.widget);
+}
+
 /// Draws the current icon at the start of `rect` and returns what remains for the text.
 QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBox,
                 const QRect& rect, const QBrush& brush)
@@ -129,10 +138,10 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
 
 void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
-    QRect rect = context.proxy().subControlRect(QStyle::CC_ComboBox, &comboBox,
-                                                QStyle::SC_ComboBoxEditField, context.widget);
+    QRect rect = fieldRect(context, comboBox);
     if (!comboBox.frame && !comboBox.editable)
-        paintQuietBackground(context, rect | QRect(comboBox.rect.topLeft(), rect.size()));
+        paintQuietBackground(
+            context, QRect(comboBox.rect.topLeft(), QPoint(rect.right(), comboBox.rect.bottom())));
 
     const PainterSaver saver(context.painter);
     context.painter.setClipRect(rect, Qt::IntersectClip);
