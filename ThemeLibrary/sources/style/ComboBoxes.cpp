@@ -124,7 +124,8 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
     QRect iconRect(rect.x() + IconSpacing, rect.y(), size.width(), rect.height());
     if (context.rightToLeft())
         iconRect.moveRight(rect.right() - IconSpacing);
-    if (comboBox.editable) // the line edit leaves this place open
+    // The line edit leaves this place open; a box that is pointed at shows its own ground there.
+    if (comboBox.editable && !BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
         context.painter.fillRect(iconRect,
                                  context.brush(ThemeNames::inputUncheckedBackgroundBrush()));
     const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(comboBox.currentIcon, brush);
