@@ -20,6 +20,7 @@ namespace StyleBenchmark {
 namespace {
 
 constexpr QSize ViewSize(700, 500);
+constexpr int PagesAtOnce = 10;
 constexpr int TableRows = 100'000;
 constexpr int TableColumns = 10;
 constexpr int TreeBranches = 500;
@@ -42,8 +43,9 @@ public:
 
     QVariant data(const QModelIndex& index, int role) const override
     {
-        if (role == Qt::DisplayRole)
-            return QString(QStringLiteral("Item ") + QString::number(index.row() % 1000));
+        if (role == Qt::DisplayRole) // different everywhere, as what is scrolled past is
+            return QString(QStringLiteral("Item ")
+                           + QString::number(index.row() * m_columns + index.column()));
         return role == Qt::DecorationRole && m_columns == 1 ? m_icon : QVariant();
     }
 
@@ -91,7 +93,8 @@ Shown<QTreeView> tree()
     for (int i = 0; i < TreeBranches; ++i) {
         auto* branch = new QStandardItem(QStringLiteral("Branch"));
         for (int j = 0; j < TreeLeaves; ++j)
-            branch->appendRow(new QStandardItem(QStringLiteral("Leaf")));
+            branch->appendRow(new QStandardItem(
+                QString(QStringLiteral("Leaf ") + QString::number(i * TreeLeaves + j))));
         model->appendRow(branch);
     }
     auto shown = show<QTreeView>(model);
@@ -122,11 +125,13 @@ Work scroll(Shown<View> (*make)())
     const double rows = visibleRows(*shown.view);
     return {[=] {
                 QScrollBar* bar = shown.view->verticalScrollBar();
-                const int next = bar->value() + bar->pageStep();
-                bar->setValue(next < bar->maximum() ? next : 0);
-                shown.view->viewport()->repaint();
+                for (int i = 0; i < PagesAtOnce; ++i) {
+                    const int next = bar->value() + bar->pageStep();
+                    bar->setValue(next < bar->maximum() ? next : 0);
+                    shown.view->viewport()->repaint();
+                }
             },
-            rows};
+            rows * PagesAtOnce};
 }
 
 /// Moves the mouse between two points of a window that lives as long as `owner`.
