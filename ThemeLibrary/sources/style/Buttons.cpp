@@ -47,7 +47,7 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 }
 
 QSize buttonSize(const MeasureContext& context, const QStyleOptionButton& button,
-                 const QSize& contents, const QSize&)
+                 const QSize& contents, const QSize& /*base*/)
 {
     const bool hasText = !button.text.isEmpty();
     const int padding = context.dpiScaled(hasText ? HorizontalPadding : IconOnlyPadding);
@@ -102,7 +102,7 @@ bool isArrowOfEditor(const QWidget* widget)
 QRect panelRect(const StyleContext& context)
 {
     QRect rect = context.option.rect;
-    if (isArrowOfEditor(context.widget))
+    if (context.widget && isArrowOfEditor(context.widget))
         rect.setRight(qMax(rect.right(), context.widget->width() - 1));
     return rect;
 }
@@ -114,8 +114,8 @@ Corners straightCorners(const StyleContext& context)
     // Deliberate: combo boxes keep their sides in right-to-left layouts.
     if (isArrowOfEditor(context.widget))
         return Helpers::LeftCorners;
-    return WidgetTraits::isSpinBox(context.widget) ? spinButtonCorners(context)
-                                                   : Corners(Helpers::None);
+    return context.widget && WidgetTraits::isSpinBox(context.widget) ? spinButtonCorners(context)
+                                                                     : Corners(Helpers::None);
 }
 
 /// The ground of a spin box is also that of its buttons, until one is pressed.

@@ -47,7 +47,7 @@ QRect popupRect(const StyleContext& context, const QRect& box)
 } // namespace
 
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
-                   const QSize& contents, const QSize&)
+                   const QSize& contents, const QSize& /*base*/)
 {
     if (!comboBox.frame)
         return {contents.width() + context.metric(QStyle::PM_MenuButtonIndicator),

@@ -71,8 +71,8 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
     }
 }
 
-QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider, const QSize&,
-                 const QSize& base)
+QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
+                 const QSize& /*contents*/, const QSize& base)
 {
     // The handle stays in the middle: ticks on one side take as much room as on both.
     const int cross = context.dpiScaled(
@@ -113,7 +113,7 @@ struct SliderLook
 
 QPen solidPen(const QBrush& brush)
 {
-    return QPen(brush.color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    return {brush.color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
 void paintGroove(const SliderLook& look)

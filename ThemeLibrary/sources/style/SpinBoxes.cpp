@@ -23,7 +23,7 @@ bool hasButtons(const QStyleOptionSpinBox& spinBox)
 } // namespace
 
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
-                  const QSize& contents, const QSize&)
+                  const QSize& contents, const QSize& /*base*/)
 {
     const int buttons = hasButtons(spinBox) ? ButtonWidth + ButtonMargin : 0;
     const int height =
