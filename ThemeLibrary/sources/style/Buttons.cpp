@@ -2,6 +2,7 @@
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
+#include "Texts.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
 
@@ -290,12 +291,11 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
     const QBrush foreground =
         ButtonContent::textBrush(button, context.widget, QPalette::ButtonText, themed);
 
+    constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
+    const int textWidth = Texts::width(context.painter, Flags, button.text);
     QRect rect = labelRect(context, button);
     const QSize iconSize = shownIconSize(button, rect);
     if (!iconSize.isEmpty()) {
-        const QFontMetrics& metrics = button.fontMetrics;
-        const int textWidth =
-            button.text.isEmpty() ? 0 : metrics.size(Qt::TextShowMnemonic, button.text).width();
         const int spacing = textWidth > 0 ? IconSpacing : 0;
         const int width = qMin(iconSize.width() + spacing + textWidth, rect.width());
         const QRect content(rect.x() + (rect.width() - width) / 2, rect.y(), width, rect.height());
@@ -308,8 +308,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
             Shapes::iconPixmap(context.painter, icon, iconSize, QIcon::Normal, state));
         rect = context.visual(content.adjusted(iconSize.width() + spacing, 0, 0, 0));
     }
-    constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
-    if (button.fontMetrics.size(Qt::TextShowMnemonic, button.text).width() > rect.width())
+    if (textWidth > rect.width())
         rect.adjust(ElisionMargin, 0, -ElisionMargin, 0);
     Shapes::drawText(context, rect, Flags, button.text, foreground);
 }

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <QTextLayout>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -172,6 +173,13 @@ void draw(QPainter& painter, const QRect& rect, int flags, const QString& text)
     const PainterSaver saver(painter);
     painter.setClipRect(QRectF(rect), Qt::IntersectClip);
     line.layout.lineAt(0).draw(&painter, bounds.topLeft());
+}
+
+int width(const QPainter& painter, int flags, const QString& text)
+{
+    if (isSimple(painter, flags, text))
+        return qCeil(lineOf(painter, flags, text).size.width());
+    return text.isEmpty() ? 0 : painter.fontMetrics().size(flags, text).width();
 }
 
 QString fitted(const QPainter& painter, const QString& text, Qt::TextElideMode mode, int width,
