@@ -66,6 +66,8 @@ void paintSeparator(const PaintContext& context)
 void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBar)
 {
     const QRect& rect = toolBar.rect;
+    if (rect.isEmpty())
+        return;
     context.painter.fillRect(rect, toolBar.palette.brush(QPalette::Window));
     // One line between the bars of an area and what they stand around.
     if (toolBar.positionOfLine != QStyleOptionToolBar::End
