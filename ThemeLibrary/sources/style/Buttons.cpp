@@ -122,7 +122,7 @@ Corners straightCorners(const StyleContext& context)
 /// The ground of a spin box is also that of its buttons, until one is pressed.
 bool isSpinButtonOnGround(const StyleContext& context, const QBrush& background)
 {
-    return WidgetTraits::isSpinBox(context.widget)
+    return context.widget && WidgetTraits::isSpinBox(context.widget)
            && !WidgetTraits::isCalendarPopupEditor(context.widget)
            && background
                   == BaseStyle::getBrush(ThemeNames::inputUncheckedBackgroundBrush(),
