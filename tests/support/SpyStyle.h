@@ -6,15 +6,68 @@
 #include <QProxyStyle>
 #include <QStyleOption>
 
-/// A style around another that writes down what is asked of it, as the names of elements:
-/// "PE_FrameFocusRect", "SC_SpinBoxUp", "PM_IndicatorWidth".
-///
-/// Once the application has it, it shows that a style asks for its pieces through its proxy.
-class SpyStyle : public QProxyStyle
+/// `Base`, noting the names of the elements it is asked for before it answers:
+/// "PE_FrameFocusRect", "CC_SpinBox 1", "PM_IndicatorWidth".
+template <class Base>
+class NotingStyle : public Base
 {
 public:
-    /// Takes `base`.
-    explicit SpyStyle(QStyle* base) : QProxyStyle(base) { }
+    using Base::Base;
+
+    void drawPrimitive(QStyle::PrimitiveElement element, const QStyleOption* option,
+                       QPainter* painter, const QWidget* widget) const override
+    {
+        note(StyleOptions::nameOf(element), option, widget);
+        Base::drawPrimitive(element, option, painter, widget);
+    }
+
+    void drawControl(QStyle::ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override
+    {
+        note(StyleOptions::nameOf(element), option, widget);
+        Base::drawControl(element, option, painter, widget);
+    }
+
+    void drawComplexControl(QStyle::ComplexControl control, const QStyleOptionComplex* option,
+                            QPainter* painter, const QWidget* widget) const override
+    {
+        note(StyleOptions::nameOf(control), option, widget);
+        Base::drawComplexControl(control, option, painter, widget);
+    }
+
+    QRect subElementRect(QStyle::SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override
+    {
+        note(StyleOptions::nameOf(element), option, widget);
+        return Base::subElementRect(element, option, widget);
+    }
+
+    QRect subControlRect(QStyle::ComplexControl control, const QStyleOptionComplex* option,
+                         QStyle::SubControl part, const QWidget* widget) const override
+    {
+        note(StyleOptions::nameOf(control, part), option, widget);
+        return Base::subControlRect(control, option, part, widget);
+    }
+
+    int pixelMetric(QStyle::PixelMetric metric, const QStyleOption* option,
+                    const QWidget* widget) const override
+    {
+        note(StyleOptions::nameOf(metric), option, widget);
+        return Base::pixelMetric(metric, option, widget);
+    }
+
+protected:
+    virtual void note(const QByteArray& element, const QStyleOption* option,
+                      const QWidget* widget) const = 0;
+};
+
+/// A style around another, which it takes, that writes down what is asked of it.
+///
+/// Once the application has it, it shows that a style asks for its pieces through its proxy.
+class SpyStyle : public NotingStyle<QProxyStyle>
+{
+public:
+    using NotingStyle::NotingStyle;
 
     struct Call
     {
@@ -37,50 +90,9 @@ public:
         return elements;
     }
 
-    void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                       const QWidget* widget) const override
-    {
-        note(StyleOptions::nameOf(element), option, widget);
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
-    }
-
-    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
-                     const QWidget* widget) const override
-    {
-        note(StyleOptions::nameOf(element), option, widget);
-        QProxyStyle::drawControl(element, option, painter, widget);
-    }
-
-    void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
-                            QPainter* painter, const QWidget* widget) const override
-    {
-        note(StyleOptions::nameOf(control), option, widget);
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
-    }
-
-    QRect subElementRect(SubElement element, const QStyleOption* option,
-                         const QWidget* widget) const override
-    {
-        note(StyleOptions::nameOf(element), option, widget);
-        return QProxyStyle::subElementRect(element, option, widget);
-    }
-
-    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
-                         const QWidget* widget) const override
-    {
-        note(StyleOptions::nameOf(control, part), option, widget);
-        return QProxyStyle::subControlRect(control, option, part, widget);
-    }
-
-    int pixelMetric(PixelMetric metric, const QStyleOption* option,
-                    const QWidget* widget) const override
-    {
-        note(StyleOptions::nameOf(metric), option, widget);
-        return QProxyStyle::pixelMetric(metric, option, widget);
-    }
-
-private:
-    void note(const QByteArray& element, const QStyleOption* option, const QWidget* widget) const
+protected:
+    void note(const QByteArray& element, const QStyleOption* option,
+              const QWidget* widget) const override
     {
         ++callsSoFar;
         calls.append({element, option ? option->rect : QRect(), widget});

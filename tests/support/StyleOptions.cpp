@@ -178,4 +178,51 @@ QVector<QStyle::SubControl> subControlsOf(QStyle::ComplexControl control)
     }
 }
 
+namespace {
+
+template <class Enum, class Use>
+void appendAll(QVector<Element>& elements, Use use)
+{
+    for (const Enum element : all<Enum>())
+        elements.append({nameOf(element), [element] { return sampleFor(element); },
+                         [element, use](const QStyle& style, const Sample& sample, QPainter* to) {
+                             use(style, element, sample.option.get(), to, sample.widget.get());
+                         }});
+}
+
+void useComplex(const QStyle& style, QStyle::ComplexControl control, const QStyleOption* option,
+                QPainter* painter, const QWidget* widget)
+{
+    const auto* complex = static_cast<const QStyleOptionComplex*>(option);
+    for (const QStyle::SubControl part : subControlsOf(control))
+        style.subControlRect(control, complex, part, widget);
+    style.hitTestComplexControl(control, complex, QPoint(5, 5), widget);
+    style.drawComplexControl(control, complex, painter, widget);
+}
+
+} // namespace
+
+const QVector<Element>& elements()
+{
+    static const QVector<Element> sElements = [] {
+        QVector<Element> all;
+        appendAll<QStyle::PrimitiveElement>(all, std::mem_fn(&QStyle::drawPrimitive));
+        appendAll<QStyle::ControlElement>(all, std::mem_fn(&QStyle::drawControl));
+        appendAll<QStyle::ComplexControl>(all, useComplex);
+        appendAll<QStyle::SubElement>(
+            all, [](const QStyle& style, auto element, auto* option, QPainter*, auto* widget) {
+                style.subElementRect(element, option, widget);
+            });
+        appendAll<QStyle::ContentsType>(
+            all, [](const QStyle& style, auto type, auto* option, QPainter*, auto* widget) {
+                for (const QSize contents : {QSize(40, 16), QSize(), QSize(20000, 20000)}) {
+                    style.sizeFromContents(type, option, contents, widget);
+                    style.sizeFromContents(type, nullptr, contents, nullptr);
+                }
+            });
+        return all;
+    }();
+    return sElements;
+}
+
 } // namespace StyleOptions

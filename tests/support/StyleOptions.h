@@ -4,8 +4,10 @@
 #include <QVector>
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 
+class QPainter;
 class QStyleOption;
 
 /// Options and widgets for every element that the toolkit has, as its own widgets would pass them.
@@ -38,6 +40,18 @@ QByteArray nameOf(QStyle::ComplexControl control, QStyle::SubControl part);
 
 /// The sub-controls that `control` has a rectangle for; a dial has none.
 QVector<QStyle::SubControl> subControlsOf(QStyle::ComplexControl control);
+
+/// A primitive, control, complex control, sub-element or kind of contents.
+struct Element
+{
+    QByteArray name;
+    std::function<Sample()> sample;
+    /// Paints it or measures it, with all its parts.
+    std::function<void(const QStyle& style, const Sample& sample, QPainter* painter)> use;
+};
+
+/// Everything that is painted or measured with an option.
+const QVector<Element>& elements();
 
 } // namespace StyleOptions
 

@@ -16,19 +16,9 @@ namespace {
 
 const char* nameOf(Shape::Kind kind)
 {
-    switch (kind) {
-    case Shape::Rect: return "rect";
-    case Shape::RoundedRect: return "rounded";
-    case Shape::Ellipse: return "ellipse";
-    case Shape::Path: return "path";
-    case Shape::Line: return "line";
-    case Shape::Polyline: return "polyline";
-    case Shape::Polygon: return "polygon";
-    case Shape::Point: return "point";
-    case Shape::Pixmap: return "pixmap";
-    case Shape::Text: return "text";
-    }
-    return "";
+    constexpr const char* Names[] = {"rect",     "rounded", "ellipse", "path",   "line",
+                                     "polyline", "polygon", "point",   "pixmap", "text"};
+    return Names[kind];
 }
 
 QByteArray geometryText(const Shape& shape)
@@ -134,54 +124,33 @@ public:
 
     void updateState(const QPaintEngineState&) override { }
 
-    void drawRects(const QRect* rects, int count) override
-    {
-        for (int i = 0; i < count; ++i)
-            addRect(rects[i]);
-    }
+    // The variants with whole numbers lead to those below.
+    using QPaintEngine::drawEllipse;
+    using QPaintEngine::drawLines;
+    using QPaintEngine::drawPoints;
+    using QPaintEngine::drawPolygon;
+    using QPaintEngine::drawRects;
 
     void drawRects(const QRectF* rects, int count) override
     {
         for (int i = 0; i < count; ++i)
-            addRect(rects[i]);
-    }
-
-    void drawLines(const QLine* lines, int count) override
-    {
-        for (int i = 0; i < count; ++i)
-            addLine(lines[i]);
+            addFilled(make(Shape::Rect, rects[i]));
     }
 
     void drawLines(const QLineF* lines, int count) override
     {
         for (int i = 0; i < count; ++i)
-            addLine(lines[i]);
+            addOutline(make(Shape::Line, QRectF(lines[i].p1(), lines[i].p2())));
     }
-
-    void drawEllipse(const QRect& rect) override { drawEllipse(QRectF(rect)); }
 
     void drawEllipse(const QRectF& rect) override { addFilled(make(Shape::Ellipse, rect)); }
 
     void drawPath(const QPainterPath& path) override { addFilled(shapeOfPath(path)); }
 
-    void drawPoints(const QPoint* points, int count) override
-    {
-        for (int i = 0; i < count; ++i)
-            addOutline(make(Shape::Point, QRectF(points[i], QSizeF())));
-    }
-
     void drawPoints(const QPointF* points, int count) override
     {
         for (int i = 0; i < count; ++i)
             addOutline(make(Shape::Point, QRectF(points[i], QSizeF())));
-    }
-
-    void drawPolygon(const QPoint* points, int count, PolygonDrawMode mode) override
-    {
-        QPolygonF polygon;
-        for (int i = 0; i < count; ++i)
-            polygon.append(points[i]);
-        drawPolygon(polygon.constData(), count, mode);
     }
 
     void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override
@@ -237,13 +206,6 @@ private:
         shape.kind = kind;
         shape.rect = rect;
         return shape;
-    }
-
-    void addRect(const QRectF& rect) { addFilled(make(Shape::Rect, rect)); }
-
-    void addLine(const QLineF& line)
-    {
-        addOutline(make(Shape::Line, QRectF(line.p1(), line.p2())));
     }
 
     void addFilled(Shape shape)

@@ -1,5 +1,4 @@
 #include "Helpers.h"
-#include "Transcript.h"
 
 #include <QImage>
 #include <QPainter>
@@ -51,9 +50,10 @@ QRegion cornerPixels(const QRectF& rect, qreal penWidth, const QTransform& toDev
 
 /// The toolkit's own rounded rectangle, with its own rectangle in the quadrants with square
 /// corners.
-void drawExpected(QPainter& painter, const QRectF& rect, qreal radius,
-                  Helpers::StraightCornerFlags straight)
+void drawExpected(const QRectF& rect, qreal radius, Helpers::StraightCornerFlags straight,
+                  QPainter* to)
 {
+    QPainter& painter = *to;
     const QRect device = painter.deviceTransform().mapRect(rect).toAlignedRect();
     const QPoint center = device.center();
     const QRect all = device.adjusted(-9, -9, 9, 9);
@@ -124,11 +124,7 @@ private Q_SLOTS:
         // Levels of 255; what the rounding of two blends instead of one can come to, and the
         // rasterizer's of positions.
         constexpr int Tolerance = 8;
-        const QRectF rects[] = {{2.5, 3.5, 90, 17},
-                                {4.5, 2.5, 15, 15},
-                                {10, 10, 60, 75},
-                                {5.3, 7.8, 83.4, 61.1},
-                                {3.5, 4.5, 8, 30}};
+        const QRectF rects[] = {{2.5, 3.5, 90, 17}, {4.5, 2.5, 15, 15}, {5.3, 7.8, 83.4, 61.1}};
         const Helpers::StraightCornerFlags straightCorners[] = {
             Helpers::None, Helpers::TopCorners, Helpers::RightCorners | Helpers::BottomLeftCorner,
             Helpers::AllCorners};
@@ -136,70 +132,49 @@ private Q_SLOTS:
             for (const QRectF& rect : rects)
                 for (const int radius : {0, 4, 14})
                     for (const auto straight : straightCorners) {
-                        const auto prepare = [&](QPainter& painter) {
+                        QTransform toDevice;
+                        const auto picture = [&](auto draw) {
+                            QImage image = canvas(scale);
+                            QPainter painter(&image);
                             painter.translate(1, 2);
                             painter.setPen(pen);
                             painter.setBrush(brush);
+                            toDevice = painter.deviceTransform();
+                            draw(rect, radius, straight, &painter);
+                            return image;
                         };
-                        QImage actual = canvas(scale);
-                        QPainter painter(&actual);
-                        prepare(painter);
-                        const QTransform toDevice = painter.deviceTransform();
-                        Helpers::drawRoundedRectShape(rect, radius, straight, &painter);
-                        painter.end();
-
-                        QImage expected = canvas(scale);
-                        QPainter reference(&expected);
-                        prepare(reference);
-                        drawExpected(reference, rect, radius, straight);
-                        reference.end();
+                        const QImage actual = picture(Helpers::drawRoundedRectShape);
+                        const QImage expected = picture(drawExpected);
                         const bool anySquare = radius == 0 || straight & Helpers::AllCorners;
                         const QRegion corners =
                             anySquare ? cornerPixels(rect, std::max(pen.widthF(), 1.0), toDevice)
                                       : QRegion();
-                        const int actualDifference = difference(actual, expected, corners);
-                        QVERIFY2(actualDifference <= Tolerance,
-                                 qPrintable(QStringLiteral("%1 at scale %2, %3x%4 at %5,%6 r%7 "
-                                                           "corners %8")
-                                                .arg(actualDifference)
-                                                .arg(scale)
-                                                .arg(rect.width())
-                                                .arg(rect.height())
-                                                .arg(rect.x())
-                                                .arg(rect.y())
-                                                .arg(radius)
-                                                .arg(int(straight))));
+                        if (difference(actual, expected, corners) > Tolerance) {
+                            qDebug() << "scale" << scale << rect << "radius" << radius << straight;
+                            QCOMPARE(actual, expected);
+                        }
                     }
     }
 
     void straightBordersAndSquareCornersAreCrisp()
     {
-        for (const int size : {20, 90}) {
-            QImage image = canvas();
-            QPainter painter(&image);
-            painter.setPen(Qt::white);
-            painter.setBrush(Qt::red);
-            const QRect outer(3, 4, size, size);
-            Helpers::drawRoundedRectShape(QRectF(outer).adjusted(0.5, 0.5, -0.5, -0.5), 6,
-                                          Helpers::TopLeftCorner, &painter);
-            painter.end();
-            const auto colorAt = [&](int x, int y) {
-                return image.pixelColor(3 + x, 4 + y).name();
-            };
-            const QString white = QColor(Qt::white).name();
-            const QString red = QColor(Qt::red).name();
-            const QString background = canvas().pixelColor(0, 0).name();
-            QCOMPARE(colorAt(0, 0), white);
-            QCOMPARE(colorAt(1, 1), red);
-            QCOMPARE(colorAt(-1, 0), background);
-            QCOMPARE(colorAt(size - 1, 0), background);
-            QCOMPARE(colorAt(size / 2, -1), background);
-            QCOMPARE(colorAt(size / 2, 0), white);
-            QCOMPARE(colorAt(size / 2, 1), red);
-            QCOMPARE(colorAt(size - 2, size / 2), red);
-            QCOMPARE(colorAt(size - 1, size / 2), white);
-            QCOMPARE(colorAt(size, size / 2), background);
-        }
+        constexpr int Size = 20;
+        QImage image = canvas();
+        QPainter painter(&image);
+        painter.setPen(Qt::white);
+        painter.setBrush(Qt::red);
+        Helpers::drawRoundedRectShape(QRectF(3.5, 4.5, Size - 1, Size - 1), 6,
+                                      Helpers::TopLeftCorner, &painter);
+        painter.end();
+        const auto isColor = [&](int x, int y, const QColor& color) {
+            return image.pixelColor(3 + x, 4 + y) == color;
+        };
+        const QColor background = canvas().pixelColor(0, 0);
+        QVERIFY(isColor(0, 0, Qt::white) && isColor(1, 1, Qt::red) && isColor(-1, 0, background));
+        QVERIFY(isColor(Size - 1, 0, background));
+        QVERIFY(isColor(9, -1, background) && isColor(9, 0, Qt::white) && isColor(9, 1, Qt::red));
+        QVERIFY(isColor(Size - 2, 9, Qt::red) && isColor(Size - 1, 9, Qt::white)
+                && isColor(Size, 9, background));
     }
 
     void degenerateInputDrawsNothing()
@@ -218,58 +193,35 @@ private Q_SLOTS:
         QCOMPARE(image, canvas());
 
         Helpers::drawRoundedRectShape(QRectF(-1e9, -1e9, 2e9, 2e9), 4, Helpers::None, &painter);
-        Helpers::drawRoundedRectShape(QRectF(5.5, 5.5, 20, 20), std::numeric_limits<int>::max(),
-                                      Helpers::None, &painter);
-        Helpers::drawRoundedRectShape(QRectF(5.5, 5.5, 20, 20), std::numeric_limits<int>::min(),
-                                      Helpers::None, &painter);
-    }
-
-    void painterIsLeftAsFound_data()
-    {
-        QTest::addColumn<QTransform>("transform");
-        QTest::newRow("plain") << QTransform();
-        QTest::newRow("translated by a fraction") << QTransform::fromTranslate(0.3, 0.4);
-        QTest::newRow("scaled") << QTransform::fromScale(1.3, 1.1);
-        QTest::newRow("rotated") << QTransform().rotate(30);
-        QTest::newRow("mirrored") << QTransform::fromScale(-1, 1).translate(-Side, 0);
+        for (const int radius : {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
+            Helpers::drawRoundedRectShape(QRectF(5.5, 5.5, 20, 20), radius, Helpers::None,
+                                          &painter);
     }
 
     void painterIsLeftAsFound()
     {
-        QFETCH(QTransform, transform);
-        QImage image = canvas();
-        QPainter painter(&image);
-        painter.setPen(QPen(Qt::white, 1.2));
-        painter.setBrush(Qt::red);
-        painter.setClipRect(10, 10, 50, 50);
-        painter.setTransform(transform);
-        const QPen pen = painter.pen();
-        const auto hints = painter.renderHints();
-        Helpers::drawRoundedRectShape(QRectF(12.5, 12.5, 70, 60), 6, Helpers::None, &painter);
-        QCOMPARE(painter.pen(), pen);
-        QCOMPARE(painter.brush(), QBrush(Qt::red));
-        QCOMPARE(painter.renderHints(), hints);
-        QCOMPARE(painter.worldTransform(), transform);
-        QCOMPARE(painter.worldMatrixEnabled(), true);
-        painter.resetTransform();
-        QCOMPARE(painter.clipBoundingRect(), QRectF(10, 10, 50, 50));
-        painter.end();
-        QVERIFY(image != canvas());
-        QCOMPARE(image.pixel(80, 40), canvas().pixel(0, 0));
-    }
-
-    void otherDevicesSeeOneShape()
-    {
-        const QVector<Shape> shapes = drawn([](QPainter* painter) {
-            painter->setBrush(Qt::red);
-            Helpers::drawRoundedRectShape(QRectF(0.5, 0.5, 99, 27), 4, Helpers::LeftCorners,
-                                          painter);
-        });
-        QCOMPARE(shapes.size(), 1);
-        QCOMPARE(shapes.first().kind, Shape::RoundedRect);
-        QCOMPARE(shapes.first().radius, 4.0);
-        QCOMPARE(shapes.first().squareCorners, int(Helpers::LeftCorners));
-        QVERIFY(shapes.first().antialiased);
+        for (const QTransform& transform :
+             {QTransform(), QTransform::fromTranslate(0.3, 0.4), QTransform().rotate(30),
+              QTransform::fromScale(-1, 1).translate(-Side, 0)}) {
+            QImage image = canvas();
+            QPainter painter(&image);
+            painter.setPen(QPen(Qt::white, 1.2));
+            painter.setBrush(Qt::red);
+            painter.setClipRect(10, 10, 50, 50);
+            painter.setTransform(transform);
+            const QPen pen = painter.pen();
+            const auto hints = painter.renderHints();
+            Helpers::drawRoundedRectShape(QRectF(12.5, 12.5, 70, 60), 6, Helpers::None, &painter);
+            QCOMPARE(painter.pen(), pen);
+            QCOMPARE(painter.brush(), QBrush(Qt::red));
+            QCOMPARE(painter.renderHints(), hints);
+            QCOMPARE(painter.worldTransform(), transform);
+            painter.resetTransform();
+            QCOMPARE(painter.clipBoundingRect(), QRectF(10, 10, 50, 50));
+            painter.end();
+            QVERIFY(image != canvas());
+            QCOMPARE(image.pixel(80, 40), canvas().pixel(0, 0));
+        }
     }
 
     void brightnessWeighsChannels()

@@ -1,9 +1,7 @@
-#include "MessageRecorder.h"
 #include "TemporaryRepository.h"
 #include "Theme.h"
 #include "ThemeFactory.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QtTest>
 
@@ -33,7 +31,6 @@ private Q_SLOTS:
         QCOMPARE(m_factory.getAvailableThemes(),
                  QStringList(
                      {QStringLiteral("Zebra"), QStringLiteral("empty"), QStringLiteral("light")}));
-        QCOMPARE(m_factory.getThemesRepositoryPath(), repository.path() + QLatin1String("/./"));
 
         m_factory.setThemesRepositoryPath(repository.path(QStringLiteral("none")));
         QCOMPARE(m_factory.getAvailableThemes(), QStringList());
@@ -52,22 +49,6 @@ private Q_SLOTS:
         QCOMPARE(first->getName(), QStringLiteral("Night shift"));
         QCOMPARE(m_factory.getTheme(QStringLiteral("Night shift")), nullptr);
         QCOMPARE(m_factory.getTheme(QString()), nullptr);
-    }
-
-    void directoryWithoutDescriptorIsAThemeWithoutName()
-    {
-        const TemporaryRepository repository;
-        QDir().mkdir(repository.path(QStringLiteral("bare")));
-        m_factory.setThemesRepositoryPath(repository.path());
-        const std::unique_ptr<Theme> theme(m_factory.getTheme(QStringLiteral("bare")));
-        QVERIFY(theme);
-        QCOMPARE(theme->getName(), QString());
-
-        MessageRecorder messages;
-        theme->customize(qApp);
-        QCOMPARE(messages.take(),
-                 QStringList(QLatin1String("Error reading theme configuration file ")
-                             + repository.path(QStringLiteral("bare/theme.xml"))));
     }
 };
 

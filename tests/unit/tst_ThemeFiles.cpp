@@ -36,8 +36,6 @@ private:
 
     QIcon icon(const char* name) { return ThemeResources::getIcon(QString::fromLatin1(name)); }
 
-    QPoint hotSpot(const QString& name) { return ThemeResources::getCursor(name).hotSpot(); }
-
 private Q_SLOTS:
 
     void initTestCase()
@@ -55,19 +53,13 @@ private Q_SLOTS:
                                                          QStringLiteral(":/Cursors")});
     }
 
-    void themeShadowsTheLibrary()
+    void iconsAreFoundInTheThemeThenInTheLibrary()
     {
         QCOMPARE(centre(icon("action.close").pixmap(16).toImage()), qRgb(255, 0, 0));
         QVERIFY(!icon("action.add").isNull());
         QVERIFY(icon("action.none").isNull());
         QVERIFY(icon("").isNull());
-    }
-
-    void namesMayHaveAnExtensionOrALeadingSeparator()
-    {
-        QVERIFY(!icon("action.close.svg").isNull());
-        QCOMPARE(centre(icon("/group/own").pixmap(16).toImage()), qRgb(0, 0, 255));
-        QCOMPARE(centre(icon("group/own.svg").pixmap(16).toImage()), qRgb(0, 0, 255));
+        QCOMPARE(centre(icon("/group/own.svg").pixmap(16).toImage()), qRgb(0, 0, 255));
         // "png" is before "svg" in the list of formats.
         QCOMPARE(icon("both").actualSize(QSize(64, 64)), QSize(4, 4));
     }
@@ -77,12 +69,8 @@ private Q_SLOTS:
         const QStringList closing =
             ThemeResources::getIcons(QRegularExpression(QStringLiteral("^action\\.close")));
         QCOMPARE(closing.count(QStringLiteral("action.close")), 1);
-        QCOMPARE(closing.first(), QStringLiteral("action.close"));
         QVERIFY(closing.contains(QStringLiteral("action.close.all")));
         QVERIFY(closing.filter(QStringLiteral("Brush")).isEmpty());
-        QCOMPARE(ThemeResources::getIcons(QRegularExpression(QStringLiteral("^both\\.")))
-                     .count(QStringLiteral("both")),
-                 1);
     }
 
     void pixmapsHaveTheSizeAskedFor()
@@ -91,21 +79,6 @@ private Q_SLOTS:
         QCOMPARE(ThemeResources::getPixmap(name, {40, 20}).size(), QSize(40, 20));
         QCOMPARE(ThemeResources::getPixmap(name, {}).size(), QSize(16, 16));
         QVERIFY(ThemeResources::getPixmap(QStringLiteral("action.none"), {8, 8}).isNull());
-        QVERIFY(ThemeResources::getPixmap(QString(), {8, 8}).isNull());
-    }
-
-    void embeddedCursorsAreHotWhereTheirFilesSay()
-    {
-        const QFileInfoList files = QDir(QStringLiteral(":/Cursors")).entryInfoList();
-        QCOMPARE(files.size(), 28);
-        for (const QFileInfo& info : files) {
-            QFile file(info.filePath());
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            const QByteArray bytes = file.readAll();
-            const QCursor cursor = ThemeResources::getCursor(info.completeBaseName());
-            QCOMPARE(cursor.hotSpot(), QPoint(bytes.at(10), bytes.at(12)));
-            QVERIFY(!cursor.pixmap().isNull());
-        }
     }
 
     void hotSpots_data()
@@ -122,7 +95,6 @@ private Q_SLOTS:
         // A low byte of 128 or more makes a coordinate negative, which QCursor takes for the
         // middle.
         row("signed.cur", cursorFile(QByteArray("\x90\x00\x05\x00", 4)), {middle.x(), 5});
-        row("upper case.CUR", cursorFile(QByteArray("\x03\x00\x07\x00", 4)), middle);
         row("icon.cur", cursorFile(QByteArray("\x03\x00\x07\x00", 4)).replace(2, 1, "\x01"), {});
         row("picture.svg", svgSquare("#fff").replace("16", "32"), middle);
     }
@@ -133,7 +105,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, content);
         QFETCH(QPoint, expected);
         m_files.write(QLatin1String("cursors/") + name, content);
-        QCOMPARE(hotSpot(name), expected);
+        QCOMPARE(ThemeResources::getCursor(name).hotSpot(), expected);
     }
 
     void withoutUsableFileTheCursorIsTheArrow()
