@@ -1,159 +1,100 @@
+#include <QDir>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
-
-namespace {
-
-constexpr int PageWidth = 1120;
-
-struct Run
-{
-    int exitCode = -1;
-    QStringList output;
-    QString messages;
-};
-
-Run runGallery(const QStringList& arguments)
-{
-    QProcess process;
-    process.start(QStringLiteral(VARN_GALLERY), arguments);
-    if (!process.waitForFinished(100000) || process.exitStatus() != QProcess::NormalExit)
-        return {};
-    const QString output = QString::fromUtf8(process.readAllStandardOutput());
-    return {process.exitCode(), output.split(QLatin1Char('\n'), Qt::SkipEmptyParts),
-            QString::fromUtf8(process.readAllStandardError())};
-}
-
-} // namespace
 
 /// The gallery as its users start it: as a program of its own.
 class tst_Gallery : public QObject
 {
     Q_OBJECT
 
-private Q_SLOTS:
-    void init();
-    void rendersEveryPage_data();
-    void rendersEveryPage();
-    void picturesDependOnArgumentsAlone();
-    void startsWithoutTheme_data();
-    void startsWithoutTheme();
-    void reportsMistakes_data();
-    void reportsMistakes();
-
 private:
-    QStringList renderPage(const QString& page) const
+    static constexpr int PageWidth = 1120;
+
+    const QTemporaryDir m_directory;
+    int m_exitCode = -1;
+    QStringList m_output;
+    QString m_messages;
+
+    /// Words between blanks; "DIR" is a directory that lasts as long as the test.
+    void run(const QString& arguments)
     {
-        return {QStringLiteral("--render"), m_directory->path(), QStringLiteral("--page"), page};
+        QStringList words = arguments.split(QLatin1Char(' '));
+        words.replaceInStrings(QStringLiteral("DIR"), m_directory.path());
+        QProcess process;
+        process.start(QStringLiteral(VARN_GALLERY), words);
+        QVERIFY(process.waitForFinished(100000));
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        m_exitCode = process.exitCode();
+        m_output = QString::fromUtf8(process.readAllStandardOutput())
+                       .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        m_messages = QString::fromUtf8(process.readAllStandardError());
     }
 
-    QImage pictureOf(const QString& page, const QStringList& arguments) const;
+    QImage ranges(const char* arguments)
+    {
+        run(QStringLiteral("--render DIR --page ranges ") + QLatin1String(arguments));
+        return QImage(m_output.value(0));
+    }
 
-    QScopedPointer<QTemporaryDir> m_directory;
+private Q_SLOTS:
+
+    void rendersEveryPage()
+    {
+        run(QStringLiteral("--list-pages"));
+        const QStringList pages = m_output;
+        QVERIFY(!pages.isEmpty());
+        const QDir repository(QStringLiteral(VARN_THEME_REPOSITORY));
+        for (const QString& theme : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            run(QStringLiteral("--render DIR --theme ") + theme);
+            QCOMPARE(m_exitCode, 0);
+            QCOMPARE(m_messages, QString());
+            QCOMPARE(m_output.size(), pages.size());
+            for (int index = 0; index < pages.size(); ++index) {
+                const QString& path = m_output.at(index);
+                QCOMPARE(QFileInfo(path).completeBaseName(), pages.at(index));
+                QVERIFY2(QImage(path).width() >= PageWidth, qPrintable(path));
+            }
+        }
+    }
+
+    void picturesDependOnArgumentsAlone()
+    {
+        const QImage first = ranges("--scale 1");
+        QVERIFY(!first.isNull());
+        QCOMPARE(ranges("--scale 1"), first);
+        const QImage doubled = ranges("--rtl --scale 2");
+        QVERIFY(doubled.width() >= 2 * PageWidth);
+        QVERIFY(doubled.scaled(first.size()) != first);
+    }
+
+    void reportsMistakes_data()
+    {
+        QTest::addColumn<int>("exitCode");
+        QTest::addColumn<QString>("message");
+        const auto row = [](const char* arguments, int exitCode, const char* message) {
+            QTest::newRow(arguments) << exitCode << QString::fromLatin1(message);
+        };
+        const char* const noRepository = "there is no theme repository";
+        row("--list-pages --page No", 0, "the pages are overview");
+        row("--list-pages --scale -1", 0, "The scale must be");
+        row("--list-pages --wrong", 1, "Unknown option");
+        row("--render " VARN_GALLERY "/below", 1, "Cannot write");
+        row("--render DIR --page overview --theme No", 0, "has Dark");
+        row("--render DIR --page overview --theme-repository " VARN_GALLERY, 0, noRepository);
+    }
+
+    void reportsMistakes()
+    {
+        QFETCH(const int, exitCode);
+        QFETCH(const QString, message);
+        run(QString::fromLatin1(QTest::currentDataTag()));
+        QCOMPARE(m_exitCode, exitCode);
+        QVERIFY2(m_messages.contains(message), qPrintable(m_messages));
+        QCOMPARE(m_output.isEmpty(), exitCode != 0);
+    }
 };
-
-void tst_Gallery::init()
-{
-    m_directory.reset(new QTemporaryDir);
-}
-
-QImage tst_Gallery::pictureOf(const QString& page, const QStringList& arguments) const
-{
-    const Run run = runGallery(renderPage(page) + arguments);
-    return run.output.size() == 1 ? QImage(run.output.first()) : QImage();
-}
-
-void tst_Gallery::rendersEveryPage_data()
-{
-    QTest::addColumn<QString>("theme");
-    const QDir repository(QStringLiteral(VARN_THEME_REPOSITORY));
-    for (const QString& theme : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        QTest::newRow(qPrintable(theme)) << theme;
-}
-
-void tst_Gallery::rendersEveryPage()
-{
-    QFETCH(const QString, theme);
-    const QStringList pages = runGallery({QStringLiteral("--list-pages")}).output;
-    QVERIFY(!pages.isEmpty());
-
-    const Run run = runGallery(
-        {QStringLiteral("--theme"), theme, QStringLiteral("--render"), m_directory->path()});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.messages, QString());
-    QCOMPARE(run.output.size(), pages.size());
-    for (int index = 0; index < pages.size(); ++index) {
-        const QString& path = run.output.at(index);
-        QCOMPARE(QFileInfo(path).completeBaseName(), pages.at(index));
-        QVERIFY2(QImage(path).width() >= PageWidth, qPrintable(path));
-    }
-}
-
-void tst_Gallery::picturesDependOnArgumentsAlone()
-{
-    const QString page = QStringLiteral("ranges");
-    const QImage first = pictureOf(page, {});
-    QVERIFY(!first.isNull());
-    QCOMPARE(pictureOf(page, {}), first);
-    QVERIFY(pictureOf(page, {QStringLiteral("--rtl")}) != first);
-    const QImage doubled = pictureOf(page, {QStringLiteral("--scale"), QStringLiteral("2")});
-    QVERIFY(doubled.width() >= 2 * PageWidth);
-}
-
-void tst_Gallery::startsWithoutTheme_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QString>("message");
-    const QString repository = QStringLiteral("--theme-repository");
-    QTest::newRow("unknown theme") << QStringList{QStringLiteral("--theme"), QStringLiteral("No")}
-                                   << QStringLiteral("has Dark");
-    QTest::newRow("missing repository")
-        << QStringList{repository, QStringLiteral("/does/not/exist")}
-        << QStringLiteral("there is no theme repository");
-    QTest::newRow("file as repository") << QStringList{repository, QStringLiteral(VARN_GALLERY)}
-                                        << QStringLiteral("there is no theme repository");
-}
-
-void tst_Gallery::startsWithoutTheme()
-{
-    QFETCH(const QStringList, arguments);
-    QFETCH(const QString, message);
-    const Run run = runGallery(renderPage(QStringLiteral("overview")) + arguments);
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.messages.count(QLatin1Char('\n')), 1);
-    QVERIFY2(run.messages.contains(message), qPrintable(run.messages));
-    QVERIFY(!QImage(run.output.value(0)).isNull());
-}
-
-void tst_Gallery::reportsMistakes_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<int>("exitCode");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("unknown page") << QStringList{QStringLiteral("--list-pages"),
-                                                 QStringLiteral("--page"), QStringLiteral("No")}
-                                  << 0 << QStringLiteral("the pages are overview");
-    QTest::newRow("bad scale") << QStringList{QStringLiteral("--list-pages"),
-                                              QStringLiteral("--scale"), QStringLiteral("-1")}
-                               << 0 << QStringLiteral("The scale must be");
-    QTest::newRow("unknown option")
-        << QStringList{QStringLiteral("--list-pages"), QStringLiteral("--wrong")} << 1
-        << QStringLiteral("Unknown option");
-    QTest::newRow("no directory") << QStringList{QStringLiteral("--render"),
-                                                 QStringLiteral(VARN_GALLERY "/below")}
-                                  << 1 << QStringLiteral("Cannot write");
-}
-
-void tst_Gallery::reportsMistakes()
-{
-    QFETCH(const QStringList, arguments);
-    QFETCH(const int, exitCode);
-    QFETCH(const QString, message);
-    const Run run = runGallery(arguments);
-    QCOMPARE(run.exitCode, exitCode);
-    QVERIFY2(run.messages.contains(message), qPrintable(run.messages));
-}
 
 QTEST_GUILESS_MAIN(tst_Gallery)
 #include "tst_Gallery.moc"

@@ -11,36 +11,42 @@ class tst_ThemeQApplication : public QObject
 private:
     struct Outcome
     {
-        QStringList lines;
+        QString output;
         QString messages;
     };
 
     const TemporaryRepository m_repository;
 
-    Outcome run(const QStringList& arguments, const QMap<QString, QString>& settings = {}) const
+    /// Starts the program, with `arguments` between blanks, in the environment that `settings` add
+    /// to.
+    static Outcome run(const QString& arguments, const QMap<QString, QString>& settings)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (auto entry = settings.begin(); entry != settings.end(); ++entry)
             environment.insert(entry.key(), entry.value());
         QProcess process;
         process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(VARN_TEST_PROGRAM), arguments);
+        process.start(QStringLiteral(VARN_TEST_PROGRAM), arguments.split(QLatin1Char(' ')));
         process.waitForFinished();
-        Outcome outcome;
-        outcome.messages = QString::fromLocal8Bit(process.readAllStandardError());
-        if (process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0)
-            outcome.lines = QString::fromLocal8Bit(process.readAllStandardOutput())
-                                .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-        return outcome;
+        if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+            return {};
+        return {QString::fromLocal8Bit(process.readAllStandardOutput()),
+                QString::fromLocal8Bit(process.readAllStandardError())};
     }
 
-    QStringList state(const char* theme, const char* color, const char* style,
-                      const QString& repository) const
+    QString start(const char* arguments, const char* theme,
+                  QMap<QString, QString> settings = {}) const
     {
-        return {QLatin1String("theme=") + QLatin1String(theme),
-                QLatin1String("repository=") + repository,
-                QLatin1String("color=") + QLatin1String(color),
-                QLatin1String("style=") + QLatin1String(style)};
+        settings.insert(QStringLiteral("TEST_THEME"), QLatin1String(theme));
+        settings.insert(QStringLiteral("TEST_REPOSITORY"), m_repository.path());
+        return run(QLatin1String(arguments), settings).output;
+    }
+
+    QString state(const char* theme, const char* color, const char* style,
+                  const QString& repository) const
+    {
+        return QStringLiteral("theme=%1\nrepository=%2\ncolor=%3\nstyle=%4\n")
+            .arg(QLatin1String(theme), repository, QLatin1String(color), QLatin1String(style));
     }
 
 private Q_SLOTS:
@@ -52,114 +58,61 @@ private Q_SLOTS:
         m_repository.addTheme(QStringLiteral("--theme"), "Odd", "#ff00ff");
     }
 
-    void themeIsChosen_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("theme");
-        QTest::addColumn<QStringList>("expected");
-        const QString path = m_repository.path();
-        const QStringList day = state("Day of the designer", "#00ff00", "the theme's", path);
-        const QStringList night = state("Night", "#0000ff", "the theme's", path);
-        const QStringList odd = state("Odd", "#ff00ff", "the theme's", path);
-        const auto row = [](const char* name, const char* arguments, const char* theme,
-                            const QStringList& expected) {
-            QTest::newRow(name) << QString::fromLatin1(arguments).split(QLatin1Char(' '))
-                                << QString::fromLatin1(theme) << expected;
-        };
-        row("by argument", "--theme Day", "", day);
-        row("by constructor", "file", "Day", day);
-        row("an argument wins", "file --theme Night", "Day", night);
-        row("the first argument wins", "--theme Night --theme Day", "", night);
-        row("the last argument has no value", "--theme", "Day", day);
-        row("joined by a sign", "--theme=Night", "Day", day);
-        row("a value may look like an option", "--theme --theme", "Day", odd);
-    }
-
     void themeIsChosen()
     {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, theme);
-        QFETCH(QStringList, expected);
-        const Outcome outcome =
-            run(arguments, {{QStringLiteral("TEST_THEME"), theme},
-                            {QStringLiteral("TEST_REPOSITORY"), m_repository.path()}});
-        QCOMPARE(outcome.messages, QString());
-        QCOMPARE(outcome.lines, expected);
-    }
-
-    void repositoryMayBeAnArgument()
-    {
-        const Outcome outcome = run({QStringLiteral("--theme"), QStringLiteral("Day"),
-                                     QStringLiteral("--theme-repository"), m_repository.path()},
-                                    {{QStringLiteral("TEST_REPOSITORY"), QStringLiteral("/none")}});
-        QCOMPARE(outcome.messages, QString());
-        QCOMPARE(outcome.lines,
-                 state("Day of the designer", "#00ff00", "the theme's", m_repository.path()));
-    }
-
-    void missingThemeIsReportedWithThoseThatExist_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("repository");
-        QTest::addColumn<QString>("message");
-        const QStringList dusk{QStringLiteral("--theme"), QStringLiteral("Dusk")};
-        const QStringList elsewhere{QStringLiteral("--theme-repository"), QStringLiteral("/none")};
-        QTest::newRow("theme") << dusk << m_repository.path()
-                               << QStringLiteral("No theme \"Dusk\": the repository \"%1\" has "
-                                                 "--theme, Day, Night\n")
-                                      .arg(m_repository.path());
-        QTest::newRow("repository")
-            << dusk + elsewhere << QStringLiteral("/none")
-            << QStringLiteral("No theme \"Dusk\": there is no theme repository \"/none\"\n");
-        QTest::newRow("no repository")
-            << dusk << QString()
-            << QStringLiteral("No theme \"Dusk\": no theme repository was given\n");
-        QTest::newRow("a repository without themes")
-            << dusk << m_repository.path(QStringLiteral("Day"))
-            << QStringLiteral("No theme \"Dusk\": the repository \"%1\" has no themes\n")
-                   .arg(m_repository.path(QStringLiteral("Day")));
-    }
-
-    void missingThemeIsReportedWithThoseThatExist()
-    {
-        QFETCH(QStringList, arguments);
-        QFETCH(QString, repository);
-        QFETCH(QString, message);
-        const Outcome outcome = run(arguments, {{QStringLiteral("TEST_REPOSITORY"), repository}});
-        QCOMPARE(outcome.messages, message);
-        QCOMPARE(outcome.lines, state("none", "#000000", "another", repository));
-    }
-
-    void nativeStyleIsLeft()
-    {
-        const Outcome outcome = run({}, {{QStringLiteral("BRELK_USE_NATIVE_STYLE"), QString()},
-                                         {QStringLiteral("TEST_THEME"), QStringLiteral("Night")},
-                                         {QStringLiteral("TEST_REPOSITORY"), m_repository.path()}});
-        QCOMPARE(outcome.messages, QString());
-        QCOMPARE(outcome.lines, state("Night", "#0000ff", "another", m_repository.path()));
-    }
-
-    void anotherThemeMayFollow_data()
-    {
-        QTest::addColumn<QString>("next");
-        QTest::addColumn<QStringList>("expected");
         const QString path = m_repository.path();
-        const QStringList found{QStringLiteral("next=found")};
-        const QStringList missing{QStringLiteral("next=missing")};
-        QTest::newRow("found") << QStringLiteral("Night")
-                               << found + state("Night", "#0000ff", "the theme's", path);
-        QTest::newRow("missing") << QStringLiteral(
-            "Dusk") << missing + state("Day of the designer", "#00ff00", "the theme's", path);
+        const QString day = state("Day of the designer", "#00ff00", "the theme's", path);
+        const QString night = state("Night", "#0000ff", "the theme's", path);
+        QCOMPARE(start("--theme Day", ""), day);
+        QCOMPARE(start("file", "Day"), day);
+        QCOMPARE(start("file --theme Night", "Day"), night);
+        QCOMPARE(start("--theme Night --theme Day", ""), night);
+        QCOMPARE(start("--theme", "Day"), day); // has no value
+        QCOMPARE(start("--theme=Night", "Day"), day);
+        QCOMPARE(start("--theme --theme", "Day"), state("Odd", "#ff00ff", "the theme's", path));
+        QCOMPARE(run(QLatin1String("--theme Day --theme-repository ") + path,
+                     {{QStringLiteral("TEST_REPOSITORY"), QStringLiteral("/none")}})
+                     .output,
+                 day);
     }
 
     void anotherThemeMayFollow()
     {
-        QFETCH(QString, next);
-        QFETCH(QStringList, expected);
-        const Outcome outcome = run({}, {{QStringLiteral("TEST_THEME"), QStringLiteral("Day")},
-                                         {QStringLiteral("TEST_REPOSITORY"), m_repository.path()},
-                                         {QStringLiteral("TEST_NEXT_THEME"), next}});
-        QCOMPARE(outcome.lines.mid(4), expected);
+        const QString path = m_repository.path();
+        const QString day = state("Day of the designer", "#00ff00", "the theme's", path);
+        const QString night = state("Night", "#0000ff", "the theme's", path);
+        const auto followedBy = [this](const char* next) {
+            return start("", "Day", {{QStringLiteral("TEST_NEXT_THEME"), QLatin1String(next)}});
+        };
+        QCOMPARE(followedBy("Night"), QString(day + QLatin1String("next=found\n") + night));
+        QCOMPARE(followedBy("Dusk"), QString(day + QLatin1String("next=missing\n") + day));
+    }
+
+    void missingThemeIsReportedWithThoseThatExist_data()
+    {
+        QTest::addColumn<QString>("repository");
+        QTest::addColumn<QString>("reason");
+        const QString path = m_repository.path();
+        const QString themes = m_repository.path(QStringLiteral("Day"));
+        const QString repository = QStringLiteral("the repository \"%1\" has %2");
+        QTest::newRow("theme") << path
+                               << repository.arg(path, QStringLiteral("--theme, Day, Night"));
+        QTest::newRow("repository")
+            << QStringLiteral("/none") << QStringLiteral("there is no theme repository \"/none\"");
+        QTest::newRow("no repository")
+            << QString() << QStringLiteral("no theme repository was given");
+        QTest::newRow("without themes")
+            << themes << repository.arg(themes, QStringLiteral("no themes"));
+    }
+
+    void missingThemeIsReportedWithThoseThatExist()
+    {
+        QFETCH(QString, repository);
+        QFETCH(QString, reason);
+        const Outcome outcome =
+            run(QStringLiteral("--theme Dusk"), {{QStringLiteral("TEST_REPOSITORY"), repository}});
+        QCOMPARE(outcome.messages, QStringLiteral("No theme \"Dusk\": %1\n").arg(reason));
+        QCOMPARE(outcome.output, state("none", "#000000", "another", repository));
     }
 };
 

@@ -1,17 +1,12 @@
 #include "BaseStyle.h"
-#include "ComboBoxDefaultItemDelegate.h"
 #include "ProbeTheme.h"
 
 #include <QApplication>
-#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLayout>
 #include <QListView>
 #include <QMainWindow>
 #include <QTableView>
-#include <QToolBox>
-#include <QToolButton>
 #include <QTreeView>
 #include <QtTest>
 
@@ -105,51 +100,25 @@ private Q_SLOTS:
         QCOMPARE(custom.palette(), before);
     }
 
-    void labelsFadeWhenDisabled()
-    {
-        QLabel label;
-        const QBrush text = label.palette().brush(QPalette::Active, QPalette::WindowText);
-        polish(label);
-        QCOMPARE(nameIn(label, QPalette::Disabled, QPalette::WindowText),
-                 "ForegroundBrushDisabled");
-        QCOMPARE(label.palette().brush(QPalette::Active, QPalette::WindowText), text);
-    }
-
-    void tabFontFollowsApplicationThenWidget_data()
-    {
-        QTest::addColumn<QByteArrayList>("application");
-        QTest::addColumn<QByteArrayList>("widget");
-        QTest::addColumn<QByteArray>("font");
-        const auto row = [](const char* title, const QByteArrayList& application,
-                            const QByteArrayList& widget, const char* font) {
-            QTest::newRow(title) << application << widget << QByteArray(font);
-        };
-        row("neither", {}, {}, "medium");
-        row("application", {"appBaseTabSize", "appLargeTabSize"}, {}, "base");
-        row("widget", {"appLargeTabSize"}, {"smallTabSize", "baseTabSize"}, "small");
-        row("large wins", {}, {"smallTabSize", "largeTabSize"}, "large");
-        row("no medium size", {"appMediumTabSize", "appSmallTabSize"}, {"mediumTabSize"}, "small");
-    }
-
     void tabFontFollowsApplicationThenWidget()
     {
-        QFETCH(QByteArrayList, application);
-        QFETCH(QByteArrayList, widget);
-        QFETCH(QByteArray, font);
-        for (const QByteArray& property : qAsConst(application))
-            qApp->setProperty(property, true);
-        QTabBar bar;
-        QTabWidget tabs;
-        for (QWidget* target : {static_cast<QWidget*>(&bar), static_cast<QWidget*>(&tabs)}) {
-            for (const QByteArray& property : qAsConst(widget))
-                target->setProperty(property, true);
-            polish(*target);
-            QCOMPARE(ProbeTheme::nameOf(target->font()), font);
-            QCOMPARE(ProbeTheme::nameOf(target->property("_q_styleSheetWidgetFont").value<QFont>()),
-                     font);
-        }
-        for (const QByteArray& property : qAsConst(application))
-            qApp->setProperty(property, QVariant());
+        const auto font = [](const QByteArrayList& application, const QByteArrayList& own) {
+            for (const QByteArray& property : application)
+                qApp->setProperty(property, true);
+            QTabBar bar;
+            for (const QByteArray& property : own)
+                bar.setProperty(property, true);
+            polish(bar);
+            for (const QByteArray& property : application)
+                qApp->setProperty(property, QVariant());
+            return ProbeTheme::nameOf(bar.font());
+        };
+        QCOMPARE(font({}, {}), "medium");
+        QCOMPARE(font({"appBaseTabSize", "appLargeTabSize"}, {}), "base");
+        QCOMPARE(font({"appLargeTabSize"}, {"smallTabSize", "baseTabSize"}), "small");
+        QCOMPARE(font({}, {"smallTabSize", "largeTabSize"}), "large");
+        // There is no medium size to ask for.
+        QCOMPARE(font({"appMediumTabSize", "appSmallTabSize"}, {"mediumTabSize"}), "small");
     }
 
     void onlyMainWindowsThatAreWindowsPaintTheirBackground()
@@ -163,19 +132,6 @@ private Q_SLOTS:
         }
         QVERIFY(window.testAttribute(Qt::WA_StyledBackground));
         QVERIFY(!inner.testAttribute(Qt::WA_StyledBackground));
-    }
-
-    void toolBoxesAreClosedUp()
-    {
-        QToolBox toolBox;
-        toolBox.addItem(new QWidget, QStringLiteral("Page"));
-        polish(toolBox);
-        QCOMPARE(toolBox.layout()->contentsMargins(), QMargins());
-        QCOMPARE(toolBox.layout()->spacing(), 0);
-        const auto buttons = toolBox.findChildren<QAbstractButton*>();
-        QCOMPARE(buttons.size(), 1);
-        polish(*buttons.first());
-        QCOMPARE(buttons.first()->minimumHeight(), 42);
     }
 
     void hoverIsTrackedUntilUnpolished()
@@ -242,21 +198,6 @@ private Q_SLOTS:
         QVERIFY(!(window.windowFlags() & Qt::NoDropShadowWindowHint));
         QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
         QVERIFY(window.isVisible());
-    }
-
-    void comboBoxesKeepTheirOwnDelegate()
-    {
-        QComboBox comboBox;
-        polish(comboBox);
-        auto* delegate = qobject_cast<ComboBoxDefaultItemDelegate*>(comboBox.itemDelegate());
-        QVERIFY(delegate);
-        polish(comboBox);
-        QCOMPARE(comboBox.itemDelegate(), delegate);
-
-        QStyledItemDelegate own;
-        comboBox.setItemDelegate(&own);
-        polish(comboBox);
-        QCOMPARE(comboBox.itemDelegate(), &own);
     }
 
     void plainWidgetsAreLeftAlone()

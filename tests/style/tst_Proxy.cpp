@@ -48,21 +48,7 @@ class tst_Proxy : public QObject
 
 private:
     WatchedStyle* m_style = nullptr;
-    RecordingBase* m_base = nullptr;
     SpyStyle* m_spy = nullptr;
-
-    /// Uses the element in the states that `state` adds, and gives the pieces asked for.
-    QByteArrayList use(const Element& element, QStyle::State state)
-    {
-        QImage image(200, 40, QImage::Format_ARGB32_Premultiplied);
-        QPainter painter(&image);
-        const Sample sample = element.sample();
-        sample.option->state |= state;
-        m_spy->take();
-        m_style->bypassed.clear();
-        element.use(*m_spy, sample, &painter);
-        return m_spy->take();
-    }
 
 private Q_SLOTS:
 
@@ -70,8 +56,7 @@ private Q_SLOTS:
     {
         ProbeTheme::publish();
         m_style = new WatchedStyle;
-        m_base = new RecordingBase;
-        m_style->setBaseStyle(m_base);
+        m_style->setBaseStyle(new RecordingBase);
         m_spy = new SpyStyle(m_style);
         m_style->spy = m_spy;
         QApplication::setStyle(m_spy);
@@ -79,47 +64,19 @@ private Q_SLOTS:
 
     void nothingBypassesTheProxy()
     {
+        QImage image(200, 40, QImage::Format_ARGB32_Premultiplied);
+        QPainter painter(&image);
         for (const Element& element : StyleOptions::elements())
             for (const QStyle::State state : {QStyle::State(), QStyle::State(~0)}) {
-                use(element, state);
+                const Sample sample = element.sample();
+                sample.option->state |= state;
+                m_spy->take();
+                m_style->bypassed.clear();
+                element.use(*m_spy, sample, &painter);
                 for (const QByteArray& piece : qAsConst(m_style->bypassed))
                     QVERIFY2(NotForOthers.contains(piece),
                              QByteArray(element.name + " asks for " + piece).constData());
             }
-    }
-
-    void controlsAreComposedOfPieces_data()
-    {
-        QTest::addColumn<QByteArrayList>("pieces");
-        const auto row = [](const char* element, const char* pieces) {
-            QTest::newRow(element) << QByteArray(pieces).split(',');
-        };
-        row("CE_PushButton", "CE_PushButtonBevel,SE_PushButtonContents,CE_PushButtonLabel,"
-                             "SE_PushButtonFocusRect,PE_FrameFocusRect");
-        row("CC_SpinBox", "CC_SpinBox 1,CC_SpinBox 2,CC_SpinBox 4,PE_PanelButtonBevel,"
-                          "PE_IndicatorSpinUp,PE_IndicatorSpinDown");
-        row("CC_ComboBox", "CC_ComboBox 4,PE_PanelButtonCommand,PE_IndicatorArrowDown");
-        row("CC_Slider", "CC_Slider 1,CC_Slider 2,PM_SliderTickmarkOffset");
-        row("CC_ToolButton", "CC_ToolButton 1,CC_ToolButton 2,PE_PanelButtonTool,"
-                             "CE_ToolButtonLabel,PE_IndicatorArrowDown");
-        row("CC_TitleBar", "CC_TitleBar 80,PE_PanelButtonBevel");
-        row("PE_IndicatorBranch", "PE_IndicatorArrowDown");
-    }
-
-    void controlsAreComposedOfPieces()
-    {
-        QFETCH(QByteArrayList, pieces);
-        for (const Element& element : StyleOptions::elements()) {
-            if (element.name != QTest::currentDataTag())
-                continue;
-            m_base->painted.clear();
-            const QByteArrayList asked =
-                use(element, QStyle::State_Raised | QStyle::State_HasFocus | QStyle::State_Children
-                                 | QStyle::State_Open);
-            QVERIFY(!m_base->painted.contains(element.name));
-            for (const QByteArray& piece : qAsConst(pieces))
-                QVERIFY2(asked.contains(piece), piece.constData());
-        }
     }
 };
 

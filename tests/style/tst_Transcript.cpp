@@ -23,18 +23,13 @@ private Q_SLOTS:
 
     void colorsTellTheirNames()
     {
-        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getBrush(QStringLiteral("CardBorderBrush"), true)),
-                 "CardBorderBrush");
-        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getColor(QStringLiteral("MainColor"), false)),
-                 "MainColorDisabled");
-        const QString composed = QStringLiteral("ToggleButtonTarrinCheckedHoverForegroundBrush");
-        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getBrush(composed, false)),
+        const auto name = [](const char* brush, bool enabled) {
+            return ProbeTheme::nameOf(BaseStyle::getBrush(QString::fromLatin1(brush), enabled));
+        };
+        QCOMPARE(name("CardBorderBrush", true), "CardBorderBrush");
+        QCOMPARE(name("ToggleButtonTarrinCheckedHoverForegroundBrush", false),
                  "ToggleButtonTarrinCheckedHoverForegroundBrushDisabled");
-        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getBrush(QStringLiteral("MainBrush"), true)),
-                 "none");
-        QCOMPARE(
-            ProbeTheme::nameOf(ProbeTheme::palette().brush(QPalette::Disabled, QPalette::Window)),
-            "palette.Disabled.Window");
+        QCOMPARE(name("MainBrush", true), "none");
     }
 
     void roundedShapesAreRecognized()
@@ -64,11 +59,10 @@ private Q_SLOTS:
             painter->setClipRect(QRect(0, 0, 50, 50));
             painter->translate(0.5, 0.5);
             painter->drawEllipse(QRect(0, 0, 10, 10));
+            painter->setClipping(false);
             painter->setRenderHint(QPainter::Antialiasing);
             painter->setOpacity(0.5);
-            painter->drawRoundedRect(QRectF(0, 0, 20, 10), 2, 2);
             QPainterPath path;
-            path.moveTo(0, 0);
             path.lineTo(5, 5);
             path.cubicTo(1, 1, 2, 2, 3, 3);
             painter->drawPath(path);
@@ -77,10 +71,8 @@ private Q_SLOTS:
                  "rect 1,2 3x4 brush MainColor\n"
                  "line 1,2 30,40 pen #ff0000 1.8 flat miter\n"
                  "ellipse 0,0 10x10 pen #ff0000 1.8 flat miter at 0.5,0.5 clip -0.5,-0.5 50x50\n"
-                 "rounded 0,0 20x10 r2 pen #ff0000 1.8 flat miter smooth opacity 0.5 at 0.5,0.5 "
-                 "clip -0.5,-0.5 50x50\n"
                  "path 0,0 5,5 1,1c 2,2 3,3 pen #ff0000 1.8 flat miter smooth opacity 0.5 at "
-                 "0.5,0.5 clip -0.5,-0.5 50x50\n");
+                 "0.5,0.5\n");
     }
 
     void textAndIconsTellFontAndColor()

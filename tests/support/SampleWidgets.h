@@ -73,6 +73,12 @@ Sample filled(std::shared_ptr<Open<Widget>> widget)
     return sampleOf(widget, option);
 }
 
+template <class Widget, class Option>
+Sample filled()
+{
+    return filled<Widget, Option>(make<Open<Widget>>());
+}
+
 /// A widget whose option is filled from outside.
 template <class Widget, class Option>
 Sample plain()
@@ -114,16 +120,6 @@ inline Sample comboBox()
     auto widget = make<Open<QComboBox>>();
     widget->addItem(icon(), QStringLiteral("Text"));
     return filled<QComboBox, QStyleOptionComboBox>(widget);
-}
-
-inline Sample spinBox()
-{
-    return filled<QSpinBox, QStyleOptionSpinBox>(make<Open<QSpinBox>>());
-}
-
-inline Sample lineEdit()
-{
-    return filled<QLineEdit, QStyleOptionFrame>(make<Open<QLineEdit>>());
 }
 
 inline Sample frame()
@@ -257,11 +253,6 @@ inline Sample dockWidget()
     return filled<QDockWidget, QStyleOptionDockWidget>(widget);
 }
 
-inline Sample toolBar()
-{
-    return filled<QToolBar, QStyleOptionToolBar>(make<Open<QToolBar>>());
-}
-
 inline Sample toolBox()
 {
     Sample sample = plain<QToolBox, QStyleOptionToolBox>();
@@ -287,11 +278,6 @@ inline Sample rubberBand()
     auto widget = std::make_shared<Open<QRubberBand>>(QRubberBand::Rectangle);
     widget->resize(WidgetSize);
     return filled<QRubberBand, QStyleOptionRubberBand>(widget);
-}
-
-inline Sample focusRect()
-{
-    return plain<QLineEdit, QStyleOptionFocusRect>();
 }
 
 inline Sample mdiControls()

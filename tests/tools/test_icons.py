@@ -1,6 +1,5 @@
 """Tests of the icon generator and of the files that it wrote."""
 
-import math
 import re
 import sys
 import unittest
@@ -11,14 +10,10 @@ ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "tools" / "icons"))
 
 # pylint: disable=wrong-import-position
-import cutting
-import dashing
 import drawing
 import generate
-import pathdata
 import svg
 from compose import PALETTE, REFERENCE, compose
-from geometry import Similarity, ellipse, polyline, rectangle
 
 MANIFEST = {row["name"]: row for row in drawing.table(ROOT / "tools/icons/manifest.tsv")}
 CURSORS = {row["name"]: row for row in drawing.table(ROOT / "tools/icons/cursors.tsv")}
@@ -110,55 +105,8 @@ class Files(unittest.TestCase):
         self.assertEqual(GLYPHS.keys() - words, set())
 
 
-class Geometry(unittest.TestCase):
-    def assert_close(self, contour, other):
-        for a, b in zip(contour.points(), other.points(), strict=True):
-            self.assertLess(abs(a - b), .05)
-
-    def test_path_data_survives_reading_and_writing(self):
-        for data in ("M4 5h7.5v-3L2 2.5zM1 1l.5.5", "M3 12A12 8 30 1 0 18 9a2 2 0 0 1 .5-3",
-                     "M1 2c3 4 5 6 7 8s-9 10 11 12S3 4 5 6", "M12 2.75a9.25 9.25 0 0 1 8 13.85z"):
-            first = pathdata.read(data)
-            second = pathdata.read(pathdata.write(first))
-            for contour, other in zip(first, second, strict=True):
-                self.assert_close(contour, other)
-                self.assertEqual(contour.closed, other.closed)
-
-    def test_arcs_turn_and_mirror_with_their_ends(self):
-        arc = pathdata.read("M3 12A12 8 30 1 0 18 9")[0]
-        for similarity in (Similarity.turning(12 + 12j, 90), Similarity.about(12 + 12j, -1, True),
-                           Similarity.about(12 + 12j, .6j, True)):
-            moved = arc.moved(similarity)
-            for a, b in zip(arc.points(), moved.points(), strict=True):
-                self.assertLess(abs(similarity(a) - b), 1e-9)
-
-    def test_a_badge_cuts_outlines_and_areas_along_a_circle(self):
-        region = cutting.OutsideDisc(18 + 18j, 6)
-        square = rectangle(4, 4, 16, 16)
-        runs = cutting.cut_stroke(square, region)
-        self.assertEqual(len(runs), 1)
-        self.assertAlmostEqual(runs[0].length, 64 - 2 * (2 + math.sqrt(32)), 2)
-        area, = cutting.cut_area(square, region)
-        self.assertTrue(area.closed)
-        self.assertTrue(all(region(point) > -1e-6 for point in area.points()))
-        self.assertEqual(cutting.cut_area(ellipse(18 + 18j, 2, 2), region), [])
-        self.assertEqual(len(cutting.cut_area(rectangle(2, 2, 30, 30), region)), 2)
-
-    def test_a_slash_parts_an_area_in_two(self):
-        normal = 1 - 1j
-        halves = [cutting.cut_area(ellipse(12 + 12j, 8, 8), cutting.HalfPlane(12 + 12j + side * normal, side * normal))
-                  for side in (1, -1)]
-        self.assertEqual([len(half) for half in halves], [1, 1])
-
-    def test_dashes_are_symmetrical_and_keep_corners(self):
-        dashes = dashing.dashes(rectangle(3.75, 3.75, 16.5, 16.5, 1.5))
-        lengths = sorted(round(dash.length, 2) for dash in dashes)
-        self.assertEqual(lengths, [dashing.DASH] * 4 + [lengths[-1]] * 4)
-        corners = [sum(dash.points()) / len(dash.points()) for dash in dashes if dash.length > 2]
-        self.assertLess(abs(sum(corners) / 4 - (12 + 12j)), 1e-6)
-        self.assertAlmostEqual(sum(d.length for d in dashing.dashes(polyline([0j, 6 + 0j]))), 3)
-
-    def test_bad_tables_are_named(self):
+class Tables(unittest.TestCase):
+    def test_faults_are_named(self):
         with self.assertRaisesRegex(ValueError, "icon x: modifier nonsense"):
             compose({"name": "x", "base": "plus", "modifiers": "nonsense"}, GLYPHS)
 

@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QSignalSpy>
 #include <QStyleFactory>
-#include <QStyleOption>
 #include <QtTest>
 
 #include <memory>
@@ -31,14 +30,9 @@ private Q_SLOTS:
 
     void missingTwinsAreNotReplaced()
     {
-        const auto brushName = [](const char* name, bool enabled) {
-            return ProbeTheme::nameOf(BaseStyle::getBrush(QString::fromLatin1(name), enabled));
-        };
-        QCOMPARE(brushName("ForegroundBrush", true), "ForegroundBrush");
-        QCOMPARE(brushName("ForegroundBrush", false), "ForegroundBrushDisabled");
-        QCOMPARE(brushName("MainBrush", true), "MainBrush");
-        QCOMPARE(brushName("MainBrush", false), "none");
-        QVERIFY(BaseStyle::getColor(QStringLiteral("MainColor"), true).isValid());
+        const QString brush = QStringLiteral("MainBrush");
+        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getBrush(brush, true)), "MainBrush");
+        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getBrush(brush, false)), "none");
         QVERIFY(!BaseStyle::getColor(QStringLiteral("MainColor"), false).isValid());
     }
 
@@ -76,42 +70,6 @@ private Q_SLOTS:
         QCOMPARE(ProbeTheme::nameOf(style.lightOutlineBrush(polished)), "palette.Midlight");
     }
 
-    void tabsLightUpUnderThePointerOrWithFocusByKeyboard()
-    {
-        constexpr QStyle::State Enabled = QStyle::State_Enabled;
-        const auto state = [this](QStyle::State of) {
-            QStyleOptionTab option;
-            option.state = of;
-            return m_style->getTabBackgroundState(option);
-        };
-        QCOMPARE(state(Enabled | QStyle::State_Selected | QStyle::State_MouseOver),
-                 BaseStyle::TabBackground_Selected);
-        QCOMPARE(state(Enabled | QStyle::State_MouseOver), BaseStyle::TabBackground_Highlighted);
-        QCOMPARE(state(QStyle::State_MouseOver), BaseStyle::TabBackground_Unselected);
-        QCOMPARE(state(Enabled | QStyle::State_HasFocus), BaseStyle::TabBackground_Unselected);
-        QCOMPARE(state(Enabled | QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange),
-                 BaseStyle::TabBackground_Highlighted);
-    }
-
-    void defaultAndFlatButtonsAreOptionsOfButtons()
-    {
-        QStyleOptionButton button;
-        button.features = QStyleOptionButton::DefaultButton | QStyleOptionButton::Flat;
-        button.state = QStyle::State_None;
-        const QStyleOption* option = &button;
-        QVERIFY(BaseStyle::isFlatButton(option));
-        QVERIFY(!BaseStyle::isDefaultButton(option));
-        button.state = QStyle::State_Enabled;
-        QVERIFY(BaseStyle::isDefaultButton(option));
-
-        QStyleOptionToolButton tool;
-        tool.state = QStyle::State_Enabled | QStyle::State_MouseOver;
-        QVERIFY(!BaseStyle::isFlatButton(&tool) && !BaseStyle::isDefaultButton(&tool));
-        QVERIFY(BaseStyle::isButtonHovered(&tool));
-        tool.state |= QStyle::State_Sunken;
-        QVERIFY(BaseStyle::isHovered(&tool) && !BaseStyle::isButtonHovered(&tool));
-    }
-
     void grips()
     {
         const auto paint = [this](Qt::Orientation orientation, int from, int to) {
@@ -127,9 +85,7 @@ private Q_SLOTS:
         QVERIFY(horizontal.pixelColor(2, 4) != light); // the dark dot is two pixels wide
         QCOMPARE(horizontal.pixelColor(3, 5), light);
         QCOMPARE(horizontal.pixelColor(7, 5), light);
-        const QImage vertical = paint(Qt::Vertical, 1, 6);
-        QVERIFY(vertical.pixelColor(3, 1) != light);
-        QCOMPARE(vertical.pixelColor(4, 2), light); // always one pixel
+        QCOMPARE(paint(Qt::Vertical, 1, 6).pixelColor(4, 2), light); // always one pixel
     }
 };
 

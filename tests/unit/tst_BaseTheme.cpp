@@ -87,16 +87,12 @@ private Q_SLOTS:
     void publishesVariables()
     {
         BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
-
         const QStringList groups = qApp->property("theme_var").toMap().keys();
         QCOMPARE(groups.join(QLatin1Char(' ')),
                  QStringLiteral("brushes colors cornerRadius fonts internalBrushes internalColors "
                                 "opacities"));
-        QCOMPARE(variable("colors/MainColor").value<QColor>(), QColor(Qt::red));
         QVERIFY(!variable("colors/Secret").isValid());
         QCOMPARE(variable("internalColors/Secret").value<QColor>(), QColor(Qt::green));
-        const QVariantMap internal = qApp->property("theme_var_internal").toMap();
-        QCOMPARE(internal.keys(), QStringList(QStringLiteral("factors")));
         QCOMPARE(ThemeResources::getDisabledFactor(QStringLiteral("DarkBackgroundDisableFactor")),
                  200);
     }
@@ -262,20 +258,6 @@ private Q_SLOTS:
                                        + QLatin1String("/Fonts/broken.ttf"),
                                    QLatin1String("Error reading resource bundle: ")
                                        + repository.path(scalable + QLatin1String("broken.rcc"))}));
-    }
-
-    void iconsOfTheThemeAreFound()
-    {
-        const TemporaryRepository repository;
-        const QString path = repository.addTheme(QStringLiteral("a"), "With icons");
-        repository.write(QStringLiteral("a/Images/With icons/index.theme"),
-                         "[Icon Theme]\nName=x\n[scalable]\nSize=16\nType=Scalable\n"
-                         "MinSize=1\nMaxSize=512\n");
-        repository.write(QStringLiteral("a/Images/With icons/scalable/own.svg"), svgSquare("red"));
-        BaseTheme(path).customize(qApp);
-        QCOMPARE(QIcon::fromTheme(QStringLiteral("own")).name(), QStringLiteral("own"));
-        QCOMPARE(ThemeResources::getIcon(QStringLiteral("own")).pixmap(64).toImage().pixel(32, 32),
-                 qRgb(255, 0, 0));
     }
 };
 
