@@ -10,7 +10,6 @@
 #include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSpinBox>
 #include <QStyleOption>
 #include <QTabBar>
 #include <QToolButton>
@@ -249,21 +248,6 @@ private Q_SLOTS:
         editor->setFrame(false);
         QCOMPARE(brushesOf(option, editor),
                  "InputUncheckedHover InputUncheckedHoverBackgroundBrush ButtonUncheckedHover");
-    }
-
-    void spinBoxesHaveNoBorderOfTheirOwn()
-    {
-        QSpinBox number;
-        QTimeEdit timeWithPopup;
-        timeWithPopup.setCalendarPopup(true);
-        for (QAbstractSpinBox* spinBox : {static_cast<QAbstractSpinBox*>(&number),
-                                          static_cast<QAbstractSpinBox*>(&timeWithPopup)}) {
-            QCOMPARE(brushesOf(optionOf(Pressed), spinBox),
-                     "InputUncheckedPressed InputUncheckedPressedBackgroundBrush "
-                     "ButtonUncheckedPressed");
-            QCOMPARE(brushesOf(optionOf(Hovered), spinBox),
-                     "InputUnchecked InputUncheckedBackgroundBrush ButtonUncheckedHover");
-        }
     }
 
     void comboBoxesShowFocusAndPopupInTheirBorder()

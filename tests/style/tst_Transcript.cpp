@@ -1,9 +1,7 @@
 #include "BaseStyle.h"
-#include "Helpers.h"
 #include "ProbeTheme.h"
 #include "Transcript.h"
 
-#include <QIcon>
 #include <QPainterPath>
 #include <QtTest>
 
@@ -32,23 +30,6 @@ private Q_SLOTS:
         QCOMPARE(name("MainBrush", true), "none");
     }
 
-    void roundedShapesAreRecognized()
-    {
-        const auto rounded = [](Helpers::StraightCornerFlags squareCorners, int radius) {
-            return transcriptOf(drawn([&](QPainter* painter) {
-                painter->setPen(Qt::NoPen);
-                painter->setBrush(Qt::red);
-                Helpers::drawRoundedRectShape(QRectF(0.5, 0.5, 99, 19), radius, squareCorners,
-                                              painter);
-            }));
-        };
-        QCOMPARE(rounded(Helpers::None, 4), "rounded 0.5,0.5 99x19 r4 brush #ff0000 smooth\n");
-        QCOMPARE(rounded(Helpers::LeftCorners, 4),
-                 "rounded 0.5,0.5 99x19 r4 square top-left,bottom-left brush #ff0000 smooth\n");
-        QCOMPARE(rounded(Helpers::AllCorners, 4), "rect 0.5,0.5 99x19 brush #ff0000 smooth\n");
-        QCOMPARE(rounded(Helpers::None, 40), "rounded 0.5,0.5 99x19 r9.5 brush #ff0000 smooth\n");
-    }
-
     void shapesAreWrittenDown()
     {
         const QVector<Shape> shapes = drawn([](QPainter* painter) {
@@ -73,23 +54,6 @@ private Q_SLOTS:
                  "ellipse 0,0 10x10 pen #ff0000 1.8 flat miter at 0.5,0.5 clip -0.5,-0.5 50x50\n"
                  "path 0,0 5,5 1,1c 2,2 3,3 pen #ff0000 1.8 flat miter smooth opacity 0.5 at "
                  "0.5,0.5\n");
-    }
-
-    void textAndIconsTellFontAndColor()
-    {
-        QPixmap pixmap(16, 16);
-        pixmap.fill(BaseStyle::getColor(QStringLiteral("ForegroundColor"), true));
-        const QVector<Shape> shapes = drawn([&](QPainter* painter) {
-            QFont font;
-            font.setPixelSize(ProbeTheme::MediumFont);
-            font.setBold(true);
-            painter->setFont(font);
-            painter->setPen(ProbeTheme::palette().color(QPalette::Text));
-            painter->drawText(QRect(0, 0, 200, 40), Qt::AlignCenter, QStringLiteral("Text"));
-            painter->drawPixmap(4, 5, pixmap);
-        });
-        QCOMPARE(transcriptOf(shapes), "text \"Text\" medium bold pen palette.Text\n"
-                                       "pixmap 4,5 16x16 brush ForegroundColor\n");
     }
 };
 
