@@ -81,31 +81,22 @@ private Q_SLOTS:
         QVERIFY(ThemeResources::getPixmap(QStringLiteral("action.none"), {8, 8}).isNull());
     }
 
-    void hotSpots_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QPoint>("expected");
-        const QPoint middle(16, 16);
-        const auto row = [](const char* name, const QByteArray& content, const QPoint& expected) {
-            QTest::newRow(name) << QString::fromLatin1(name) << content << expected;
-        };
-        row("stated.cur", cursorFile(QByteArray("\x03\x00\x07\x00", 4)), {3, 7});
-        row("two bytes.cur", cursorFile(QByteArray("\x02\x01\x00\x00", 4)), {258, 0});
-        // A low byte of 128 or more makes a coordinate negative, which QCursor takes for the
-        // middle.
-        row("signed.cur", cursorFile(QByteArray("\x90\x00\x05\x00", 4)), {middle.x(), 5});
-        row("icon.cur", cursorFile(QByteArray("\x03\x00\x07\x00", 4)).replace(2, 1, "\x01"), {});
-        row("picture.svg", svgSquare("#fff").replace("16", "32"), middle);
-    }
-
     void hotSpots()
     {
-        QFETCH(QString, name);
-        QFETCH(QByteArray, content);
-        QFETCH(QPoint, expected);
-        m_files.write(QLatin1String("cursors/") + name, content);
-        QCOMPARE(ThemeResources::getCursor(name).hotSpot(), expected);
+        const auto hotSpot = [this](const char* name, const QByteArray& content) {
+            m_files.write(QLatin1String("cursors/") + QLatin1String(name), content);
+            return ThemeResources::getCursor(QLatin1String(name)).hotSpot();
+        };
+        const QByteArray stated = cursorFile(QByteArray("\x03\x00\x07\x00", 4));
+        QCOMPARE(hotSpot("stated.cur", stated), QPoint(3, 7));
+        QCOMPARE(hotSpot("two bytes.cur", cursorFile(QByteArray("\x02\x01\x00\x00", 4))),
+                 QPoint(258, 0));
+        // A low byte of 128 or more makes a coordinate negative, which QCursor takes for the
+        // middle.
+        QCOMPARE(hotSpot("signed.cur", cursorFile(QByteArray("\x90\x00\x05\x00", 4))),
+                 QPoint(16, 5));
+        QCOMPARE(hotSpot("icon.cur", QByteArray(stated).replace(2, 1, "\x01")), QPoint());
+        QCOMPARE(hotSpot("picture.svg", svgSquare("#fff").replace("16", "32")), QPoint(16, 16));
     }
 
     void withoutUsableFileTheCursorIsTheArrow()
