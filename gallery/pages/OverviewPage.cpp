@@ -214,8 +214,13 @@ QMainWindow* makeApplication()
     panes->addWidget(makeSidePane());
     panes->setStretchFactor(1, 1);
     panes->setSizes({26 * Unit, 62 * Unit, 34 * Unit});
-    panes->setContentsMargins(Unit, Unit, Unit, Unit);
-    window->setCentralWidget(panes);
+
+    // The room around the panes is not the splitter's own: it forgets that from right to left.
+    auto* center = new QWidget;
+    auto* layout = new QVBoxLayout(center);
+    layout->setContentsMargins(Unit, Unit, Unit, Unit);
+    layout->addWidget(panes);
+    window->setCentralWidget(center);
 
     window->statusBar()->showMessage(QStringLiteral("Six specimens, one selected"));
     auto* busy = new QProgressBar;
