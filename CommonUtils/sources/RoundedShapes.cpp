@@ -37,19 +37,16 @@ bool isGradientOfShape(const QBrush& brush)
 }
 
 /// Whether the shape's picture depends on nothing but what a tile's key holds.
-bool isTileable(const QPainter& painter, const QTransform& transform)
+bool isTileable(const QPainter& painter, const QPen& pen, const QBrush& brush,
+                const QTransform& transform)
 {
     const QPaintEngine* engine = painter.paintEngine();
     if (engine->type() != QPaintEngine::Raster || transform.type() > QTransform::TxScale
         || transform.m11() <= 0 || transform.m22() <= 0 || painter.opacity() < 1
         || painter.compositionMode() != QPainter::CompositionMode_SourceOver)
         return false;
-    const QPen& pen = painter.pen();
-    if (isVisible(pen)
-        && (pen.style() != Qt::SolidLine || pen.brush().style() != Qt::SolidPattern
-            || pen.widthF() > WidestPen))
+    if (isVisible(pen) && (pen.brush().style() != Qt::SolidPattern || pen.widthF() > WidestPen))
         return false;
-    const QBrush& brush = painter.brush();
     return brush.style() <= Qt::SolidPattern
            || (isGradientOfShape(brush) && painter.brushOrigin().isNull());
 }
@@ -99,20 +96,21 @@ const ShapeTile& tileFor(const TileKey& key, const TileAxis& horizontal, const T
 }
 
 /// Draws the shape from a tile; false if it has to be drawn as a path.
-bool drawFromTile(const RoundedShape& shape, QPainter* painter)
+bool drawFromTile(const RoundedShape& shape, const QPen& shapePen, const QBrush& brush,
+                  QPainter* painter)
 {
     const QTransform transform = painter->deviceTransform();
-    if (!isTileable(*painter, transform))
+    if (!isTileable(*painter, shapePen, brush, transform))
         return false;
+    static const QPen sNoPen(Qt::NoPen);
+    const QPen& pen = isVisible(shapePen) ? shapePen : sNoPen;
     const QRectF rect = transform.mapRect(shape.rect);
-    const bool stretchable = painter->brush().style() <= Qt::SolidPattern
+    const bool stretchable = brush.style() <= Qt::SolidPattern && pen.style() <= Qt::SolidLine
                              && rect.width() * rect.height() > LargestWholeShape;
     if (rect.left() < -FarthestPixel || rect.top() < -FarthestPixel || rect.right() > FarthestPixel
         || rect.bottom() > FarthestPixel)
         return false;
 
-    static const QPen sNoPen(Qt::NoPen);
-    const QPen& pen = isVisible(painter->pen()) ? painter->pen() : sNoPen;
     const QSizeF reach = penReach(pen, transform.m11(), transform.m22());
     TileAxis horizontal(rect.left(), rect.right(), reach.width() * transform.m11(),
                         shape.radius * transform.m11(), stretchable);
@@ -120,10 +118,10 @@ bool drawFromTile(const RoundedShape& shape, QPainter* painter)
                       shape.radius * transform.m22(), stretchable);
     if (qint64(horizontal.size) * vertical.size > LargestTile)
         return false;
-    const ShapeTile& tile = tileFor({pen, painter->brush(), shape.radius, transform.m11(),
-                                     transform.m22(), horizontal.edge, vertical.edge,
-                                     horizontal.length, vertical.length, shape.straightCorners},
-                                    horizontal, vertical);
+    const ShapeTile& tile =
+        tileFor({pen, brush, shape.radius, transform.m11(), transform.m22(), horizontal.edge,
+                 vertical.edge, horizontal.length, vertical.length, shape.straightCorners},
+                horizontal, vertical);
     if (transform.type() <= QTransform::TxTranslate && isAlmostWhole(transform.dx())
         && isAlmostWhole(transform.dy())) {
         horizontal.first -= qRound(transform.dx());
@@ -141,6 +139,13 @@ bool drawFromTile(const RoundedShape& shape, QPainter* painter)
 void Helpers::drawRoundedRectShape(const QRectF& rect, int radius,
                                    StraightCornerFlags straightCorners, QPainter* painter)
 {
+    if (painter && painter->isActive())
+        drawRoundedBox(rect, radius, straightCorners, painter->pen(), painter->brush(), painter);
+}
+
+void Helpers::drawRoundedBox(const QRectF& rect, int radius, StraightCornerFlags straightCorners,
+                             const QPen& pen, const QBrush& brush, QPainter* painter)
+{
     const bool drawable = rect.width() > 0 && rect.height() > 0 && std::isfinite(rect.x())
                           && std::isfinite(rect.y()) && std::isfinite(rect.right())
                           && std::isfinite(rect.bottom());
@@ -151,12 +156,14 @@ void Helpers::drawRoundedRectShape(const QRectF& rect, int radius,
                        straightCorners & AllCorners};
     if (radius <= 0)
         shape.straightCorners = AllCorners;
-    if (drawFromTile(shape, painter))
+    if (drawFromTile(shape, pen, brush, painter))
         return;
-    const bool antialiased = painter->testRenderHint(QPainter::Antialiasing);
+    painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(pen);
+    painter->setBrush(brush);
     painter->drawPath(shape.path());
-    painter->setRenderHint(QPainter::Antialiasing, antialiased);
+    painter->restore();
 }
 
 } // namespace BRELK

@@ -190,6 +190,10 @@ QVector<ShapeTile::Stripe> ShapeTile::stripes(int start, int end, PixelAt pixelA
 
 void ShapeTile::draw(QPainter* painter, const TileAxis& horizontal, const TileAxis& vertical) const
 {
+    if (horizontal.stretch == 0 && vertical.stretch == 0) {
+        painter->drawImage(QPoint(horizontal.first, vertical.first), m_image);
+        return;
+    }
     for (const Stripe& column : m_columns) {
         const int left = horizontal.placed(column.start);
         const int right = horizontal.placed(column.start + column.size);

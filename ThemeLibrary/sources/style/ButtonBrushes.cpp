@@ -22,10 +22,12 @@ struct ButtonLook
 {
     const QStyleOption& option;
     const QWidget* widget;
+    WidgetProperties::Reader properties = WidgetProperties::Reader(widget);
     bool enabled = !widget || widget->isEnabled();
-    bool highlighted = WidgetProperties::flag(widget, WidgetProperties::Highlighted);
-    bool checkable = WidgetProperties::flag(widget, WidgetProperties::Checkable);
-    QString kind = {};
+    const QComboBox* comboBox = qobject_cast<const QComboBox*>(widget);
+    bool spinBox = widget && WidgetTraits::isSpinBox(widget);
+    bool checkable = properties.flag(WidgetProperties::Checkable);
+    QString kind = properties.kind();
     QString state = {};
     BaseStyle::ButtonBrushes brushes = {};
 
@@ -48,14 +50,15 @@ struct ButtonLook
     bool isIdle() const { return !BaseStyle::isDown(option) && !isHovered(); }
 };
 
-QString stateWord(const QStyleOption& option, const QWidget* widget)
+QString stateWord(const ButtonLook& look)
 {
+    const QStyleOption& option = look.option;
     const auto checkWord = [](bool checked) {
         return checked ? ThemeNames::checked() : ThemeNames::unchecked();
     };
     QString word;
-    if (WidgetProperties::flag(widget, WidgetProperties::Blinking))
-        word = checkWord(WidgetProperties::flag(widget, WidgetProperties::BlinkChecked));
+    if (look.properties.flag(WidgetProperties::Blinking))
+        word = checkWord(look.properties.flag(WidgetProperties::BlinkChecked));
     else if (BaseStyle::isDefaultButton(&option) && option.state & QStyle::State_Active)
         word = ThemeNames::byDefault();
     else
@@ -79,32 +82,29 @@ bool isMenuPartPressed(const QStyleOption& option, const QWidget* widget)
     return part == QStyle::SC_ToolButtonMenu;
 }
 
-void findWords(ButtonLook& look)
+void findStateWord(ButtonLook& look)
 {
     const bool calendarAtRest = WidgetTraits::isCalendarButton(look.widget) && !look.isPressed();
     if (calendarAtRest || isMenuPartPressed(look.option, look.widget))
         look.state = ThemeNames::unchecked() + ThemeNames::hover();
     else
-        look.state = stateWord(look.option, look.widget);
-
-    if (look.highlighted)
-        look.kind = ThemeNames::highlighted();
-    for (const char* property :
-         {WidgetProperties::Status, WidgetProperties::Order, WidgetProperties::ButtonType}) {
-        if (look.kind.isEmpty())
-            look.kind = WidgetProperties::text(look.widget, property);
-    }
+        look.state = stateWord(look);
 }
 
 void composeByName(ButtonLook& look)
 {
-    findWords(look);
+    findStateWord(look);
+    if (look.comboBox) // dressed below
+        return;
     const QString toggle = look.checkable ? ThemeNames::toggle() : QString();
     const auto brush = [&](const QString& part) {
         return look.brush(toggle + ThemeNames::button() + look.kind + look.state + part);
     };
-    look.brushes = {brush(ThemeNames::backgroundPart()), brush(ThemeNames::borderPart()),
-                    brush(ThemeNames::foregroundPart())};
+    look.brushes.foregroundBrush = brush(ThemeNames::foregroundPart());
+    if (look.spinBox)
+        return;
+    look.brushes.backgroundBrush = brush(ThemeNames::backgroundPart());
+    look.brushes.borderBrush = brush(ThemeNames::borderPart());
 }
 
 void flattenBorder(ButtonLook& look)
@@ -112,14 +112,15 @@ void flattenBorder(ButtonLook& look)
     if (!BaseStyle::isFlatButton(&look.option))
         return;
     look.brushes.borderBrush = look.brushes.backgroundBrush;
-    if ((look.highlighted || look.kind == ThemeNames::tarrin()) && look.isPressed())
+    if ((look.properties.flag(WidgetProperties::Highlighted) || look.kind == ThemeNames::tarrin())
+        && look.isPressed())
         look.brushes.foregroundBrush =
             look.brush(ThemeNames::buttonHighlightedUncheckedHoverForegroundBrush());
 }
 
 void outline(ButtonLook& look)
 {
-    if (!WidgetProperties::flag(look.widget, WidgetProperties::Outline))
+    if (!look.properties.flag(WidgetProperties::Outline))
         return;
     if (BaseStyle::isChecked(look.option) && look.isHovered() && !look.isPressed()) {
         // Deliberate: the toggle word is left out here.
@@ -136,6 +137,8 @@ void outline(ButtonLook& look)
 
 void dressAsInput(ButtonLook& look)
 {
+    if (!look.spinBox)
+        return;
     BaseStyle::ButtonBrushes& brushes = look.brushes;
     if (WidgetTraits::isCalendarPopupEditor(look.widget)) {
         brushes.backgroundBrush = look.inputBrush(ThemeNames::backgroundPart());
@@ -145,7 +148,7 @@ void dressAsInput(ButtonLook& look)
             brushes.borderBrush = look.brush(ThemeNames::mainBrush());
         else
             brushes.borderBrush = look.inputBrush(ThemeNames::borderPart());
-    } else if (WidgetTraits::isSpinBox(look.widget)) {
+    } else {
         brushes.backgroundBrush = look.isHovered()
                                       ? look.brush(ThemeNames::inputUncheckedBackgroundBrush())
                                       : look.inputBrush(ThemeNames::backgroundPart());
@@ -166,9 +169,16 @@ bool isPopupVisible(const QComboBox& comboBox)
     return false;
 }
 
+/// Quicker than looking for the editor of each combo box.
+bool isFocusWithin(const QComboBox& comboBox)
+{
+    const QWidget* focused = QApplication::focusWidget();
+    return focused && (focused == &comboBox || comboBox.isAncestorOf(focused));
+}
+
 void dressAsComboBox(ButtonLook& look)
 {
-    const auto* comboBox = qobject_cast<const QComboBox*>(look.widget);
+    const QComboBox* comboBox = look.comboBox;
     if (!comboBox)
         return;
     look.brushes = {look.inputBrush(ThemeNames::backgroundPart()),
@@ -178,7 +188,7 @@ void dressAsComboBox(ButtonLook& look)
         look.brushes.borderBrush = look.brushes.backgroundBrush;
     } else if (isPopupVisible(*comboBox)) {
         look.brushes.borderBrush = look.borderBrush();
-    } else if (comboBox->isEditable()) {
+    } else if (comboBox->isEditable() && isFocusWithin(*comboBox)) {
         const auto* editor = comboBox->findChild<QLineEdit*>();
         if (editor && editor->hasFocus())
             look.brushes.borderBrush = look.brush(ThemeNames::mainBrush());
@@ -204,7 +214,7 @@ void colorWorkflowGroup(ButtonLook& look)
     if (!WidgetProperties::flag(group, WidgetProperties::ButtonGroupWorkflow))
         return;
     if (WidgetProperties::flag(group, WidgetProperties::ButtonGroupExclusive)) {
-        if (WidgetProperties::flag(look.widget, WidgetProperties::Checked)) {
+        if (look.properties.flag(WidgetProperties::Checked)) {
             look.brushes.foregroundBrush = look.brush(ThemeNames::foregroundBrush());
             look.brushes.borderBrush = look.brushes.foregroundBrush;
         } else {

@@ -119,14 +119,15 @@ Corners straightCorners(const StyleContext& context)
                                                                      : Corners(Helpers::None);
 }
 
-/// The ground of a spin box is also that of its buttons, until one is pressed.
-bool isSpinButtonOnGround(const StyleContext& context, const QBrush& background)
+/// The ground of a spin box is also that of its buttons, until one is pressed or blinks.
+bool isSpinButtonOnGround(const StyleContext& context)
 {
-    return context.widget && WidgetTraits::isSpinBox(context.widget)
-           && !WidgetTraits::isCalendarPopupEditor(context.widget)
-           && background
-                  == BaseStyle::getBrush(ThemeNames::inputUncheckedBackgroundBrush(),
-                                         context.widget->isEnabled());
+    if (!context.widget || !WidgetTraits::isSpinBox(context.widget)
+        || WidgetTraits::isCalendarPopupEditor(context.widget) || BaseStyle::isDown(context.option))
+        return false;
+    const WidgetProperties::Reader properties(context.widget);
+    return BaseStyle::isHovered(&context.option)
+           || (properties.kind().isEmpty() && !properties.flag(WidgetProperties::Blinking));
 }
 
 /// An outline button is empty until it is pointed at, pressed or checked; a flat one shows nothing
@@ -225,13 +226,13 @@ void paintDefaultFrame(const PaintContext& context)
 
 void paintPanel(const PaintContext& context)
 {
+    if (isSpinButtonOnGround(context))
+        return;
     BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&context.option, context.widget);
     if (context.widget && WidgetTraits::isSegmentedGroup(context.widget->parent())) {
         paintSegment(context, brushes);
         return;
     }
-    if (isSpinButtonOnGround(context, brushes.backgroundBrush))
-        return;
     const bool filled = isFilled(context);
     const bool hasError = showsError(context);
     if (!filled && !hasError && BaseStyle::isFlatButton(&context.option))

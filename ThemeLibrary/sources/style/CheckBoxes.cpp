@@ -1,6 +1,7 @@
 #include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
+#include "Pictures.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 
@@ -215,16 +216,18 @@ void BaseStyle::drawCheckMark(QPainter* painter, const QRect& rect, QBrush brush
     constexpr qreal Inset = 4;
     if (!painter)
         return;
-    const PainterSaver saver(*painter);
-    QPainterPath tick;
-    tick.moveTo(Inset, rect.height() / 2.0);
-    tick.lineTo(rect.width() / 2.0, rect.height() - Margin);
-    tick.lineTo(rect.width() - Margin - 0.5, Inset);
-    tick.translate(rect.topLeft());
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(brush, PenWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
-    painter->setBrush(Qt::NoBrush);
-    painter->drawPath(tick);
+    Pictures::draw(*painter, Pictures::Kind::CheckMark, rect, brush, [&](QPainter& onto) {
+        const PainterSaver saver(onto);
+        QPainterPath tick;
+        tick.moveTo(Inset, rect.height() / 2.0);
+        tick.lineTo(rect.width() / 2.0, rect.height() - Margin);
+        tick.lineTo(rect.width() - Margin - 0.5, Inset);
+        tick.translate(rect.topLeft());
+        onto.setRenderHint(QPainter::Antialiasing);
+        onto.setPen(QPen(brush, PenWidth, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));
+        onto.setBrush(Qt::NoBrush);
+        onto.drawPath(tick);
+    });
 }
 
 void BaseStyle::drawRadioMark(QPainter* painter, const QRect& rect, QBrush brush) const
@@ -232,12 +235,14 @@ void BaseStyle::drawRadioMark(QPainter* painter, const QRect& rect, QBrush brush
     constexpr qreal SizeInRect = 0.5;
     if (!painter)
         return;
-    const PainterSaver saver(*painter);
-    const qreal radius = qMin(rect.width(), rect.height()) * SizeInRect / 2;
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(Qt::NoPen);
-    painter->setBrush(brush);
-    painter->drawEllipse(QRectF(rect).center(), radius, radius);
+    Pictures::draw(*painter, Pictures::Kind::RadioMark, rect, brush, [&](QPainter& onto) {
+        const PainterSaver saver(onto);
+        const qreal radius = qMin(rect.width(), rect.height()) * SizeInRect / 2;
+        onto.setRenderHint(QPainter::Antialiasing);
+        onto.setPen(Qt::NoPen);
+        onto.setBrush(brush);
+        onto.drawEllipse(QRectF(rect).center(), radius, radius);
+    });
 }
 
 } // namespace BRELK

@@ -139,6 +139,8 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
 
 void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
+    if (comboBox.editable && comboBox.currentIcon.isNull())
+        return; // the text is the line edit's
     QRect rect = fieldRect(context, comboBox);
     if (!comboBox.frame && !comboBox.editable)
         paintQuietBackground(

@@ -29,8 +29,10 @@ Painter painterOf(QStyle::PrimitiveElement element)
     case QStyle::PE_IndicatorCheckBox:         return by<CheckBoxes::paintIndicator>;
     case QStyle::PE_IndicatorColumnViewArrow:  return by<ItemViews::paintColumnViewArrow>;
     case QStyle::PE_IndicatorRadioButton:      return by<CheckBoxes::paintRadioIndicator>;
+    case QStyle::PE_IndicatorSpinDown:         return by<SpinBoxes::paintDown>;
     case QStyle::PE_IndicatorSpinMinus:        return by<SpinBoxes::paintMinus>;
     case QStyle::PE_IndicatorSpinPlus:         return by<SpinBoxes::paintPlus>;
+    case QStyle::PE_IndicatorSpinUp:           return by<SpinBoxes::paintUp>;
     case QStyle::PE_IndicatorTabClose:         return by<Tabs::paintCloseButton>;
     case QStyle::PE_IndicatorToolBarHandle:    return by<ToolBars::paintHandle>;
     case QStyle::PE_IndicatorToolBarSeparator: return by<ToolBars::paintSeparator>;

@@ -160,8 +160,10 @@ QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spin
                   const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
                QStyle::SubControl part, const QRect& base);
+void paintDown(const PaintContext& context);
 void paintMinus(const PaintContext& context);
 void paintPlus(const PaintContext& context);
+void paintUp(const PaintContext& context);
 void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBox);
 } // namespace SpinBoxes
 

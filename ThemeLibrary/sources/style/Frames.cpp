@@ -1,5 +1,5 @@
 #include "Families.h"
-#include "PainterSaver.h"
+#include "Shapes.h"
 #include "StyleContext.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
@@ -82,20 +82,15 @@ void paintBox(const PaintContext& context, const QStyleOptionFrame& frame)
 void paintFocusRect(const PaintContext& context)
 {
     constexpr qreal Dash = 2;
-    constexpr qreal Radius = 1;
+    constexpr int Radius = 1;
     if (context.flag(WidgetProperties::HideFocusRect)
         || !context.has(QStyle::State_KeyboardFocusChange))
         return;
-    const PainterSaver saver(context.painter);
     QPen pen(context.option.palette.color(QPalette::Text), 0, Qt::SolidLine, Qt::SquareCap,
              Qt::BevelJoin);
     pen.setDashPattern({Dash, Dash});
-    context.painter.setRenderHint(QPainter::Antialiasing);
-    context.painter.translate(0.5, 0.5);
-    context.painter.setPen(pen);
-    context.painter.setBrush(Qt::NoBrush);
-    context.painter.drawRoundedRect(context.option.rect.adjusted(0, 0, -1, -1), Radius, Radius,
-                                    Qt::AbsoluteSize);
+    Helpers::drawRoundedBox(Shapes::onPixels(context.option.rect), Radius, Helpers::None, pen,
+                            Qt::NoBrush, &context.painter);
 }
 
 void paintToolTip(const PaintContext& context)

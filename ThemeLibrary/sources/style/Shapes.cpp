@@ -1,6 +1,5 @@
 #include "Shapes.h"
 
-#include "PainterSaver.h"
 #include "Texts.h"
 #include "ThemeColorHelper.h"
 #include "ThemeResources.h"
@@ -32,11 +31,8 @@ void drawBox(const PaintContext& context, const QRect& rect, int radius, const Q
     const bool hasBorder = border.style() != Qt::NoBrush;
     if (!hasBorder && fill.style() == Qt::NoBrush)
         return;
-    const PainterSaver saver(context.painter);
-    context.painter.setPen(borderPen(border));
-    context.painter.setBrush(fill);
-    Helpers::drawRoundedRectShape(hasBorder ? onPixels(rect) : QRectF(rect), radius,
-                                  straightCorners, &context.painter);
+    Helpers::drawRoundedBox(hasBorder ? onPixels(rect) : QRectF(rect), radius, straightCorners,
+                            borderPen(border), fill, &context.painter);
 }
 
 void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,

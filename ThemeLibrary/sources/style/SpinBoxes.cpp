@@ -1,5 +1,6 @@
 #include "Families.h"
 #include "PainterSaver.h"
+#include "Pictures.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 
@@ -89,11 +90,21 @@ void setButtonText(QPalette& palette, const QBrush& brush)
     palette.setBrush(palette.currentColorGroup(), QPalette::ButtonText, brush);
 }
 
-QStyleOptionSpinBox stepOption(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
-                               const StepButton& button)
+/// Most of the time it has the palette already, and comparing is quicker than assigning.
+void setPalette(QStyleOption& option, const QPalette& palette)
 {
-    QStyleOptionSpinBox copy = spinBox;
+    if (!option.palette.isCopyOf(palette)
+        || option.palette.currentColorGroup() != palette.currentColorGroup())
+        option.palette = palette;
+}
+
+/// Makes `copy` of the spin box the option of one of its buttons.
+void setUpStep(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
+               const StepButton& button, QStyleOptionSpinBox& copy)
+{
     copy.subControls = button.part;
+    copy.state = spinBox.state;
+    setPalette(copy, spinBox.palette);
     if (!(spinBox.stepEnabled & button.step)) {
         copy.palette.setCurrentColorGroup(QPalette::Disabled);
         copy.state &= ~QStyle::State_Enabled;
@@ -110,14 +121,14 @@ QStyleOptionSpinBox stepOption(const PaintContext& context, const QStyleOptionSp
     copy.rect = context.proxy()
                     .subControlRect(QStyle::CC_SpinBox, &spinBox, button.part, context.widget)
                     .translated(0, button.shift);
-    return copy;
 }
 
-void paintStepButton(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
-                     const StepButton& button)
+void paintStepButton(const PaintContext& context, const StepButton& button,
+                     QStyleOptionSpinBox& copy, QStyleOptionButton& bevel)
 {
-    QStyleOptionSpinBox copy = stepOption(context, spinBox, button);
-    const auto bevel = optionFrom<QStyleOptionButton>(copy);
+    bevel.rect = copy.rect;
+    bevel.state = copy.state;
+    setPalette(bevel, copy.palette);
     context.draw(QStyle::PE_PanelButtonBevel, bevel);
 
     if (context.style.getButtonBackgroundState(bevel) == BaseStyle::ButtonBackground_Highlighted)
@@ -126,7 +137,7 @@ void paintStepButton(const PaintContext& context, const QStyleOptionSpinBox& spi
         setButtonText(copy.palette, context.brush(ThemeNames::mainBrush()));
     if (BaseStyle::isDown(bevel))
         setButtonText(copy.palette, context.brush(ThemeNames::mainSubLevel1Brush()));
-    const bool hasSigns = spinBox.buttonSymbols == QAbstractSpinBox::PlusMinus;
+    const bool hasSigns = copy.buttonSymbols == QAbstractSpinBox::PlusMinus;
     context.draw(hasSigns ? button.sign : button.arrow, copy);
 }
 
@@ -142,18 +153,47 @@ QColor borderColor(const PaintContext& context, bool hasError)
 void paintStepButtons(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
                       const QRect& frame)
 {
-    const PainterSaver saver(context.painter);
-    if (spinBox.subControls & QStyle::SC_SpinBoxUp) {
-        context.painter.setClipRect(frame.adjusted(0, 1, -1, -1));
-        paintStepButton(context, spinBox, UpButton);
-    }
-    if (spinBox.subControls & QStyle::SC_SpinBoxDown) {
-        context.painter.setClipRect(frame.adjusted(0, 0, -1, -1));
-        paintStepButton(context, spinBox, DownButton);
+    QStyleOptionSpinBox copy = spinBox;
+    auto bevel = optionFrom<QStyleOptionButton>(spinBox);
+    for (const StepButton& button : {UpButton, DownButton}) {
+        if (!(spinBox.subControls & button.part))
+            continue;
+        setUpStep(context, spinBox, button, copy);
+        const QRect clip = frame.adjusted(0, button.shift, -1, -1);
+        if (clip.contains(copy.rect)) { // clipping takes longer than painting
+            paintStepButton(context, button, copy, bevel);
+        } else {
+            const PainterSaver saver(context.painter);
+            context.painter.setClipRect(clip);
+            paintStepButton(context, button, copy, bevel);
+        }
     }
 }
 
+/// The base style draws the arrows, as polygons.
+void paintArrow(const PaintContext& context, QStyle::PrimitiveElement arrow, Pictures::Kind kind)
+{
+    if (BaseStyle::isPressed(context.option)) { // may be shifted
+        context.drawByBase(arrow);
+        return;
+    }
+    Pictures::draw(context.painter, kind, context.option.rect,
+                   context.option.palette.brush(QPalette::ButtonText), [&](QPainter& onto) {
+                       PaintContext{context, onto}.drawByBase(arrow);
+                   });
+}
+
 } // namespace
+
+void paintUp(const PaintContext& context)
+{
+    paintArrow(context, QStyle::PE_IndicatorSpinUp, Pictures::Kind::SpinUp);
+}
+
+void paintDown(const PaintContext& context)
+{
+    paintArrow(context, QStyle::PE_IndicatorSpinDown, Pictures::Kind::SpinDown);
+}
 
 void paintMinus(const PaintContext& context)
 {

@@ -97,7 +97,9 @@ struct StyleContext
 template <class Option>
 Option optionFrom(const QStyleOption& source)
 {
-    Option option;
+    // A new option asks the application for its font, which takes longer than a copy.
+    static const Option sEmpty;
+    Option option = sEmpty;
     option.QStyleOption::operator=(source);
     return option;
 }

@@ -1,5 +1,7 @@
 #include "WidgetProperties.h"
 
+#include "ThemeNames.h"
+
 #include <QMetaProperty>
 
 #include <array>
@@ -34,18 +36,35 @@ int declaredIndex(const QMetaObject* meta, const char* property)
 
 } // namespace
 
-QVariant value(const QObject* object, const char* property)
+Reader::Reader(const QObject* object) : m_object(object), m_class(nullptr)
 {
     if (!object)
+        return;
+    m_class = object->metaObject();
+    m_ownNames = object->dynamicPropertyNames();
+}
+
+QVariant Reader::value(const char* property) const
+{
+    if (!m_object)
         return {};
-    const QMetaObject* meta = object->metaObject();
-    const int index = declaredIndex(meta, property);
+    const int index = declaredIndex(m_class, property);
     if (index >= 0)
-        return meta->property(index).read(object);
-    const QList<QByteArray> names = object->dynamicPropertyNames();
-    for (const QByteArray& name : names) {
+        return m_class->property(index).read(m_object);
+    for (const QByteArray& name : m_ownNames) {
         if (name == property)
-            return object->property(property);
+            return m_object->property(property);
+    }
+    return {};
+}
+
+QString Reader::kind() const
+{
+    if (flag(Highlighted))
+        return ThemeNames::highlighted();
+    for (const char* property : {Status, Order, ButtonType}) {
+        if (const QString word = text(property); !word.isEmpty())
+            return word;
     }
     return {};
 }

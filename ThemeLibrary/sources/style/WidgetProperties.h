@@ -112,24 +112,56 @@ inline constexpr char Tracking[] = "tracking";
 inline constexpr char WorkflowLinkBrush[] = "WorkflowLinkBrush";
 inline constexpr char WorkflowLinkBrushDisabled[] = "WorkflowLinkBrushDisabled";
 
-/// The value of one of the properties above: invalid when `object` is null or lacks it.
+/// Asks one object, which may be null, for properties of the list above.
 ///
 /// Much quicker than QObject::property(), which compares the name with dozens of declared ones to
-/// find nothing most of the time: a class is asked once per name.
-QVariant value(const QObject* object, const char* property);
-
-/// False when absent.
-inline bool flag(const QObject* object, const char* property)
+/// find nothing most of the time: a class is asked once per name, and the object for the names of
+/// its own when the reader is made. Not to be kept.
+class Reader
 {
-    const QVariant found = value(object, property);
-    return found.isValid() && found.toBool();
+public:
+    explicit Reader(const QObject* object);
+
+    /// Invalid when absent.
+    QVariant value(const char* property) const;
+
+    /// False when absent.
+    bool flag(const char* property) const
+    {
+        const QVariant found = value(property);
+        return found.isValid() && found.toBool();
+    }
+
+    /// Empty when absent.
+    QString text(const char* property) const
+    {
+        const QVariant found = value(property);
+        return found.isValid() ? found.toString() : QString();
+    }
+
+    /// The word by which the theme knows buttons and inputs like this one: that for "highlighted"
+    /// if it is, else the text of "Status", "Order" or "ButtonType". Empty for most.
+    QString kind() const;
+
+private:
+    const QObject* m_object;
+    const QMetaObject* m_class;
+    QList<QByteArray> m_ownNames;
+};
+
+inline QVariant value(const QObject* object, const char* property)
+{
+    return Reader(object).value(property);
 }
 
-/// Empty when absent.
+inline bool flag(const QObject* object, const char* property)
+{
+    return Reader(object).flag(property);
+}
+
 inline QString text(const QObject* object, const char* property)
 {
-    const QVariant found = value(object, property);
-    return found.isValid() ? found.toString() : QString();
+    return Reader(object).text(property);
 }
 
 } // namespace BRELK::WidgetProperties
