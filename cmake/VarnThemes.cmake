@@ -5,6 +5,7 @@
 get_target_property(VARN_RCC Qt5::rcc IMPORTED_LOCATION)
 add_custom_target(varn_themes ALL)
 set(VARN_ICONS_DIR ${CMAKE_CURRENT_LIST_DIR}/../ThemeLibrary/resources/Icons)
+set(VARN_STANDARD_NAMES ${CMAKE_CURRENT_LIST_DIR}/../ThemeLibrary/resources/standard-names.txt)
 
 function(varn_add_theme name)
     set(source ${CMAKE_CURRENT_SOURCE_DIR}/${name})
@@ -47,6 +48,9 @@ MaxSize=512
 ")
     set(bundled)
     set(entries "<file alias=\"index.theme\">${index}</file>\n")
+    # Under the names of the freedesktop.org icon naming specification, Qt's dialogs and menus ask for icons themselves.
+    file(STRINGS ${VARN_STANDARD_NAMES} standardNames REGEX "^[a-z]")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${VARN_STANDARD_NAMES})
     foreach(icon IN LISTS icons)
         get_filename_component(base ${icon} NAME)
         # Of two files of one name Qt shows the bundle's, so a theme's own icon goes into it.
@@ -56,6 +60,13 @@ MaxSize=512
         endif()
         list(APPEND bundled ${icon})
         string(APPEND entries "<file alias=\"scalable/${base}\">${icon}</file>\n")
+        string(REPLACE "." "\\." pattern ${base})
+        set(aliases ${standardNames})
+        list(FILTER aliases INCLUDE REGEX " ${pattern}$")
+        foreach(alias IN LISTS aliases)
+            string(REGEX REPLACE " .*" ".svg" alias ${alias})
+            string(APPEND entries "<file alias=\"scalable/${alias}\">${icon}</file>\n")
+        endforeach()
     endforeach()
     file(CONFIGURE OUTPUT ${file} @ONLY CONTENT
 "<RCC><qresource prefix=\"/icons/@name@\">
