@@ -72,22 +72,24 @@ private Q_SLOTS:
         COMPARE_TRANSCRIPT("Windows.titleBar", text);
     }
 
-    void activeCaptionsAreReadableOnLightBars()
+    void activeCaptionsAreReadable()
     {
         const StyleOptions::Sample sample = StyleOptions::sampleFor(QStyle::CC_TitleBar);
         auto& bar = static_cast<QStyleOptionTitleBar&>(*sample.option);
         bar.rect = QRect(0, 0, 300, 28);
         bar.titleBarState = int(QStyle::State_Active);
         bar.subControls = QStyle::SC_TitleBarLabel;
-        const auto hasBacking = [&](const QColor& light) {
+        const auto hasBacking = [&](const QColor& light, const QColor& window) {
             bar.palette.setColor(QPalette::Light, light);
+            bar.palette.setColor(QPalette::Window, window);
             bool found = false;
             for (const Shape& shape : drawn(QStyle::CC_TitleBar, bar, sample.widget.get()))
-                found = found || shape.brush == "MainColor";
+                found = found || shape.brush == "ButtonDefaultBackgroundBrush";
             return found;
         };
-        QVERIFY(hasBacking(Qt::white));
-        QVERIFY(!hasBacking(Qt::black));
+        QVERIFY(hasBacking(Qt::white, Qt::black));
+        QVERIFY(hasBacking(Qt::black, Qt::black));
+        QVERIFY(!hasBacking(Qt::black, Qt::white));
     }
 
     void focusMarks()

@@ -64,13 +64,9 @@ void paintArrow(const PaintContext& context, const QIcon& icon)
     // Deliberate: no widget, no arrow.
     if (!context.widget || context.flag(WidgetProperties::NoMenuArrow))
         return;
-    QBrush brush = context.option.palette.brush(QPalette::ButtonText);
-    if (qobject_cast<const QToolButton*>(context.widget)) {
-        const QBrush themed =
-            BaseStyle::buttonBrushes(&context.option, context.widget).foregroundBrush;
-        brush =
-            ButtonContent::textBrush(context.option, context.widget, QPalette::ButtonText, themed);
-    }
+    const QBrush brush = qobject_cast<const QToolButton*>(context.widget)
+                             ? ButtonContent::foreground(context.option, context.widget)
+                             : context.option.palette.brush(QPalette::ButtonText);
     const QRect& rect = context.option.rect;
     const int size = qMin(context.measure().dpiScaled(IconSize), qMin(rect.width(), rect.height()));
     Shapes::drawIcon(context, icon, brush, rect, size);

@@ -1,15 +1,21 @@
 #include "ButtonContent.h"
 
 #include "ThemeColorHelper.h"
+#include "WidgetTraits.h"
+
+#include <QToolButton>
 
 namespace BRELK::ButtonContent {
 
 namespace {
 
-QBrush foreground(const QStyleOption& option, const QWidget* widget)
+/// Whether a tool button shows a ground of its own.
+bool hasPanel(const QStyleOption& option)
 {
-    return textBrush(option, widget, QPalette::ButtonText,
-                     BaseStyle::buttonBrushes(&option, widget).foregroundBrush);
+    if (option.state & (QStyle::State_Sunken | QStyle::State_On))
+        return true;
+    return option.state & QStyle::State_Raised
+           && (BaseStyle::isHovered(&option) || !(option.state & QStyle::State_AutoRaise));
 }
 
 void setForeground(QStyleOption& option, const QBrush& brush)
@@ -27,6 +33,15 @@ void prepare(Option& option, const QWidget* widget)
 }
 
 } // namespace
+
+QBrush foreground(const QStyleOption& option, const QWidget* widget)
+{
+    const QBrush themed = BaseStyle::buttonBrushes(&option, widget).foregroundBrush;
+    // The bar of a calendar is highlighted.
+    if (WidgetTraits::isCalendarButton(widget) && qobject_cast<const QToolButton*>(widget))
+        return hasPanel(option) ? themed : option.palette.brush(QPalette::HighlightedText);
+    return textBrush(option, widget, QPalette::ButtonText, themed);
+}
 
 QBrush textBrush(const QStyleOption& option, const QWidget* widget, QPalette::ColorRole role,
                  const QBrush& themed)

@@ -11,6 +11,9 @@ namespace BRELK::ButtonContent {
 QBrush textBrush(const QStyleOption& option, const QWidget* widget, QPalette::ColorRole role,
                  const QBrush& themed);
 
+/// The brush that a button-like control writes and draws in, on the ground that it shows.
+QBrush foreground(const QStyleOption& option, const QWidget* widget);
+
 /// `icon` in `brush`; as it is for a brush that paints nothing.
 QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush);
 

@@ -38,7 +38,7 @@ QRect popupRect(const StyleContext& context, const QRect& box)
     const int bar = scrolls ? view->verticalScrollBar()->sizeHint().width() : 0;
     const int width = view->sizeHintForColumn(comboBox->modelColumn()) + 2 * frames + bar;
     QRect rect = box;
-    rect.setWidth(qMax(width, box.width()));
+    rect.setWidth(qMax(qMax(width, box.width()), popup ? popup->minimumWidth() : 0));
     if (context.rightToLeft())
         rect.moveRight(box.right());
     return rect;

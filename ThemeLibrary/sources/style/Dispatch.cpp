@@ -79,6 +79,7 @@ Painter painterOf(QStyle::ControlElement element)
     case QStyle::CE_TabBarTabLabel:      return by<Tabs::paintLabel>;
     case QStyle::CE_TabBarTabShape:      return by<Tabs::paintShape>;
     case QStyle::CE_ToolBar:             return by<ToolBars::paintToolBar>;
+    case QStyle::CE_ToolBoxTabLabel:     return by<ToolBoxes::paintTabLabel>;
     case QStyle::CE_ToolBoxTabShape:     return by<ToolBoxes::paintTabShape>;
     case QStyle::CE_ToolButtonLabel:     return by<ToolButtons::paintLabel>;
     default:                             return nullptr;
@@ -88,14 +89,15 @@ Painter painterOf(QStyle::ControlElement element)
 Painter painterOf(QStyle::ComplexControl control)
 {
     switch (control) {
-    case QStyle::CC_ComboBox:   return by<ComboBoxes::paintComboBox>;
-    case QStyle::CC_GroupBox:   return by<GroupBoxes::paintGroupBox>;
-    case QStyle::CC_ScrollBar:  return by<ScrollBars::paintScrollBar>;
-    case QStyle::CC_Slider:     return by<Sliders::paintSlider>;
-    case QStyle::CC_SpinBox:    return by<SpinBoxes::paintSpinBox>;
-    case QStyle::CC_TitleBar:   return by<TitleBars::paintTitleBar>;
-    case QStyle::CC_ToolButton: return by<ToolButtons::paintToolButton>;
-    default:                    return nullptr;
+    case QStyle::CC_ComboBox:    return by<ComboBoxes::paintComboBox>;
+    case QStyle::CC_GroupBox:    return by<GroupBoxes::paintGroupBox>;
+    case QStyle::CC_MdiControls: return by<TitleBars::paintMdiControls>;
+    case QStyle::CC_ScrollBar:   return by<ScrollBars::paintScrollBar>;
+    case QStyle::CC_Slider:      return by<Sliders::paintSlider>;
+    case QStyle::CC_SpinBox:     return by<SpinBoxes::paintSpinBox>;
+    case QStyle::CC_TitleBar:    return by<TitleBars::paintTitleBar>;
+    case QStyle::CC_ToolButton:  return by<ToolButtons::paintToolButton>;
+    default:                     return nullptr;
     }
 }
 

@@ -187,6 +187,7 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 void paintWindowFrame(const PaintContext& context);
 void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& dock);
 void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titleBar);
+void paintMdiControls(const PaintContext& context, const QStyleOptionComplex& controls);
 } // namespace TitleBars
 
 namespace ToolBars {
@@ -198,6 +199,7 @@ void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBa
 
 namespace ToolBoxes {
 void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab);
+void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab);
 } // namespace ToolBoxes
 
 namespace ToolButtons {

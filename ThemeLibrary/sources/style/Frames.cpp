@@ -3,6 +3,7 @@
 #include "StyleContext.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
+#include "WidgetTraits.h"
 
 #include <QAbstractScrollArea>
 #include <QLineEdit>
@@ -22,6 +23,18 @@ constexpr int ScrollAreaFrameWidth = 2;
 constexpr int LineEditPadding = 4;
 constexpr int ToolTipPadding = 4;
 constexpr int FocusMargin = 2;
+constexpr int PopupIconMargin = 4;
+constexpr int PopupTextMargin = 9; ///< begins the words of a popup below those of its combo box
+
+int focusMargin(const MeasureContext& context)
+{
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(context.option);
+    if (!item || !WidgetTraits::isComboBoxList(context.widget))
+        return FocusMargin;
+    constexpr auto Marked =
+        QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasCheckIndicator;
+    return item->features & Marked ? PopupIconMargin : PopupTextMargin;
+}
 
 } // namespace
 
@@ -29,7 +42,7 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 {
     switch (metric) {
     case QStyle::PM_ToolTipLabelFrameWidth: return context.dpiScaled(ToolTipPadding);
-    case QStyle::PM_FocusFrameHMargin:
+    case QStyle::PM_FocusFrameHMargin: return context.dpiScaled(focusMargin(context));
     case QStyle::PM_FocusFrameVMargin: return context.dpiScaled(FocusMargin);
     default:
         // The square viewport of a scroll area stays clear of the frame's round corners.

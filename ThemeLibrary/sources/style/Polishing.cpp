@@ -7,6 +7,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QCommandLinkButton>
 #include <QDockWidget>
 #include <QLayout>
@@ -15,6 +16,7 @@
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QTabBar>
+#include <QTextCharFormat>
 
 // What polish does to widgets: rows of a question and an action, tried in order on every widget.
 
@@ -300,6 +302,19 @@ void dressRangeSlider(BaseStyle&, QWidget& widget)
     widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::baseSize()));
 }
 
+/// The toolkit's pure red is hard to read on any ground.
+void calmWeekends(BaseStyle&, QWidget& widget)
+{
+    auto& calendar = as<QCalendarWidget>(widget);
+    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
+        QTextCharFormat format = calendar.weekdayTextFormat(day);
+        if (format.foreground() == QBrush(Qt::red)) {
+            format.setForeground(ThemeResources::getColor(ThemeNames::statusDangerColor()));
+            calendar.setWeekdayTextFormat(day, format);
+        }
+    }
+}
+
 void watch(BaseStyle& style, QWidget& widget)
 {
     widget.installEventFilter(&style);
@@ -362,6 +377,7 @@ constexpr PolishRule Rules[] = {
     {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},
     {WidgetTraits::isToolBox,          closeUpToolBox},
     {WidgetTraits::isLineEditIconButton, watch},
+    {is<QCalendarWidget>,              calmWeekends},
 };
 // clang-format on
 

@@ -78,6 +78,28 @@ void drawText(const PaintContext& context, const QRect& rect, int flags, const Q
     context.painter.setPen(pen);
 }
 
+bool isLight(const QColor& color)
+{
+    constexpr int Middle = 128;
+    return Helpers::getPerceivedBrightness(color) > Middle;
+}
+
+void drawGrips(const PaintContext& context, Qt::Orientation orientation, int from, int to,
+               int across)
+{
+    constexpr int Step = 4;
+    context.style.drawGrips(context.painter, orientation, from, to, across, Step, GripSize, 1);
+    if (!isLight(context.option.palette.color(QPalette::Window)))
+        return;
+    // Light dots are lost on a light ground: there the dark pixel in their corner grows to their
+    // size.
+    for (int pixel = 1; pixel < GripSize * GripSize; ++pixel) {
+        const int shift = pixel % GripSize;
+        context.style.drawGrips(context.painter, orientation, from + shift, to + shift,
+                                across + pixel / GripSize, Step, 0, 1);
+    }
+}
+
 } // namespace BRELK::Shapes
 
 namespace BRELK {

@@ -39,4 +39,14 @@ void drawIcon(const PaintContext& context, const QIcon& icon, const QBrush& brus
 void drawText(const PaintContext& context, const QRect& rect, int flags, const QString& text,
               const QBrush& brush, Qt::TextElideMode elide = Qt::ElideRight);
 
+/// Whether dark is read on `color` rather than white.
+bool isLight(const QColor& color);
+
+/// The side of a grip dot.
+constexpr int GripSize = 2;
+
+/// A row of grip dots that is seen on light and on dark grounds.
+void drawGrips(const PaintContext& context, Qt::Orientation orientation, int from, int to,
+               int across);
+
 } // namespace BRELK::Shapes

@@ -24,6 +24,8 @@ int BaseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
         if (const QBrush& border = getBorderBrush(true); border.style() != Qt::NoBrush)
             return int(border.color().rgb());
         break;
+    case SH_ToolBox_SelectedPageTitleBold: return true;
+    case SH_WindowFrame_Mask: return false; // title bars and frames are drawn to the corners
     default: break;
     }
     return QProxyStyle::styleHint(hint, option, widget, returnData);

@@ -1,3 +1,4 @@
+#include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -97,14 +98,15 @@ QRect partRect(const PaintContext& context, const QStyleOptionTitleBar& bar,
     return context.proxy().subControlRect(QStyle::CC_TitleBar, &bar, part, context.widget);
 }
 
-bool isLight(const QColor& color)
+/// Whether the title bar of the active window is told from others by its ground, on which its
+/// white caption is read.
+bool hasActiveGround(const QStyleOptionTitleBar& bar)
 {
-    constexpr int Middle = 128;
-    return Helpers::getPerceivedBrightness(color) > Middle;
+    const QColor ground = bar.palette.color(QPalette::Light);
+    return !Shapes::isLight(ground) && ground != bar.palette.color(QPalette::Window);
 }
 
-/// The caption of the active window is white whatever the theme: on a light title bar it gets a
-/// ground of the main color to stand on.
+/// Otherwise the caption stands on the ground of default buttons, which themes write white on.
 void paintCaptionBacking(const PaintContext& context, const QStyleOptionTitleBar& bar,
                          const QRect& label, const QString& text)
 {
@@ -113,20 +115,26 @@ void paintCaptionBacking(const PaintContext& context, const QStyleOptionTitleBar
     const int width = bar.fontMetrics.horizontalAdvance(text) + 2 * Padding;
     QRect rect(0, 0, qMin(width, label.width()), label.height() - 2 * Inset);
     rect.moveCenter(label.center());
-    if (!text.isEmpty() && rect.isValid())
-        Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::baseSize()),
-                        context.color(ThemeNames::mainColor()), Qt::NoBrush);
+    if (text.isEmpty() || !rect.isValid())
+        return;
+    QStyleOptionButton button;
+    button.features = QStyleOptionButton::DefaultButton;
+    button.state = QStyle::State_Enabled | QStyle::State_Active;
+    const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&button, nullptr);
+    Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::baseSize()),
+                    brushes.backgroundBrush, brushes.borderBrush);
 }
 
 void paintCaption(const PaintContext& context, const QStyleOptionTitleBar& bar, bool active)
 {
-    const QRect rect = partRect(context, bar, QStyle::SC_TitleBarLabel);
+    const QRect label = partRect(context, bar, QStyle::SC_TitleBarLabel);
+    const QRect rect = label.adjusted(1, 1, 1, 1);
     const QString text =
-        bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, rect.width() - CaptionRoom);
-    if (active && isLight(bar.palette.color(QPalette::Light)))
+        bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, label.width() - CaptionRoom);
+    if (active && !hasActiveGround(bar))
         paintCaptionBacking(context, bar, rect, text);
     context.painter.setPen(active ? QColor(Qt::white) : bar.palette.color(QPalette::Text));
-    context.painter.drawText(rect.adjusted(1, 1, 1, 1), Qt::AlignCenter, text);
+    context.painter.drawText(rect, Qt::AlignCenter, text);
 }
 
 void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& bar)
@@ -135,7 +143,8 @@ void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& ba
     if (!rect.isValid())
         return;
     if (!bar.icon.isNull()) {
-        bar.icon.paint(&context.painter, rect, Qt::AlignCenter);
+        ButtonContent::commonModifyStyleOptionIcon(bar.icon, bar.palette.brush(QPalette::Text))
+            .paint(&context.painter, rect, Qt::AlignCenter);
         return;
     }
     const PainterSaver saver(context.painter);
@@ -213,6 +222,24 @@ void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titl
     if (titleBar.subControls & QStyle::SC_TitleBarSysMenu
         && has<Qt::WindowSystemMenuHint>(titleBar))
         paintSystemMenu(context, titleBar);
+}
+
+void paintMdiControls(const PaintContext& context, const QStyleOptionComplex& controls)
+{
+    context.drawByBase(QStyle::CC_MdiControls, controls);
+    // The base style shows the icons as it gets them, which is too pale on light buttons.
+    constexpr std::pair<QStyle::SubControl, QStyle::StandardPixmap> Icons[] = {
+        {QStyle::SC_MdiCloseButton, QStyle::SP_TitleBarCloseButton},
+        {QStyle::SC_MdiNormalButton, QStyle::SP_TitleBarNormalButton},
+        {QStyle::SC_MdiMinButton, QStyle::SP_TitleBarMinButton}};
+    const auto button = optionFrom<QStyleOptionButton>(controls);
+    const QBrush brush = BaseStyle::buttonBrushes(&button, context.widget).foregroundBrush;
+    for (const auto& [part, icon] : Icons) {
+        if (controls.subControls & part)
+            Shapes::drawIcon(context, context.proxy().standardIcon(icon, &controls, context.widget),
+                             brush, context.part(QStyle::CC_MdiControls, controls, part),
+                             MenuIconSize);
+    }
 }
 
 } // namespace BRELK::TitleBars

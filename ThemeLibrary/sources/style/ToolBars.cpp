@@ -1,3 +1,4 @@
+#include "ButtonContent.h"
 #include "Families.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -34,19 +35,16 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 
 void paintHandle(const PaintContext& context)
 {
-    constexpr int GripStep = 4;
-    constexpr int GripSize = 2;
     constexpr int EndMargin = 6;
     const QRect& rect = context.option.rect;
-    if (context.has(QStyle::State_Horizontal)) {
-        const int across = rect.left() + (rect.width() - GripSize) / 2;
-        context.style.drawGrips(context.painter, Qt::Vertical, rect.top() + EndMargin,
-                                rect.bottom() - EndMargin, across, GripStep, GripSize, 1);
-    } else {
-        const int across = rect.top() + (rect.height() - GripSize) / 2;
-        context.style.drawGrips(context.painter, Qt::Horizontal, rect.left() + EndMargin,
-                                rect.right() - EndMargin, across, GripStep, GripSize, 1);
-    }
+    const QPoint middle((rect.width() - Shapes::GripSize) / 2,
+                        (rect.height() - Shapes::GripSize) / 2);
+    if (context.has(QStyle::State_Horizontal))
+        Shapes::drawGrips(context, Qt::Vertical, rect.top() + EndMargin, rect.bottom() - EndMargin,
+                          rect.left() + middle.x());
+    else
+        Shapes::drawGrips(context, Qt::Horizontal, rect.left() + EndMargin,
+                          rect.right() - EndMargin, rect.top() + middle.y());
 }
 
 void paintSeparator(const PaintContext& context)
@@ -68,7 +66,10 @@ void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBa
     const QRect& rect = toolBar.rect;
     if (rect.isEmpty())
         return;
-    context.painter.fillRect(rect, toolBar.palette.brush(QPalette::Window));
+    // As deep as the menu bar, so that separators, which are as high as cards, stand out.
+    const QBrush ground = context.brush(ThemeNames::backgroundSubLevel2Brush());
+    context.painter.fillRect(
+        rect, ButtonContent::textBrush(toolBar, context.widget, QPalette::Window, ground));
     // One line between the bars of an area and what they stand around.
     if (toolBar.positionOfLine != QStyleOptionToolBar::End
         && toolBar.positionOfLine != QStyleOptionToolBar::OnlyOne)

@@ -1,10 +1,41 @@
+#include "ButtonContent.h"
 #include "Families.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
+#include "WidgetTraits.h"
 
 // The tabs of tool boxes.
 
 namespace BRELK::ToolBoxes {
+
+namespace {
+
+/// Whether a style sheet, which draws labels itself, would go on to the label of the tab's own
+/// button: it neither mirrors the label nor recolors the icon.
+bool leavesLabelToSheet(const PaintContext& context)
+{
+    const QPaintDevice* device = context.painter.device();
+    return device && device->devType() == QInternal::Widget
+           && WidgetTraits::isToolBoxButton(static_cast<const QWidget*>(device)) && context.widget
+           && !qobject_cast<const BaseStyle*>(context.widget->style());
+}
+
+/// Lets the base style fill `rect` with what `part` holds.
+void paintLabelPart(const PaintContext& context, QStyleOptionToolBox& part, const QRect& rect)
+{
+    // What the base style keeps free inside the contents of a tab.
+    constexpr int StartMargin = 4;
+    constexpr int EndMargin = 8;
+    const QRect contents = context.style.QProxyStyle::subElementRect(QStyle::SE_ToolBoxTabContents,
+                                                                     &part, context.widget);
+    const int start = StartMargin + contents.left() - part.rect.left();
+    const int end = EndMargin + part.rect.right() - contents.right();
+    part.rect = context.visual(rect).adjusted(-start, 0, end, 0);
+    context.style.QProxyStyle::drawControl(QStyle::CE_ToolBoxTabLabel, &part, &context.painter,
+                                           context.widget);
+}
+
+} // namespace
 
 void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
 {
@@ -14,6 +45,32 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
                                : context.brush(ThemeNames::backgroundUpLevel1Brush());
     context.painter.fillRect(rect, fill);
     Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), context.borderBrush());
+    if (leavesLabelToSheet(context)) {
+        paintTabLabel(context, tab);
+        // Deliberate: the button draws nothing after this but the sheet's label.
+        context.painter.setClipRect(QRect());
+    }
+}
+
+void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab)
+{
+    constexpr int Padding = 10;
+    constexpr int IconSpacing = 8;
+    const int iconSize = context.metric(QStyle::PM_SmallIconSize);
+    QRect textRect = tab.rect.adjusted(Padding, 0, -Padding, 0);
+    // The base style draws the icon as it gets it and does not mirror, so it gets the two parts one
+    // by one.
+    if (!tab.icon.isNull()) {
+        const QBrush brush = tab.palette.brush(QPalette::ButtonText);
+        QStyleOptionToolBox icon = tab;
+        icon.text.clear();
+        icon.icon = ButtonContent::commonModifyStyleOptionIcon(tab.icon, brush);
+        paintLabelPart(context, icon, {textRect.topLeft(), QSize(iconSize, tab.rect.height())});
+        textRect.adjust(iconSize + IconSpacing, 0, 0, 0);
+    }
+    QStyleOptionToolBox text = tab;
+    text.icon = QIcon();
+    paintLabelPart(context, text, textRect);
 }
 
 } // namespace BRELK::ToolBoxes

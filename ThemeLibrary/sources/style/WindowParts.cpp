@@ -49,7 +49,6 @@ void paintSplitter(const PaintContext& context)
 {
     constexpr int GripCount = 5;
     constexpr int GripStep = 4;
-    constexpr int GripSize = 2;
     const QRect& rect = context.option.rect;
     // State_Horizontal: the widgets stand side by side, the handle runs from top to bottom.
     const bool upright = context.has(QStyle::State_Horizontal);
@@ -67,11 +66,11 @@ void paintSplitter(const PaintContext& context)
     }
     const int length = upright ? rect.height() : rect.width();
     const int from = (upright ? rect.top() : rect.left()) + (length - GripCount * GripStep) / 2;
-    const int across = upright ? rect.left() + (rect.width() - GripSize) / 2
-                               : rect.top() + (rect.height() - GripSize) / 2;
+    const int across = upright ? rect.left() + (rect.width() - Shapes::GripSize) / 2
+                               : rect.top() + (rect.height() - Shapes::GripSize) / 2;
     if (length > GripCount * GripStep)
-        context.style.drawGrips(context.painter, upright ? Qt::Vertical : Qt::Horizontal, from,
-                                from + GripCount * GripStep, across, GripStep, GripSize, 1);
+        Shapes::drawGrips(context, upright ? Qt::Vertical : Qt::Horizontal, from,
+                          from + GripCount * GripStep, across);
 }
 
 void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& band)
