@@ -2,6 +2,7 @@
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
+#include "Texts.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
 
@@ -213,10 +214,20 @@ int scrollBarRoom(const StyleContext& context)
                : 0;
 }
 
-void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item)
+/// The item by which its parts are asked for. The base style lays the text out to place the parts,
+/// although where the text gets all the room that is left its size does not matter.
+QStyleOptionViewItem layoutItem(const StyleContext& context, const QStyleOptionViewItem& item)
+{
+    QStyleOptionViewItem layout = item;
+    if (item.showDecorationSelected && &context.proxy() == &context.style)
+        layout.text.clear();
+    return layout;
+}
+
+void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item, const QRect& rect)
 {
     QStyleOptionViewItem check = item;
-    check.rect = context.part(QStyle::SE_ItemViewItemCheckIndicator);
+    check.rect = rect;
     check.state &= ~QStyle::State_HasFocus;
     switch (item.checkState) {
     case Qt::Checked: check.state |= QStyle::State_On; break;
@@ -226,9 +237,9 @@ void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item
     context.draw(QStyle::PE_IndicatorItemViewItemCheck, check);
 }
 
-void paintIcon(const PaintContext& context, const QStyleOptionViewItem& item, const QBrush& brush)
+void paintIcon(const PaintContext& context, const QStyleOptionViewItem& item, const QRect& rect,
+               const QBrush& brush)
 {
-    const QRect rect = context.part(QStyle::SE_ItemViewItemDecoration);
     const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(item.icon, brush);
     const QSize size = item.icon.actualSize(item.decorationSize);
     const QIcon::State state = context.has(QStyle::State_Open) ? QIcon::On : QIcon::Off;
@@ -258,9 +269,9 @@ void paintLines(const PaintContext& context, const QStyleOptionViewItem& item, c
     context.painter.drawText(rect, alignment | wrap, text);
 }
 
-void paintText(const PaintContext& context, const QStyleOptionViewItem& item, const QBrush& brush)
+void paintText(const PaintContext& context, const QStyleOptionViewItem& item, const QRect& whole,
+               const QBrush& brush)
 {
-    const QRect whole = context.part(QStyle::SE_ItemViewItemText);
     const int margin = context.metric(QStyle::PM_FocusFrameHMargin) + TextMargin;
     const int room =
         scrollBarRoom(context) + (showsChildren(context.widget, item) ? IndicatorSize : 0);
@@ -272,9 +283,11 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
         paintLines(context, item, rect, alignment, brush);
         return;
     }
-    const QString text = item.fontMetrics.elidedText(item.text, item.textElideMode, rect.width());
+    const int flags = alignment | Qt::TextSingleLine;
+    const QString text =
+        Texts::fitted(context.painter, item.text, item.textElideMode, rect.width(), flags);
     context.painter.setPen(QPen(brush, 1));
-    context.painter.drawText(rect, alignment | Qt::TextSingleLine, text);
+    Texts::draw(context.painter, rect, flags, text);
 }
 
 void paintChildIndicator(const PaintContext& context, const QBrush& brush)
@@ -358,13 +371,17 @@ void paintItem(const PaintContext& context, const QStyleOptionViewItem& item)
 {
     const PainterSaver saver(context.painter);
     context.draw(QStyle::PE_PanelItemViewItem, item);
+    const QStyleOptionViewItem layout = layoutItem(context, item);
+    const auto part = [&](QStyle::SubElement element) {
+        return context.proxy().subElementRect(element, &layout, context.widget);
+    };
     if (item.features & QStyleOptionViewItem::HasCheckIndicator)
-        paintCheckBox(context, item);
+        paintCheckBox(context, item, part(QStyle::SE_ItemViewItemCheckIndicator));
     const QBrush brush = textBrush(context);
     if (!item.icon.isNull())
-        paintIcon(context, item, brush);
+        paintIcon(context, item, part(QStyle::SE_ItemViewItemDecoration), brush);
     if (!item.text.isEmpty())
-        paintText(context, item, brush);
+        paintText(context, item, part(QStyle::SE_ItemViewItemText), brush);
     if (showsChildren(context.widget, item))
         paintChildIndicator(context, brush);
     if (context.has(QStyle::State_HasFocus))
