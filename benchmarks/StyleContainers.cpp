@@ -139,16 +139,16 @@ void addItems(std::vector<Case>& cases)
                  option.checkState = Qt::Checked;
              },
              draw<QStyle::CE_ItemViewItem, QStyleOptionViewItem>});
-    using Branch = Control<ItemView, QStyleOption>;
+    using Branch = Control<ItemView, QStyleOptionViewItem>;
     add(cases, {Normal, Selected},
         Branch{"ItemBranch",
                {20, 22},
                setUp,
-               [](const Exposed<ItemView>& view, QStyleOption& option) {
+               [](const Exposed<ItemView>& view, QStyleOptionViewItem& option) {
                    option.initFrom(&view);
                    option.state |= QStyle::State_Children | QStyle::State_Item;
                },
-               draw<QStyle::PE_IndicatorBranch, QStyleOption>});
+               draw<QStyle::PE_IndicatorBranch, QStyleOptionViewItem>});
     add(cases, {Normal, Hovered, Pressed, Disabled},
         Control<ItemView, QStyleOptionHeader>{
             "HeaderSection",

@@ -71,7 +71,7 @@ Work paintTabs()
     auto tabs = std::make_shared<QTabWidget>();
     for (const char* name : {"General", "Display", "Network", "Advanced", "About"})
         tabs->addTab(new QWidget, text(name));
-    tabs->resize(500, 80);
+    tabs->resize(800, 80); // room for all tabs in every look
     return paintWhole(tabs);
 }
 

@@ -290,9 +290,9 @@ QRect BaseStyle::subElementRect(SubElement element, const QStyleOption* option,
 QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                 SubControl part, const QWidget* widget) const
 {
-    const QRect base = QProxyStyle::subControlRect(control, option, part, widget);
     const PartRule rule = option ? ruleOf(control) : nullptr;
-    return rule ? rule({*this, *option, widget}, part, base) : base;
+    return rule ? rule({*this, *option, widget}, control, part)
+                : QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,

@@ -86,7 +86,7 @@ void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& fram
 
 namespace GroupBoxes {
 QRect partRect(const StyleContext& context, const QStyleOptionGroupBox& groupBox,
-               QStyle::SubControl part, const QRect& base);
+               QStyle::SubControl part);
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
 void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& groupBox);
 } // namespace GroupBoxes

@@ -13,6 +13,7 @@ namespace BRELK::Menus {
 
 namespace {
 
+constexpr int PanelBorder = 1;
 constexpr int PanelMargin = 4;
 constexpr int RowPadding = 5;
 constexpr int SeparatorHeight = 9;
@@ -31,8 +32,9 @@ constexpr int BarMargin = 2;
 int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 {
     switch (metric) {
-    case QStyle::PM_MenuVMargin: return context.dpiScaled(PanelMargin);
-    case QStyle::PM_MenuPanelWidth: return 1;
+    // The panel has the border in it; a frame besides would be drawn over it.
+    case QStyle::PM_MenuHMargin: return PanelBorder;
+    case QStyle::PM_MenuVMargin: return PanelBorder + context.dpiScaled(PanelMargin);
     case QStyle::PM_MenuScrollerHeight: return context.dpiScaled(ScrollerHeight);
     case QStyle::PM_MenuTearoffHeight: return context.dpiScaled(TearoffHeight);
     case QStyle::PM_MenuBarHMargin:
@@ -211,7 +213,7 @@ void paintPanel(const PaintContext& context)
     const PainterSaver saver(context.painter);
     const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
     const QBrush fill = ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush());
-    qDrawPlainRect(&context.painter, context.option.rect, border, 1, &fill);
+    qDrawPlainRect(&context.painter, context.option.rect, border, PanelBorder, &fill);
 }
 
 void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)

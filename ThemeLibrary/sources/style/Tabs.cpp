@@ -250,8 +250,8 @@ void paintFrame(const PaintContext& context)
 {
     const PainterSaver saver(context.painter);
     const QRect& rect = context.option.rect;
-    const QRectF frameRect = Shapes::onPixels(rect);
-    context.painter.fillRect(frameRect, context.brush(ThemeNames::tabBackgroundActiveBrush()));
+    context.painter.fillRect(Shapes::onPixels(rect),
+                             context.brush(ThemeNames::tabBackgroundActiveBrush()));
     if (const auto* frame = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(&context.option)) {
         // The selected tab and its page are one surface: no line between them.
         QRect gap = frame->selectedTabRect;
@@ -262,10 +262,15 @@ void paintFrame(const PaintContext& context)
             gap.adjust(0, 0, 0, -1);
         context.painter.setClipRegion(QRegion(rect).subtracted(gap));
     }
-    context.painter.setPen(
-        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    context.painter.setBrush(Qt::NoBrush);
-    context.painter.drawRect(frameRect);
+    const QBrush& border = context.borderBrush();
+    Shapes::drawLine(context, rect.topLeft(), rect.topRight(), border);
+    Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), border);
+    if (rect.height() <= 2)
+        return;
+    Shapes::drawLine(context, rect.topLeft() + QPoint(0, 1), rect.bottomLeft() - QPoint(0, 1),
+                     border);
+    Shapes::drawLine(context, rect.topRight() + QPoint(0, 1), rect.bottomRight() - QPoint(0, 1),
+                     border);
 }
 
 void paintBarBase(const PaintContext& context, const QStyleOptionTabBarBase& bar)
