@@ -61,6 +61,24 @@ bool isNear(QRgb color, QRgb other, int tolerance)
            && std::abs(qBlue(color) - qBlue(other)) <= tolerance;
 }
 
+/// Whether an icon is drawn in the reference. In a picture that has the reference among its shades,
+/// more pixels only come close to it.
+bool isDrawnIn(QRgb reference, const QImage& icon)
+{
+    constexpr int Closeness = 16;
+    int exact = 0;
+    int close = 0;
+    for (int y = 0; y < icon.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(icon.constScanLine(y));
+        for (int x = 0; x < icon.width(); ++x) {
+            if (qAlpha(line[x]) != Opaque || !isNear(line[x], reference, Closeness))
+                continue;
+            ++(isNear(line[x], reference, roundingError(Opaque)) ? exact : close);
+        }
+    }
+    return exact >= close;
+}
+
 /// What the color of a pixel is made of, apart from its alpha.
 struct Blend
 {
@@ -72,7 +90,8 @@ class IconReader
 {
 public:
     IconReader(const QImage& icon, QRgb reference)
-        : m_icon(icon.convertToFormat(QImage::Format_ARGB32)), m_reference(reference)
+        : m_icon(icon.convertToFormat(QImage::Format_ARGB32))
+        , m_reference(isDrawnIn(reference, m_icon) ? reference : 0)
     { }
 
     QRgb at(QPoint place) const

@@ -147,6 +147,16 @@ private Q_SLOTS:
             QVERIFY(difference(imageOf(recolored(blueAndWhite), size), imageOf(blueAndWhite, size))
                     <= 1);
 
+        // The reference is one of the shades of this picture.
+        const QIcon shades = drawnIcon([](QPainter& painter) {
+            QLinearGradient sky(0, 0, 16, 0);
+            sky.setColorAt(0, Reference.darker(115));
+            sky.setColorAt(0.5, Reference);
+            sky.setColorAt(1, Qt::white);
+            painter.fillRect(0, 0, 16, 16, sky);
+        });
+        QVERIFY(difference(imageOf(recolored(shades), 64), imageOf(shades, 64)) <= 1);
+
         // A gray between the reference and black, next to both, is no blend of them.
         const QColor gray(115, 119, 122);
         const QIcon stripes = drawnIcon([&](QPainter& painter) {

@@ -58,6 +58,7 @@ Painter painterOf(QStyle::ControlElement element)
     case QStyle::CE_ColumnViewGrip:      return by<ItemViews::paintColumnViewGrip>;
     case QStyle::CE_ComboBoxLabel:       return by<ComboBoxes::paintLabel>;
     case QStyle::CE_DockWidgetTitle:     return by<TitleBars::paintDockTitle>;
+    case QStyle::CE_HeaderLabel:         return by<ItemViews::paintHeaderLabel>;
     case QStyle::CE_ItemViewItem:        return by<ItemViews::paintItem>;
     case QStyle::CE_MenuBarEmptyArea:    return by<Menus::paintBarEmptyArea>;
     case QStyle::CE_MenuBarItem:         return by<Menus::paintBarItem>;

@@ -7,6 +7,7 @@ class QStyleOptionComboBox;
 class QStyleOptionDockWidget;
 class QStyleOptionFrame;
 class QStyleOptionGroupBox;
+class QStyleOptionHeader;
 class QStyleOptionMenuItem;
 class QStyleOptionProgressBar;
 class QStyleOptionRubberBand;
@@ -104,6 +105,7 @@ void paintBranch(const PaintContext& context);
 void paintColumnViewArrow(const PaintContext& context);
 void paintItem(const PaintContext& context, const QStyleOptionViewItem& item);
 void paintColumnViewGrip(const PaintContext& context);
+void paintHeaderLabel(const PaintContext& context, const QStyleOptionHeader& header);
 } // namespace ItemViews
 
 namespace LineEdits {

@@ -56,9 +56,12 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 
 namespace {
 
+/// Raised and sunken frames need a light that is lighter than the window.
 bool isPlain(const QStyleOptionFrame& frame)
 {
-    return !BaseStyle::isPressed(frame) && !(frame.state & QStyle::State_Raised);
+    const bool isFlat =
+        frame.palette.color(QPalette::Light) == frame.palette.color(QPalette::Window);
+    return isFlat || !(frame.state & (QStyle::State_Sunken | QStyle::State_Raised));
 }
 
 /// A line across the middle of the frame; sunken and raised ones are as plain as the rest.
@@ -131,9 +134,12 @@ void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& fram
     case QFrame::Box:
     case QFrame::Panel: paintBox(context, frame); break;
     case QFrame::WinPanel:
-        qDrawWinPanel(&context.painter, frame.rect,
-                      context.style.generateWinBorderPalette(frame.palette),
-                      BaseStyle::isPressed(frame));
+        if (isPlain(frame))
+            paintBox(context, frame);
+        else
+            qDrawWinPanel(&context.painter, frame.rect,
+                          context.style.generateWinBorderPalette(frame.palette),
+                          BaseStyle::isPressed(frame));
         break;
     default: break;
     }

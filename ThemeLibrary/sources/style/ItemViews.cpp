@@ -390,13 +390,21 @@ void paintItem(const PaintContext& context, const QStyleOptionViewItem& item)
 
 void paintColumnViewGrip(const PaintContext& context)
 {
-    constexpr int GripStep = 4;
-    constexpr int GripSize = 2;
     constexpr int GripLength = 20;
     const QRect& rect = context.option.rect;
     const int from = rect.top() + (rect.height() - GripLength) / 2;
-    context.style.drawGrips(context.painter, Qt::Vertical, from, from + GripLength,
-                            rect.left() + (rect.width() - GripSize) / 2, GripStep, GripSize, 1);
+    Shapes::drawGrips(context, Qt::Vertical, from, from + GripLength,
+                      rect.left() + (rect.width() - Shapes::GripSize) / 2);
+}
+
+void paintHeaderLabel(const PaintContext& context, const QStyleOptionHeader& header)
+{
+    QStyleOptionHeader label = header;
+    // Models that name one side only, as that of the file dialog does, do not mean the top.
+    if (!(label.textAlignment & Qt::AlignVertical_Mask))
+        label.textAlignment |= Qt::AlignVCenter;
+    context.style.QProxyStyle::drawControl(QStyle::CE_HeaderLabel, &label, &context.painter,
+                                           context.widget);
 }
 
 } // namespace BRELK::ItemViews

@@ -50,8 +50,11 @@ QPixmap iconPixmap(const QPainter& painter, const QIcon& icon, const QSize& size
     const qreal known =
         QGuiApplication::testAttribute(Qt::AA_UseHighDpiPixmaps) ? qGuiApp->devicePixelRatio() : 1;
     QPixmap pixmap = icon.pixmap(size * (ratio / known), mode, state);
-    if (!qFuzzyCompare(pixmap.devicePixelRatioF(), ratio))
-        pixmap.setDevicePixelRatio(ratio);
+    const QSize wanted = size * ratio;
+    // A picture of too few pixels keeps its size, as in the toolkit, and loses sharpness.
+    const bool isFine = pixmap.width() >= wanted.width() || pixmap.height() >= wanted.height();
+    pixmap.setDevicePixelRatio(
+        isFine ? ratio : qMax(1.0, ratio * pixmap.width() / qMax(1, wanted.width())));
     return pixmap;
 }
 
