@@ -53,10 +53,10 @@ private Q_SLOTS:
             return box.style()->subElementRect(element, &option, &box);
         };
         QCOMPARE(rectOf(QStyle::SE_CheckBoxIndicator), QRect(7, 5, 16, 16));
-        QCOMPARE(rectOf(QStyle::SE_CheckBoxContents), QRect(30, 3, 76, 21));
+        QCOMPARE(rectOf(QStyle::SE_CheckBoxContents), QRect(31, 3, 75, 21));
         option.direction = Qt::RightToLeft;
         QCOMPARE(rectOf(QStyle::SE_CheckBoxIndicator), QRect(91, 5, 16, 16));
-        QCOMPARE(rectOf(QStyle::SE_CheckBoxContents), QRect(8, 3, 76, 21));
+        QCOMPARE(rectOf(QStyle::SE_CheckBoxContents), QRect(8, 3, 75, 21));
     }
 
     void focusMarkFitsAroundTheLabel()

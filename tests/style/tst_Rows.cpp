@@ -90,16 +90,21 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("points");
         QTest::addColumn<bool>("rightToLeft");
+        QTest::addColumn<QString>("styleSheet");
         for (const int points : {8, 9, 10, 14, 20})
             for (const bool rightToLeft : {false, true})
-                QTest::addRow("%d points%s", points, rightToLeft ? ", right to left" : "")
-                    << points << rightToLeft;
+                for (const char* sheet : {"", "QHeaderView { border: none; }"})
+                    QTest::addRow("%d points%s%s", points, rightToLeft ? ", right to left" : "",
+                                  *sheet ? ", under a style sheet" : "")
+                        << points << rightToLeft << QString::fromLatin1(sheet);
     }
 
     void controlsOfARowLineUp()
     {
         QFETCH(int, points);
         QFETCH(bool, rightToLeft);
+        QFETCH(QString, styleSheet);
+        qApp->setStyleSheet(styleSheet);
         QFont font = QApplication::font();
         font.setPointSize(points);
         QApplication::setFont(font);

@@ -27,12 +27,16 @@ private:
         QFETCH(bool, mirrored);
         painter.setLayoutDirection(mirrored ? Qt::RightToLeft : Qt::LeftToRight);
         painter.setPen(QColor(20, 40, 160));
-        draw(painter, QRect(10, 5, width, 24), flags, text);
+        // Lines stand on whole pixels: where the painter places them on halves, they would differ.
+        const auto drawLine = [&](int x, int y) {
+            draw(painter, QRect(x, y, width, painter.fontMetrics().height() + 4), flags, text);
+        };
+        drawLine(10, 5);
         QFont large = painter.font();
         large.setPixelSize(17);
         large.setBold(true);
         painter.setFont(large);
-        draw(painter, QRect(11, 33, width, 23), flags, text);
+        drawLine(11, 33);
         return image;
     }
 

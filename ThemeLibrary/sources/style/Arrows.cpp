@@ -13,7 +13,7 @@ namespace BRELK::Arrows {
 
 namespace {
 
-constexpr int MenuIndicatorSize = 16;
+constexpr int MenuIndicatorSize = 20; ///< keeps the arrow off border and focus mark
 constexpr int IconSize = 16;
 constexpr int ComboBoxIndicatorSize =
     24; ///< where the text of a combo box ends, its arrow area begins

@@ -24,6 +24,7 @@ constexpr int SmallestTextWidth = 72;
 constexpr int Margin = 8;
 constexpr int IconSize = 16;
 constexpr int IconSpacing = 4;
+constexpr int ArrowMargin = 2; ///< between a menu arrow and the border
 constexpr int ElisionMargin = 3; ///< keeps an elided text off the border
 
 /// Half the shorter side makes a circle, or a pill.
@@ -141,6 +142,12 @@ bool isFilled(const StyleContext& context)
                 || BaseStyle::isFlatButton(&context.option));
 }
 
+/// A flat button at rest is not filled: a text that is made for its filling may not be seen.
+bool isMeantForFilling(const StyleContext& context, const QBrush& background)
+{
+    return BaseStyle::isFlatButton(&context.option) && !isFilled(context) && background.isOpaque();
+}
+
 /// A spin box shows on its frame, not on its buttons, that it holds an error.
 bool showsError(const StyleContext& context)
 {
@@ -247,7 +254,7 @@ void paintPanel(const PaintContext& context)
     const int radius = panelRadius(context, rect);
     Shapes::drawBox(context, rect, radius, filled ? brushes.backgroundBrush : QBrush(),
                     brushes.borderBrush, straightCorners(context));
-    if (hasError)
+    if (hasError && !(context.rightToLeft() && isArrowOfEditor(context.widget)))
         Helpers::drawInputStatusIndicator(rect, radius, errorColor, &context.painter);
 }
 
@@ -276,7 +283,7 @@ void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
     if (button.features & QStyleOptionButton::HasMenu) {
         const int indicator = context.metric(QStyle::PM_MenuButtonIndicator);
         QStyleOptionButton arrow = button;
-        arrow.rect = context.visual({button.rect.right() - indicator - IconSpacing,
+        arrow.rect = context.visual({button.rect.right() - indicator - ArrowMargin,
                                      button.rect.y() + (button.rect.height() - indicator) / 2,
                                      indicator, indicator});
         ButtonContent::commonCallButtonText(arrow, context.widget);
@@ -286,7 +293,11 @@ void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
 
 void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
 {
-    QBrush themed = BaseStyle::buttonBrushes(&button, context.widget).foregroundBrush;
+    const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&button, context.widget);
+    QBrush themed = brushes.foregroundBrush;
+    if (isMeantForFilling(context, brushes.backgroundBrush))
+        themed = context.brush(ThemeNames::button() + ThemeNames::unchecked()
+                               + ThemeNames::foregroundPart());
     if (themed.style() == Qt::NoBrush)
         themed = context.color(ThemeNames::foregroundColor());
     const QBrush foreground =

@@ -36,6 +36,7 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 {
     switch (metric) {
     case QStyle::PM_CheckBoxLabelSpacing:
+        return context.dpiScaled(LabelSpacing) + 1; // counted from the indicator's last pixel
     case QStyle::PM_RadioButtonLabelSpacing: return context.dpiScaled(LabelSpacing);
     case QStyle::PM_IndicatorWidth:
         if (WidgetProperties::flag(context.widget, WidgetProperties::Switch))
@@ -101,19 +102,19 @@ IndicatorBrushes indicatorBrushes(const PaintContext& context)
                              context.brush(ThemeNames::foregroundMouseOverBrush())};
     if (hovered || BaseStyle::isPressed(context.option))
         brushes.border = brushes.mark;
+    if (context.has(QStyle::State_Selected)) // in a row of a view
+        brushes.border = context.option.palette.brush(QPalette::HighlightedText);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
         brushes.border = context.color(ThemeNames::statusDangerColor());
     return brushes;
 }
 
-/// The track of a switch and its knob: at the end when on, in the middle when partially on.
-void paintSwitch(const PaintContext& context, const IndicatorBrushes& brushes)
+/// The knob of a switch: at the end when on, in the middle when partially on.
+void paintKnob(const PaintContext& context)
 {
     constexpr int KnobMargin = 3;
     const QRect& rect = context.option.rect;
     const bool on = context.has(QStyle::State_On);
-    Shapes::drawBox(context, rect, rect.height() / 2, brushes.background, brushes.border);
-
     const int diameter = rect.height() - 2 * KnobMargin;
     const int travel = rect.width() - 2 * KnobMargin - diameter;
     const int offset = on ? travel : context.has(QStyle::State_NoChange) ? travel / 2 : 0;
@@ -142,18 +143,18 @@ void paintIndicator(const PaintContext& context)
 {
     const IndicatorBrushes brushes = indicatorBrushes(context);
     const QRect& rect = context.option.rect;
-    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
-    if (context.flag(WidgetProperties::Switch)) {
-        paintSwitch(context, brushes);
-    } else {
-        Shapes::drawBox(context, rect, radius, brushes.background, brushes.border);
-        if (context.has(QStyle::State_NoChange))
-            paintPartialMark(context, brushes.mark);
-        else if (context.has(QStyle::State_On))
-            context.style.drawCheckMark(&context.painter, rect, brushes.mark);
-    }
+    const bool isSwitch = context.flag(WidgetProperties::Switch);
+    const int radius = isSwitch ? rect.height() / 2 : Shapes::cornerRadius(ThemeNames::baseSize());
+    Shapes::drawBox(context, rect, radius, brushes.background, brushes.border);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
         Helpers::drawInputStatusIndicator(rect, radius, brushes.border.color(), &context.painter);
+
+    if (isSwitch)
+        paintKnob(context);
+    else if (context.has(QStyle::State_NoChange))
+        paintPartialMark(context, brushes.mark);
+    else if (context.has(QStyle::State_On))
+        context.style.drawCheckMark(&context.painter, rect, brushes.mark);
 }
 
 void paintRadioIndicator(const PaintContext& context)

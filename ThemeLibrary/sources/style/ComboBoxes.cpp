@@ -14,9 +14,9 @@ namespace BRELK::ComboBoxes {
 
 namespace {
 
-constexpr int TextPadding = 8;
-constexpr int FrameInset = 4; ///< what the edit field already keeps off the border
+constexpr int TextPadding = 6; ///< where the edit field of a plain combo box begins
 constexpr int IconSpacing = 4;
+constexpr int ArrowRoom = 12; ///< what the text leaves to the arrow before its middle
 constexpr int FocusInset = 3;
 
 /// The arrow area is a square of the box's height, but never narrower than the arrow.
@@ -49,11 +49,12 @@ QRect popupRect(const StyleContext& context, const QRect& box)
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
                    const QSize& contents, const QSize& /*base*/)
 {
+    const int padding = 2 * context.dpiScaled(TextPadding);
     if (!comboBox.frame)
-        return {contents.width() + context.metric(QStyle::PM_MenuButtonIndicator),
+        return {contents.width() + padding + context.metric(QStyle::PM_MenuButtonIndicator),
                 contents.height()};
     const int height = qMax(contents.height() + 2, context.controlHeight());
-    return {contents.width() + 2 * context.dpiScaled(TextPadding) + height, height};
+    return {contents.width() + padding + height, height};
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,
@@ -86,15 +87,28 @@ bool showsPlaceholder(const QWidget* widget)
     return comboBox && comboBox->currentIndex() < 0 && !comboBox->placeholderText().isEmpty();
 }
 
-/// A combo box without a frame marks its text, and not its arrow, while it is pointed at or open.
-void paintQuietBackground(const PaintContext& context, const QRect& rect)
+void paintArrow(const PaintContext& context, const QStyleOptionComboBox& comboBox,
+                const QRect& rect)
 {
-    if (!BaseStyle::isHovered(&context.option) && !BaseStyle::isDown(context.option))
+    auto arrow = optionFrom<QStyleOptionButton>(comboBox);
+    arrow.rect = rect;
+    ButtonContent::commonCallButtonText(arrow, context.widget);
+    context.draw(QStyle::PE_IndicatorArrowDown, arrow);
+}
+
+/// A combo box without a frame shows by its ground that it is pointed at or open. That covers the
+/// arrow, which is then drawn again.
+void paintQuietBackground(const PaintContext& context, const QStyleOptionComboBox& comboBox)
+{
+    if (!BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
         return;
-    const QString name = BaseStyle::isDown(context.option) ? ThemeNames::backgroundSubLevel2Brush()
-                                                           : ThemeNames::backgroundUpLevel1Brush();
-    Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::smallSize()),
+    const QString name = BaseStyle::isDown(comboBox) ? ThemeNames::backgroundSubLevel2Brush()
+                                                     : ThemeNames::backgroundUpLevel1Brush();
+    Shapes::drawBox(context, comboBox.rect, Shapes::cornerRadius(ThemeNames::smallSize()),
                     context.brush(name), Qt::NoBrush);
+    if (comboBox.subControls & QStyle::SC_ComboBoxArrow)
+        paintArrow(context, comboBox,
+                   context.part(QStyle::CC_ComboBox, comboBox, QStyle::SC_ComboBoxArrow));
 }
 
 QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& comboBox)
@@ -112,8 +126,12 @@ QRect fieldRect(const PaintContext& context, const QStyleOptionComboBox& comboBo
 {
     QStyleOptionComboBox steady = comboBox;
     steady.state &= ~(QStyle::State_Sunken | QStyle::State_On);
-    return context.proxy().subControlRect(QStyle::CC_ComboBox, &steady,
-                                          QStyle::SC_ComboBoxEditField, context.widget);
+    QRect rect = context.part(QStyle::CC_ComboBox, steady, QStyle::SC_ComboBoxEditField);
+    // In a tall box the arrow stands farther in.
+    const int arrowMiddle =
+        comboBox.rect.x() + comboBox.rect.width() + 2 - arrowExtent(context, comboBox.rect) / 2;
+    rect.setRight(qMin(rect.right(), arrowMiddle - ArrowRoom));
+    return rect;
 }
 
 /// Draws the current icon at the start of `rect` and returns what remains for the text.
@@ -121,7 +139,8 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
                 const QRect& rect, const QBrush& brush)
 {
     const QSize size = comboBox.currentIcon.actualSize(comboBox.iconSize.boundedTo(rect.size()));
-    QRect iconRect(rect.x() + IconSpacing, rect.y(), size.width(), rect.height());
+    const int inset = qMax(0, comboBox.rect.x() + TextPadding - rect.x());
+    QRect iconRect(rect.x() + inset, rect.y(), size.width(), rect.height());
     if (context.rightToLeft())
         iconRect.moveRight(rect.right() - IconSpacing);
     // The line edit leaves this place open; a box that is pointed at shows its own ground there.
@@ -131,7 +150,7 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
     const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(comboBox.currentIcon, brush);
     context.proxy().drawItemPixmap(&context.painter, iconRect, Qt::AlignCenter,
                                    Shapes::iconPixmap(context.painter, icon, size));
-    const int taken = size.width() + IconSpacing;
+    const int taken = inset + size.width() + IconSpacing;
     return context.rightToLeft() ? rect.adjusted(0, 0, -taken, 0) : rect.adjusted(taken, 0, 0, 0);
 }
 
@@ -143,8 +162,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
         return; // the text is the line edit's
     QRect rect = fieldRect(context, comboBox);
     if (!comboBox.frame && !comboBox.editable)
-        paintQuietBackground(
-            context, QRect(comboBox.rect.topLeft(), QPoint(rect.right(), comboBox.rect.bottom())));
+        paintQuietBackground(context, comboBox);
 
     const PainterSaver saver(context.painter);
     context.painter.setClipRect(rect, Qt::IntersectClip);
@@ -153,11 +171,9 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
         rect = paintIcon(context, comboBox, rect, brush);
     if (comboBox.editable)
         return;
-    const int padding = context.measure().dpiScaled(TextPadding) - FrameInset;
     const auto flags =
         QStyle::visualAlignment(comboBox.direction, Qt::AlignLeft | Qt::AlignVCenter);
-    Shapes::drawText(context, rect.adjusted(padding, 0, -padding, 0), int(flags),
-                     comboBox.currentText, brush);
+    Shapes::drawText(context, rect, int(flags), comboBox.currentText, brush);
 }
 
 void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox)
@@ -179,13 +195,9 @@ void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comb
     } else {
         context.draw(QStyle::PE_PanelButtonCommand, optionFrom<QStyleOptionButton>(copy));
     }
-    if (hasArrow) {
-        auto arrow = optionFrom<QStyleOptionButton>(copy);
-        arrow.rect = arrowRect;
-        ButtonContent::commonCallButtonText(arrow, context.widget);
-        context.draw(QStyle::PE_IndicatorArrowDown, arrow);
-    }
-    if (!comboBox.editable && context.has(QStyle::State_HasFocus)) {
+    if (hasArrow)
+        paintArrow(context, copy, arrowRect);
+    if (!(comboBox.editable && comboBox.frame) && context.has(QStyle::State_HasFocus)) {
         auto focus = optionFrom<QStyleOptionFocusRect>(copy);
         const int inset = comboBox.frame ? FocusInset : 0;
         focus.rect.adjust(inset, inset, -inset, -inset);

@@ -91,6 +91,7 @@ Painter painterOf(QStyle::ComplexControl control)
 {
     switch (control) {
     case QStyle::CC_ComboBox:    return by<ComboBoxes::paintComboBox>;
+    case QStyle::CC_Dial:        return by<Sliders::paintDial>;
     case QStyle::CC_GroupBox:    return by<GroupBoxes::paintGroupBox>;
     case QStyle::CC_MdiControls: return by<TitleBars::paintMdiControls>;
     case QStyle::CC_ScrollBar:   return by<ScrollBars::paintScrollBar>;
@@ -208,6 +209,7 @@ MetricRule ruleOf(QStyle::PixelMetric metric)
     case QStyle::PM_SliderThickness:
     case QStyle::PM_SliderTickmarkOffset:
     case QStyle::PM_SliderSpaceAvailable:      return Sliders::metric;
+    case QStyle::PM_SpinBoxFrameWidth:         return SpinBoxes::metric;
     case QStyle::PM_TabBarBaseHeight:
     case QStyle::PM_TabBarBaseOverlap:
     case QStyle::PM_TabBarIconSize:

@@ -154,10 +154,12 @@ QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider
                  const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
                QStyle::SubControl part, const QRect& base);
+void paintDial(const PaintContext& context, const QStyleOptionSlider& dial);
 void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider);
 } // namespace Sliders
 
 namespace SpinBoxes {
+int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
                   const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,

@@ -64,11 +64,10 @@ QBrush inputBorder(const PaintContext& context)
                                                              : ThemeNames::inputBorderBrush());
 }
 
-/// Only inputs and views are filled: a line edit's panel is already, and a plain frame shows what
-/// it stands on.
-bool isFilledByFrame(const QWidget* widget)
+/// Covers all but a thin frame: there is no place for an error mark.
+bool isScrollArea(const QWidget* widget)
 {
-    return isComboBox(widget) || qobject_cast<const QAbstractScrollArea*>(widget);
+    return qobject_cast<const QAbstractScrollArea*>(widget);
 }
 
 } // namespace
@@ -88,7 +87,8 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
         fill = brushes.backgroundBrush;
         border = brushes.borderBrush;
         corners = Helpers::RightCorners;
-    } else if (isFilledByFrame(context.widget)) {
+    } else if (isScrollArea(context.widget)) { // a line edit's panel is filled already, and a plain
+                                               // frame shows what it stands on
         fill = background(context, inputBackground(context));
     }
 
@@ -97,7 +97,9 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
     const QColor errorColor = hasError ? context.color(ThemeNames::statusDangerColor()) : QColor();
     Shapes::drawBox(context, frame.rect, radius, fill, hasError ? QBrush(errorColor) : border,
                     corners);
-    if (hasError)
+    // The arrow's panel has the mark of a combo box, unless that is in the corner on this side.
+    const bool hasMark = corners == Helpers::None || context.rightToLeft();
+    if (hasError && hasMark && !isScrollArea(context.widget))
         Helpers::drawInputStatusIndicator(frame.rect, radius, errorColor, &context.painter);
 }
 

@@ -1,16 +1,19 @@
 #include "BaseStyle.h"
 #include "ComboBoxDefaultItemDelegate.h"
+#include "StyleContext.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
 
 #include <QAbstractItemView>
+#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QCommandLinkButton>
 #include <QDockWidget>
 #include <QLayout>
+#include <QLineEdit>
 #include <QMainWindow>
 #include <QPixmap>
 #include <QProgressBar>
@@ -315,6 +318,33 @@ void calmWeekends(BaseStyle&, QWidget& widget)
     }
 }
 
+/// What makes a spin box as high as the controls beside it: its size is that of its editor and of
+/// its frame.
+int heightToFill(const BaseStyle& style, const QLineEdit& editor, const QWidget& spinBox)
+{
+    const int frameWidth =
+        style.proxy()->pixelMetric(QStyle::PM_SpinBoxFrameWidth, nullptr, &spinBox);
+    const int height = editor.sizeHint().height() + 2 * frameWidth;
+    return qMax(0, MeasureContext{style, nullptr, &editor}.controlHeight() - height);
+}
+
+/// The text of an editor that is a part of another input begins where that of a line edit does.
+void setInEditor(BaseStyle& style, QWidget& widget)
+{
+    auto& editor = as<QLineEdit>(widget);
+    const QWidget* owner = editor.parentWidget();
+    if (!editor.textMargins().isNull()) // the application's, or set already
+        return;
+    if (is<QComboBox>(owner))
+        editor.setTextMargins(1, 0, 1, 0);
+    const auto* spinBox = qobject_cast<const QAbstractSpinBox*>(owner);
+    if (!spinBox || !spinBox->hasFrame())
+        return;
+    const int fill = heightToFill(style, editor, *spinBox);
+    const bool isComboBox = WidgetTraits::isCalendarPopupEditor(owner);
+    editor.setTextMargins(isComboBox ? 1 : 3, (fill + 1) / 2, isComboBox ? 1 : 2, fill / 2);
+}
+
 void watch(BaseStyle& style, QWidget& widget)
 {
     widget.installEventFilter(&style);
@@ -372,6 +402,7 @@ constexpr PolishRule Rules[] = {
     {has<Properties::PillFont>,        setPillFont},
     {WidgetTraits::isPeriodicTable,    dressPeriodicTable},
     {WidgetTraits::isRangeSlider,      dressRangeSlider},
+    {is<QLineEdit>,                    setInEditor},
     {is<QCommandLinkButton>,           watch},
     {hasNoShadow,                      castShadow},
     {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},

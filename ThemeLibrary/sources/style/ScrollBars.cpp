@@ -147,9 +147,16 @@ void paintScrollBar(const PaintContext& context, const QStyleOptionSlider& bar)
                                                       QStyle::SC_ScrollBarGroove, context.widget);
     context.painter.fillRect(groove, context.style.grooveBackgroundBrush(context.enabled()));
 
+    copy.state &= ~QStyle::State(QStyle::State_HasFocus);
     const PainterSaver saver(context.painter);
     context.style.QCommonStyle::drawComplexControl(QStyle::CC_ScrollBar, &copy, &context.painter,
                                                    context.widget);
+    if (context.has(QStyle::State_HasFocus)) {
+        // Around the slider, on the groove: on the slider itself it would hardly be seen.
+        auto focus = optionFrom<QStyleOptionFocusRect>(bar);
+        focus.rect = context.part(QStyle::CC_ScrollBar, copy, QStyle::SC_ScrollBarSlider);
+        context.draw(QStyle::PE_FrameFocusRect, focus);
+    }
 }
 
 } // namespace BRELK::ScrollBars

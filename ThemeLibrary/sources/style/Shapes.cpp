@@ -8,6 +8,15 @@
 
 namespace BRELK::Shapes {
 
+namespace {
+
+bool isWhole(qreal scale)
+{
+    return qFuzzyCompare(scale, qRound(scale));
+}
+
+} // namespace
+
 QRectF onPixels(const QRect& rect)
 {
     return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
@@ -39,7 +48,20 @@ void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
               const QBrush& brush)
 {
     // A filled rectangle covers the same pixels at every scale; a line need not.
-    context.painter.fillRect(QRect(from, to).normalized(), brush);
+    const QRect line = QRect(from, to).normalized();
+    const QTransform transform = context.painter.deviceTransform();
+    if (transform.type() > QTransform::TxScale || isWhole(transform.m11())) {
+        context.painter.fillRect(line, brush);
+        return;
+    }
+    // A pixel covers, say, one or two of the device's: all lines are to be equally thick.
+    const QRectF covered = transform.mapRect(QRectF(line));
+    const int thickness = qMax(1, int(transform.m11()));
+    const int left = qRound(covered.left());
+    const int top = qRound(covered.top());
+    const int width = line.width() == 1 ? thickness : qRound(covered.right()) - left;
+    const int height = line.height() == 1 ? thickness : qRound(covered.bottom()) - top;
+    context.painter.fillRect(transform.inverted().mapRect(QRectF(left, top, width, height)), brush);
 }
 
 QPixmap iconPixmap(const QPainter& painter, const QIcon& icon, const QSize& size, QIcon::Mode mode,

@@ -6,7 +6,7 @@
 #include <QCursor>
 #include <QSlider>
 
-// Sliders.
+// Sliders and dials.
 //
 // Properties: "rangeSlider", "slider_high_contrast", "slider_highlighted".
 
@@ -285,6 +285,17 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
         paintHandle(look);
     if (context.has(QStyle::State_HasFocus))
         paintFocus(look);
+}
+
+void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
+{
+    // The base style draws notches and a focus ring that dark or light grounds swallow.
+    QStyleOptionSlider copy = dial;
+    copy.palette.setColor(copy.palette.currentColorGroup(), QPalette::Dark,
+                          context.brush(ThemeNames::inputForegroundBrush()).color());
+    context.drawByBase(QStyle::CC_Dial, copy);
+    if (context.has(QStyle::State_HasFocus))
+        context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(dial));
 }
 
 } // namespace BRELK::Sliders

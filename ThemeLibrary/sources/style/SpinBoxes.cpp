@@ -14,7 +14,7 @@ namespace {
 
 constexpr int ButtonWidth = 14;
 constexpr int ButtonMargin = 1; ///< between the buttons and the right border
-constexpr int TextPadding = 4;
+constexpr int FrameWidth = 4; ///< by which a box is larger than its editor, on either side
 
 bool hasButtons(const QStyleOptionSpinBox& spinBox)
 {
@@ -23,13 +23,17 @@ bool hasButtons(const QStyleOptionSpinBox& spinBox)
 
 } // namespace
 
+int metric(QStyle::PixelMetric, const MeasureContext&)
+{
+    return FrameWidth;
+}
+
+/// As a style sheet sizes them, without asking the style, be it about spin boxes or not.
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
                   const QSize& contents, const QSize& /*base*/)
 {
-    const int buttons = hasButtons(spinBox) ? ButtonWidth + ButtonMargin : 0;
-    const int height =
-        spinBox.frame ? qMax(contents.height() + 2, context.controlHeight()) : contents.height();
-    return {contents.width() + 2 * context.dpiScaled(TextPadding) + buttons, height};
+    return context.style.QCommonStyle::sizeFromContents(QStyle::CT_SpinBox, &spinBox, contents,
+                                                        context.widget);
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
@@ -183,6 +187,20 @@ void paintArrow(const PaintContext& context, QStyle::PrimitiveElement arrow, Pic
                    });
 }
 
+/// In the usual corner, or in the one that the buttons leave free.
+void paintErrorMark(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
+                    const QRect& frame, int radius)
+{
+    QPainter& painter = context.painter;
+    const Qt::LayoutDirection direction = painter.layoutDirection();
+    if (hasButtons(spinBox))
+        painter.setLayoutDirection(direction == Qt::RightToLeft ? Qt::LeftToRight
+                                                                : Qt::RightToLeft);
+    Helpers::drawInputStatusIndicator(frame, radius, context.color(ThemeNames::statusDangerColor()),
+                                      &painter);
+    painter.setLayoutDirection(direction);
+}
+
 } // namespace
 
 void paintUp(const PaintContext& context)
@@ -227,9 +245,10 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
                         context.brush(ThemeNames::inputUncheckedBackgroundBrush()),
                         borderColor(context, hasError));
     paintStepButtons(context, spinBox, frame);
+    if (!spinBox.frame && context.has(QStyle::State_HasFocus))
+        context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(spinBox));
     if (hasError && spinBox.frame)
-        Helpers::drawInputStatusIndicator(
-            frame, radius, context.color(ThemeNames::statusDangerColor()), &context.painter);
+        paintErrorMark(context, spinBox, frame, radius);
 }
 
 } // namespace BRELK::SpinBoxes

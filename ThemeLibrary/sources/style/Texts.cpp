@@ -139,7 +139,9 @@ const Line& lineOf(const QPainter& painter, int flags, const QString& text)
     return *keptLines().object(key);
 }
 
-/// Where a box of `size` goes in `rect`: in fractions of a pixel, as the painter itself does it.
+/// Where a box of `size` goes in `rect`: along the line in fractions of a pixel, as the painter
+/// itself does it, and across it on a whole one, as line edits do it. So at every scale the texts
+/// of a row stand on one line.
 QRectF aligned(const QSizeF& size, Qt::LayoutDirection direction, int flags, const QRectF& rect)
 {
     const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));
@@ -151,7 +153,7 @@ QRectF aligned(const QSizeF& size, Qt::LayoutDirection direction, int flags, con
     if (alignment & Qt::AlignBottom)
         box.moveBottom(rect.bottom());
     else if (alignment & Qt::AlignVCenter)
-        box.moveTop(rect.top() + (rect.height() - size.height()) / 2);
+        box.moveTop(rect.top() + qFloor((rect.height() - size.height() + 1) / 2));
     return box;
 }
 

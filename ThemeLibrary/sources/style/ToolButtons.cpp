@@ -20,12 +20,10 @@ bool hasMenuPart(const QStyleOptionToolButton& button)
     return button.features & QStyleOptionToolButton::MenuButtonPopup;
 }
 
-/// Whether room beside the label is kept for the arrow that tells of a menu. An icon alone shares
-/// its place with it.
+/// Whether room beside the label is kept for the arrow that tells of a menu.
 bool hasMenuMark(const QStyleOptionToolButton& button, const QWidget* widget)
 {
     return button.features & QStyleOptionToolButton::HasMenu && !hasMenuPart(button)
-           && button.toolButtonStyle != Qt::ToolButtonIconOnly
            && !WidgetProperties::flag(widget, WidgetProperties::NoMenuArrow);
 }
 
@@ -178,6 +176,10 @@ QRect contentsRect(const PaintContext& context, const QStyleOptionToolButton& bu
     if (!hasMenuMark(button, context.widget))
         return button.rect;
     const int markWidth = context.metric(QStyle::PM_MenuButtonIndicator);
+    // In a button that is too small for both, an icon alone shares its place with the arrow.
+    if (button.toolButtonStyle == Qt::ToolButtonIconOnly
+        && button.rect.width() < button.iconSize.width() + markWidth)
+        return button.rect;
     return context.visual(button.rect.adjusted(0, 0, -markWidth, 0));
 }
 
