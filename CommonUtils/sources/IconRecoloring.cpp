@@ -14,6 +14,7 @@ namespace BRELK {
 namespace {
 
 constexpr int MostIcons = 512;
+constexpr int MostKeys = 64; ///< of one icon
 constexpr int LargestSide = 2048;
 
 /// The icon inside is asked in device pixels, as this engine is; without the guard `QIcon` would
@@ -92,12 +93,14 @@ public:
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
         const bool disabled = m_recoloring.disabled || mode == QIcon::Disabled;
-        const QString key = cacheKey(size, state, disabled);
+        forgetOldKeys();
+        QPixmapCache::Key& key = m_keys[quint64(size.width()) << 32 | quint64(size.height()) << 2
+                                        | quint64(state == QIcon::On) << 1 | quint64(disabled)];
         QPixmap result;
         if (!QPixmapCache::find(key, &result)) {
             result = QPixmap::fromImage(drawn(size, state, disabled));
             if (!result.isNull())
-                QPixmapCache::insert(key, result);
+                key = QPixmapCache::insert(result);
         }
         return result;
     }
@@ -120,13 +123,14 @@ public:
     }
 
 private:
-    QString cacheKey(const QSize& size, QIcon::State state, bool disabled) const
+    /// Icons of the icon theme change with it. Few icons are shown in more than a few sizes.
+    void forgetOldKeys()
     {
-        const auto number = [](quint64 value) { return QString::number(value, 36); };
-        return QLatin1String("varn-icon-") % number(m_serial) % QLatin1Char('-')
-               % number(quint64(size.width()) << 32 | quint64(size.height()) << 2
-                        | quint64(state == QIcon::On) << 1 | quint64(disabled))
-               % QIcon::themeName();
+        const QString iconTheme = QIcon::themeName();
+        if (iconTheme == m_iconTheme && m_keys.size() < MostKeys)
+            return;
+        m_iconTheme = iconTheme;
+        m_keys.clear();
     }
 
     QImage drawn(const QSize& size, QIcon::State state, bool disabled) const
@@ -142,15 +146,10 @@ private:
         return recoloredImage(icon, m_recoloring.referenceColor(), fill, disabled);
     }
 
-    static quint64 nextSerial()
-    {
-        static quint64 sSerial = 0;
-        return ++sSerial;
-    }
-
     Recoloring m_recoloring;
     QString m_name;
-    quint64 m_serial = nextSerial();
+    QString m_iconTheme;
+    QHash<quint64, QPixmapCache::Key> m_keys; ///< of the sizes and states that were asked for
 };
 
 } // namespace

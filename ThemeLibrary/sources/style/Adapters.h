@@ -9,7 +9,7 @@ namespace BRELK {
 
 using Painter = void (*)(const PaintContext&);
 using RectRule = QRect (*)(const StyleContext&, const QRect& base);
-using PartRule = QRect (*)(const StyleContext&, QStyle::ComplexControl, QStyle::SubControl);
+using PartRule = QRect (*)(const StyleContext&, QStyle::SubControl, const BasePart& base);
 using MetricRule = int (*)(QStyle::PixelMetric, const MeasureContext&);
 using SizeRule = QSize (*)(const MeasureContext&, const QSize& contents, const QSize& base);
 
@@ -51,36 +51,14 @@ struct Adapter<Rule>
     }
 };
 
-/// Where the base style puts a part of the complex control that `context` is about.
-inline QRect basePart(const StyleContext& context, QStyle::ComplexControl control,
-                      QStyle::SubControl part)
-{
-    const auto& option = static_cast<const QStyleOptionComplex&>(context.option);
-    return context.style.QProxyStyle::subControlRect(control, &option, part, context.widget);
-}
-
 template <class Option,
-          QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubControl, const QRect&)>
+          QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubControl, const BasePart&)>
 struct Adapter<Rule>
 {
-    static QRect call(const StyleContext& context, QStyle::ComplexControl control,
-                      QStyle::SubControl part)
-    {
-        const QRect base = basePart(context, control, part);
-        const auto* option = qstyleoption_cast<const Option*>(&context.option);
-        return option ? Rule(context, *option, part, base) : base;
-    }
-};
-
-/// A rule that never needs the base style's rectangle: finding it may take long.
-template <class Option, QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubControl)>
-struct Adapter<Rule>
-{
-    static QRect call(const StyleContext& context, QStyle::ComplexControl control,
-                      QStyle::SubControl part)
+    static QRect call(const StyleContext& context, QStyle::SubControl part, const BasePart& base)
     {
         const auto* option = qstyleoption_cast<const Option*>(&context.option);
-        return option ? Rule(context, *option, part) : basePart(context, control, part);
+        return option ? Rule(context, *option, part, base) : base.rect();
     }
 };
 

@@ -1,4 +1,5 @@
 #include "BaseStyle.h"
+#include "FrozenTheme.h"
 #include "ThemeNames.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
@@ -7,8 +8,12 @@
 #include <QComboBox>
 #include <QCursor>
 #include <QDateTimeEdit>
+#include <QHash>
 #include <QLineEdit>
 #include <QStyleOption>
+
+#include <array>
+#include <optional>
 
 // How a button-like control finds its brushes: words for what it is and how it stands are joined to
 // theme names, then a row of rules, each of which may override the ones before it, dresses special
@@ -18,29 +23,117 @@ namespace BRELK {
 
 namespace {
 
+enum class Family { Button, ToggleButton, Input };
+enum class CheckWord { Default, Checked, Unchecked };
+enum class PointerWord { None, Pressed, Hover };
+enum class Part { Background, Border, Foreground };
+
+constexpr int Count = 3; ///< of each of these
+
+/// The words of a composed name, but for the kind.
+struct Words
+{
+    Family family;
+    CheckWord check;
+    PointerWord pointer;
+    Part part;
+};
+
+QString familyName(Family family)
+{
+    switch (family) {
+    case Family::Input: return ThemeNames::input();
+    case Family::ToggleButton: return ThemeNames::toggle() + ThemeNames::button();
+    default: return ThemeNames::button();
+    }
+}
+
+QString stateName(const Words& words)
+{
+    const QString check = words.check == CheckWord::Default   ? ThemeNames::byDefault()
+                          : words.check == CheckWord::Checked ? ThemeNames::checked()
+                                                              : ThemeNames::unchecked();
+    const QString pointer = words.pointer == PointerWord::Pressed ? ThemeNames::pressed()
+                            : words.pointer == PointerWord::Hover ? ThemeNames::hover()
+                                                                  : QString();
+    return check + pointer;
+}
+
+QString partName(Part part)
+{
+    switch (part) {
+    case Part::Background: return ThemeNames::backgroundPart();
+    case Part::Border: return ThemeNames::borderPart();
+    default: return ThemeNames::foregroundPart();
+    }
+}
+
+/// The brushes of one kind, by all other words.
+using KindBrushes = std::array<std::optional<QBrush>, 2 * Count * Count * Count * Count>;
+
+KindBrushes& brushesOf(const QString& kind)
+{
+    constexpr int MostKinds = 64;
+    static KindBrushes sOfNoKind;
+    static QHash<QString, KindBrushes> sOfKinds;
+
+    if (kind.isEmpty())
+        return sOfNoKind;
+    if (sOfKinds.size() >= MostKinds && !sOfKinds.contains(kind))
+        sOfKinds.clear();
+    return sOfKinds[kind];
+}
+
+/// The theme is frozen at its first use, so each name is composed once. The brush is the caller's
+/// until the next call.
+const QBrush& composedBrush(const Words& words, const QString& kind, bool enabled)
+{
+    int place = enabled ? 1 : 0;
+    for (const int word :
+         {int(words.family), int(words.check), int(words.pointer), int(words.part)})
+        place = place * Count + word;
+    std::optional<QBrush>& brush = brushesOf(kind).at(size_t(place));
+    if (!brush)
+        brush = BaseStyle::getBrush(
+            familyName(words.family) + kind + stateName(words) + partName(words.part), enabled);
+    return *brush;
+}
+
 struct ButtonLook
 {
     const QStyleOption& option;
     const QWidget* widget;
+    BaseStyle::ButtonBrushes& brushes;
     WidgetProperties::Reader properties = WidgetProperties::Reader(widget);
     bool enabled = !widget || widget->isEnabled();
     const QComboBox* comboBox = qobject_cast<const QComboBox*>(widget);
     bool spinBox = widget && WidgetTraits::isSpinBox(widget);
     bool checkable = properties.flag(WidgetProperties::Checkable);
     QString kind = properties.kind();
-    QString state = {};
-    BaseStyle::ButtonBrushes brushes = {};
+    CheckWord check = CheckWord::Unchecked;
+    PointerWord pointer = PointerWord::None;
 
-    QBrush brush(const QString& name) const { return BaseStyle::getBrush(name, enabled); }
+    const QBrush& brush(ThemeNames::Name<QBrush> name) const
+    {
+        return FrozenTheme::brush(name, enabled);
+    }
+
+    /// The brush of a button like this one, in its state.
+    const QBrush& buttonBrush(Part part) const
+    {
+        return composedBrush(
+            {checkable ? Family::ToggleButton : Family::Button, check, pointer, part}, kind,
+            enabled);
+    }
+
+    const QBrush& inputBrush(Part part) const
+    {
+        return composedBrush({Family::Input, check, pointer, part}, kind, enabled);
+    }
 
     const QBrush& borderBrush() const
     {
         return BaseStyle::getBorderBrush(option.state & QStyle::State_Enabled);
-    }
-
-    QBrush inputBrush(const QString& part) const
-    {
-        return brush(ThemeNames::input() + kind + state + part);
     }
 
     bool isPressed() const { return BaseStyle::isPressed(option); }
@@ -50,23 +143,23 @@ struct ButtonLook
     bool isIdle() const { return !BaseStyle::isDown(option) && !isHovered(); }
 };
 
-QString stateWord(const ButtonLook& look)
+CheckWord checkWord(const ButtonLook& look)
 {
-    const QStyleOption& option = look.option;
-    const auto checkWord = [](bool checked) {
-        return checked ? ThemeNames::checked() : ThemeNames::unchecked();
+    const auto word = [](bool checked) {
+        return checked ? CheckWord::Checked : CheckWord::Unchecked;
     };
-    QString word;
     if (look.properties.flag(WidgetProperties::Blinking))
-        word = checkWord(look.properties.flag(WidgetProperties::BlinkChecked));
-    else if (BaseStyle::isDefaultButton(&option) && option.state & QStyle::State_Active)
-        word = ThemeNames::byDefault();
-    else
-        word = checkWord(BaseStyle::isChecked(option));
+        return word(look.properties.flag(WidgetProperties::BlinkChecked));
+    if (BaseStyle::isDefaultButton(&look.option) && look.option.state & QStyle::State_Active)
+        return CheckWord::Default;
+    return word(BaseStyle::isChecked(look.option));
+}
 
-    if (BaseStyle::isPressed(option))
-        return word + ThemeNames::pressed();
-    return BaseStyle::isHovered(&option) ? QString(word + ThemeNames::hover()) : word;
+PointerWord pointerWord(const ButtonLook& look)
+{
+    if (look.isPressed())
+        return PointerWord::Pressed;
+    return look.isHovered() ? PointerWord::Hover : PointerWord::None;
 }
 
 /// Whether the menu part of a tool button, rather than the button, is what the mouse presses.
@@ -82,29 +175,22 @@ bool isMenuPartPressed(const QStyleOption& option, const QWidget* widget)
     return part == QStyle::SC_ToolButtonMenu;
 }
 
-void findStateWord(ButtonLook& look)
-{
-    const bool calendarAtRest = WidgetTraits::isCalendarButton(look.widget) && !look.isPressed();
-    if (calendarAtRest || isMenuPartPressed(look.option, look.widget))
-        look.state = ThemeNames::unchecked() + ThemeNames::hover();
-    else
-        look.state = stateWord(look);
-}
-
 void composeByName(ButtonLook& look)
 {
-    findStateWord(look);
+    const bool calendarAtRest = WidgetTraits::isCalendarButton(look.widget) && !look.isPressed();
+    if (calendarAtRest || isMenuPartPressed(look.option, look.widget)) {
+        look.pointer = PointerWord::Hover;
+    } else {
+        look.check = checkWord(look);
+        look.pointer = pointerWord(look);
+    }
     if (look.comboBox) // dressed below
         return;
-    const QString toggle = look.checkable ? ThemeNames::toggle() : QString();
-    const auto brush = [&](const QString& part) {
-        return look.brush(toggle + ThemeNames::button() + look.kind + look.state + part);
-    };
-    look.brushes.foregroundBrush = brush(ThemeNames::foregroundPart());
+    look.brushes.foregroundBrush = look.buttonBrush(Part::Foreground);
     if (look.spinBox)
         return;
-    look.brushes.backgroundBrush = brush(ThemeNames::backgroundPart());
-    look.brushes.borderBrush = brush(ThemeNames::borderPart());
+    look.brushes.backgroundBrush = look.buttonBrush(Part::Background);
+    look.brushes.borderBrush = look.buttonBrush(Part::Border);
 }
 
 void flattenBorder(ButtonLook& look)
@@ -124,9 +210,9 @@ void outline(ButtonLook& look)
         return;
     if (BaseStyle::isChecked(look.option) && look.isHovered() && !look.isPressed()) {
         // Deliberate: the toggle word is left out here.
-        look.brushes.borderBrush =
-            look.brush(ThemeNames::button() + look.kind + ThemeNames::unchecked()
-                       + ThemeNames::hover() + ThemeNames::backgroundPart());
+        look.brushes.borderBrush = composedBrush(
+            {Family::Button, CheckWord::Unchecked, PointerWord::Hover, Part::Background}, look.kind,
+            look.enabled);
         return;
     }
     look.brushes.borderBrush = look.brushes.backgroundBrush;
@@ -141,17 +227,17 @@ void dressAsInput(ButtonLook& look)
         return;
     BaseStyle::ButtonBrushes& brushes = look.brushes;
     if (WidgetTraits::isCalendarPopupEditor(look.widget)) {
-        brushes.backgroundBrush = look.inputBrush(ThemeNames::backgroundPart());
+        brushes.backgroundBrush = look.inputBrush(Part::Background);
         if (!static_cast<const QDateTimeEdit*>(look.widget)->hasFrame())
             brushes.borderBrush = brushes.backgroundBrush;
         else if (look.widget->hasFocus())
             brushes.borderBrush = look.brush(ThemeNames::mainBrush());
         else
-            brushes.borderBrush = look.inputBrush(ThemeNames::borderPart());
+            brushes.borderBrush = look.inputBrush(Part::Border);
     } else {
         brushes.backgroundBrush = look.isHovered()
                                       ? look.brush(ThemeNames::inputUncheckedBackgroundBrush())
-                                      : look.inputBrush(ThemeNames::backgroundPart());
+                                      : look.inputBrush(Part::Background);
         brushes.borderBrush = brushes.backgroundBrush;
     }
 }
@@ -181,9 +267,9 @@ void dressAsComboBox(ButtonLook& look)
     const QComboBox* comboBox = look.comboBox;
     if (!comboBox)
         return;
-    look.brushes = {look.inputBrush(ThemeNames::backgroundPart()),
-                    look.inputBrush(ThemeNames::borderPart()),
-                    look.inputBrush(ThemeNames::foregroundPart())};
+    look.brushes.backgroundBrush = look.inputBrush(Part::Background);
+    look.brushes.borderBrush = look.inputBrush(Part::Border);
+    look.brushes.foregroundBrush = look.inputBrush(Part::Foreground);
     if (!comboBox->hasFrame()) {
         look.brushes.borderBrush = look.brushes.backgroundBrush;
     } else if (isPopupVisible(*comboBox)) {
@@ -219,8 +305,8 @@ void colorWorkflowGroup(ButtonLook& look)
             look.brushes.borderBrush = look.brushes.foregroundBrush;
         } else {
             // Deliberate: the name of a border brush for the foreground.
-            look.brushes.foregroundBrush = look.brush(ThemeNames::button() + look.kind + look.state
-                                                      + ThemeNames::borderPart());
+            look.brushes.foregroundBrush = composedBrush(
+                {Family::Button, look.check, look.pointer, Part::Border}, look.kind, look.enabled);
         }
     }
     if (look.option.state & QStyle::State_MouseOver && !look.isPressed()) {
@@ -241,10 +327,11 @@ constexpr BrushRule Rules[] = {composeByName,  flattenBorder,     outline,
 const BaseStyle::ButtonBrushes BaseStyle::buttonBrushes(const QStyleOption* option,
                                                         const QWidget* widget)
 {
-    ButtonLook look{*option, widget};
+    ButtonBrushes brushes;
+    ButtonLook look{*option, widget, brushes};
     for (const BrushRule rule : Rules)
         rule(look);
-    return look.brushes;
+    return brushes;
 }
 
 } // namespace BRELK

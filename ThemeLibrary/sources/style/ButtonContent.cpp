@@ -3,6 +3,7 @@
 #include "ThemeColorHelper.h"
 #include "WidgetTraits.h"
 
+#include <QCache>
 #include <QToolButton>
 
 namespace BRELK::ButtonContent {
@@ -18,11 +19,23 @@ bool hasPanel(const QStyleOption& option)
            && (BaseStyle::isHovered(&option) || !(option.state & QStyle::State_AutoRaise));
 }
 
-void setForeground(QStyleOption& option, const QBrush& brush)
+/// A palette, and the text of its buttons.
+struct PaletteKey
 {
-    if (option.palette.brush(QPalette::ButtonText) != brush)
-        option.palette.setBrush(option.palette.currentColorGroup(), QPalette::ButtonText, brush);
-}
+    qint64 palette;
+    QPalette::ColorGroup group;
+    QBrush text;
+
+    friend bool operator==(const PaletteKey& one, const PaletteKey& other)
+    {
+        return one.palette == other.palette && one.group == other.group && one.text == other.text;
+    }
+
+    friend uint qHash(const PaletteKey& key, uint seed)
+    {
+        return ::qHash(key.palette, seed) ^ key.text.color().rgba() ^ uint(key.group);
+    }
+};
 
 template <class Option>
 void prepare(Option& option, const QWidget* widget)
@@ -48,6 +61,24 @@ QBrush textBrush(const QStyleOption& option, const QWidget* widget, QPalette::Co
 {
     const bool isApplications = widget && widget->palette().resolve() & (1U << role);
     return isApplications || themed.style() == Qt::NoBrush ? option.palette.brush(role) : themed;
+}
+
+void setForeground(QStyleOption& option, const QBrush& brush)
+{
+    constexpr int MostPalettes = 64;
+    // To change one brush of a palette all others are copied, which takes longer than painting.
+    static QCache<PaletteKey, QPalette> sPalettes(MostPalettes);
+
+    QPalette& palette = option.palette;
+    if (palette.brush(QPalette::ButtonText) == brush)
+        return;
+    const PaletteKey key{palette.cacheKey(), palette.currentColorGroup(), brush};
+    if (const QPalette* known = sPalettes.object(key)) {
+        palette = *known;
+        return;
+    }
+    palette.setBrush(palette.currentColorGroup(), QPalette::ButtonText, brush);
+    sPalettes.insert(key, new QPalette(palette));
 }
 
 QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush)

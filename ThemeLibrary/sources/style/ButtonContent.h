@@ -23,6 +23,9 @@ void modifyStyleOptionIcon(QStyleOptionToolButton& option, const QBrush& brush);
 void modifyStyleOptionIcon(QStyleOptionComboBox& option, const QBrush& brush);
 void modifyStyleOptionIcon(QStyleOptionViewItem& option, const QBrush& brush);
 
+/// Makes `brush` that of the option's texts and arrows, in the current color group of its palette.
+void setForeground(QStyleOption& option, const QBrush& brush);
+
 /// Gives the option's texts and arrows the foreground of its button brushes.
 void commonCallButtonText(QStyleOption& option, const QWidget* widget);
 

@@ -58,11 +58,11 @@ QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& co
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,
-               QStyle::SubControl part, const QRect& base)
+               QStyle::SubControl part, const BasePart& base)
 {
     // Deliberate: nothing is mirrored, combo boxes keep their sides in right-to-left layouts.
     const QRect& box = comboBox.rect;
-    QRect rect = context.visual(base); // the base style has mirrored it
+    QRect rect = context.visual(base.rect()); // the base style has mirrored it
     switch (part) {
     case QStyle::SC_ComboBoxEditField:
         if (comboBox.editable) {
@@ -74,8 +74,8 @@ QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox
     case QStyle::SC_ComboBoxArrow:
         rect.setLeft(box.width() + 4 - arrowExtent(context, box));
         return rect;
-    case QStyle::SC_ComboBoxListBoxPopup: return popupRect(context, base);
-    default: return base;
+    case QStyle::SC_ComboBoxListBoxPopup: return popupRect(context, base.rect());
+    default: return base.rect();
     }
 }
 
@@ -102,8 +102,8 @@ void paintQuietBackground(const PaintContext& context, const QStyleOptionComboBo
 {
     if (!BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
         return;
-    const QString name = BaseStyle::isDown(comboBox) ? ThemeNames::backgroundSubLevel2Brush()
-                                                     : ThemeNames::backgroundUpLevel1Brush();
+    const auto name = BaseStyle::isDown(comboBox) ? ThemeNames::backgroundSubLevel2Brush()
+                                                  : ThemeNames::backgroundUpLevel1Brush();
     Shapes::drawBox(context, comboBox.rect, Shapes::cornerRadius(ThemeNames::smallSize()),
                     context.brush(name), Qt::NoBrush);
     if (comboBox.subControls & QStyle::SC_ComboBoxArrow)
@@ -179,26 +179,30 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
 void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
     // Deliberate: everything is taken at the origin, where the widget paints.
-    QStyleOptionComboBox copy = comboBox;
-    copy.rect = QRect(QPoint(), comboBox.rect.size());
+    if (!comboBox.rect.topLeft().isNull()) {
+        QStyleOptionComboBox copy = comboBox;
+        copy.rect.moveTo(0, 0);
+        paintComboBox({{context.style, copy, context.widget}, context.painter}, copy);
+        return;
+    }
     const QRect arrowRect = context.proxy().subControlRect(
-        QStyle::CC_ComboBox, &copy, QStyle::SC_ComboBoxArrow, context.widget);
+        QStyle::CC_ComboBox, &comboBox, QStyle::SC_ComboBoxArrow, context.widget);
     const bool hasArrow = comboBox.subControls & QStyle::SC_ComboBoxArrow;
 
     if (comboBox.editable) {
-        auto frame = optionFrom<QStyleOptionFrame>(copy);
+        auto frame = optionFrom<QStyleOptionFrame>(comboBox);
         if (hasArrow)
             frame.rect.setRight(arrowRect.left());
         context.draw(QStyle::PE_FrameLineEdit, frame);
         frame.rect = arrowRect.adjusted(-1, 0, 0, 0);
         context.draw(QStyle::PE_PanelButtonCommand, frame);
     } else {
-        context.draw(QStyle::PE_PanelButtonCommand, optionFrom<QStyleOptionButton>(copy));
+        context.draw(QStyle::PE_PanelButtonCommand, optionFrom<QStyleOptionButton>(comboBox));
     }
     if (hasArrow)
-        paintArrow(context, copy, arrowRect);
+        paintArrow(context, comboBox, arrowRect);
     if (!(comboBox.editable && comboBox.frame) && context.has(QStyle::State_HasFocus)) {
-        auto focus = optionFrom<QStyleOptionFocusRect>(copy);
+        auto focus = optionFrom<QStyleOptionFocusRect>(comboBox);
         const int inset = comboBox.frame ? FocusInset : 0;
         focus.rect.adjust(inset, inset, -inset, -inset);
         context.draw(QStyle::PE_FrameFocusRect, focus);

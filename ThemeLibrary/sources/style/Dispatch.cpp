@@ -293,9 +293,9 @@ QRect BaseStyle::subElementRect(SubElement element, const QStyleOption* option,
 QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                 SubControl part, const QWidget* widget) const
 {
+    const BasePart base(*this, control, option, part, widget);
     const PartRule rule = option ? ruleOf(control) : nullptr;
-    return rule ? rule({*this, *option, widget}, control, part)
-                : QProxyStyle::subControlRect(control, option, part, widget);
+    return rule ? rule({*this, *option, widget}, part, base) : base.rect();
 }
 
 QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,

@@ -26,6 +26,7 @@ class QStyleOptionViewItem;
 /// its painting. Families meet only through the proxy.
 namespace BRELK {
 
+class BasePart;
 struct MeasureContext;
 struct PaintContext;
 struct StyleContext;
@@ -73,7 +74,7 @@ namespace ComboBoxes {
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
                    const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,
-               QStyle::SubControl part, const QRect& base);
+               QStyle::SubControl part, const BasePart& base);
 void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox);
 void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox);
 } // namespace ComboBoxes
@@ -87,7 +88,7 @@ void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& fram
 
 namespace GroupBoxes {
 QRect partRect(const StyleContext& context, const QStyleOptionGroupBox& groupBox,
-               QStyle::SubControl part);
+               QStyle::SubControl part, const BasePart& base);
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
 void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& groupBox);
 } // namespace GroupBoxes
@@ -140,7 +141,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionProgressBar& bar)
 namespace ScrollBars {
 int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
-               const QRect& base);
+               const BasePart& base);
 void paintCorner(const PaintContext& context);
 void paintAddLine(const PaintContext& context, const QStyleOptionSlider& bar);
 void paintSubLine(const PaintContext& context, const QStyleOptionSlider& bar);
@@ -153,7 +154,7 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
                  const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
-               QStyle::SubControl part, const QRect& base);
+               QStyle::SubControl part, const BasePart& base);
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial);
 void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider);
 } // namespace Sliders
@@ -163,7 +164,7 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
                   const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
-               QStyle::SubControl part, const QRect& base);
+               QStyle::SubControl part, const BasePart& base);
 void paintDown(const PaintContext& context);
 void paintMinus(const PaintContext& context);
 void paintPlus(const PaintContext& context);

@@ -192,7 +192,7 @@ bool hasThemedBackground(const StyleContext& context)
     if (context.enabled() || context.flag(WidgetProperties::CustomItemViewPalette))
         return false;
     return context.option.palette.brush(QPalette::Active, QPalette::Base)
-           == BaseStyle::getBrush(ThemeNames::itemViewBackgroundBrush(), true);
+           == FrozenTheme::brush(ThemeNames::itemViewBackgroundBrush(), true);
 }
 
 void paintSeparator(const PaintContext& context)

@@ -55,7 +55,7 @@ QBrush inputBackground(const PaintContext& context)
         return context.brush(ThemeNames::inputBackgroundActiveBrush());
     // A read-only field stands back like a disabled one, but its text does not.
     const bool editable = context.enabled() && !context.has(QStyle::State_ReadOnly);
-    return BaseStyle::getBrush(ThemeNames::inputUncheckedBackgroundBrush(), editable);
+    return FrozenTheme::brush(ThemeNames::inputUncheckedBackgroundBrush(), editable);
 }
 
 QBrush inputBorder(const PaintContext& context)

@@ -200,7 +200,7 @@ namespace {
 QBrush barBrush(const PaintContext& context)
 {
     const bool enabled = context.widget ? context.widget->isEnabled() : context.enabled();
-    return BaseStyle::getBrush(ThemeNames::backgroundSubLevel2Brush(), enabled);
+    return FrozenTheme::brush(ThemeNames::backgroundSubLevel2Brush(), enabled);
 }
 
 } // namespace

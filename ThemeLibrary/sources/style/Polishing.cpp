@@ -54,7 +54,7 @@ Widget& as(QWidget& widget)
 struct HandedBrush
 {
     const char* property;
-    QString (*name)();
+    ThemeNames::Name<QBrush> (*name)();
     bool enabled;
 };
 
@@ -274,7 +274,7 @@ void dressPeriodicTable(BaseStyle&, QWidget& widget)
     hand(Properties::PeriodicTableForegroundSubLevelColor, ThemeNames::foregroundSubLevel1Color());
     hand(Properties::PeriodicTableForegroundUpLevelColor, ThemeNames::foregroundUpLevel1Color());
 
-    constexpr QString (*Series[])() = {
+    constexpr ThemeNames::Name<QColor> (*Series[])() = {
         ThemeNames::series01Color, ThemeNames::series02Color, ThemeNames::series03Color,
         ThemeNames::series04Color, ThemeNames::series05Color, ThemeNames::series06Color,
         ThemeNames::series07Color, ThemeNames::series08Color, ThemeNames::series09Color,

@@ -52,18 +52,18 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
-               const QRect& base)
+               const BasePart& base)
 {
     if (!context.flag(WidgetProperties::Minimized))
-        return base;
+        return base.rect();
     switch (part) {
     case QStyle::SC_ScrollBarAddLine:
     case QStyle::SC_ScrollBarSubLine:
     case QStyle::SC_ScrollBarAddPage:
     case QStyle::SC_ScrollBarSubPage: return {};
     case QStyle::SC_ScrollBarGroove: return bar.rect;
-    case QStyle::SC_ScrollBarSlider: return minimizedSliderRect(context, bar, base);
-    default: return base;
+    case QStyle::SC_ScrollBarSlider: return minimizedSliderRect(context, bar, base.rect());
+    default: return base.rect();
     }
 }
 

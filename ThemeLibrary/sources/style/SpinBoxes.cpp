@@ -1,3 +1,4 @@
+#include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Pictures.h"
@@ -37,7 +38,7 @@ QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spin
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
-               QStyle::SubControl part, const QRect& base)
+               QStyle::SubControl part, const BasePart& base)
 {
     const QRect& box = spinBox.rect;
     const int buttonLeft = box.width() - ButtonWidth - ButtonMargin;
@@ -54,7 +55,7 @@ QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
         const int width = hasButtons(spinBox) ? buttonLeft - 1 : box.width();
         return context.visual({1, 1, width, box.height() - 2});
     }
-    default: return context.visual(base);
+    default: return context.visual(base.rect());
     }
 }
 
@@ -88,11 +89,6 @@ constexpr StepButton UpButton{QStyle::SC_SpinBoxUp, QAbstractSpinBox::StepUpEnab
                               QStyle::PE_IndicatorSpinUp, QStyle::PE_IndicatorSpinPlus, 1};
 constexpr StepButton DownButton{QStyle::SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled,
                                 QStyle::PE_IndicatorSpinDown, QStyle::PE_IndicatorSpinMinus, 0};
-
-void setButtonText(QPalette& palette, const QBrush& brush)
-{
-    palette.setBrush(palette.currentColorGroup(), QPalette::ButtonText, brush);
-}
 
 /// Most of the time it has the palette already, and comparing is quicker than assigning.
 void setPalette(QStyleOption& option, const QPalette& palette)
@@ -136,11 +132,11 @@ void paintStepButton(const PaintContext& context, const StepButton& button,
     context.draw(QStyle::PE_PanelButtonBevel, bevel);
 
     if (context.style.getButtonBackgroundState(bevel) == BaseStyle::ButtonBackground_Highlighted)
-        setButtonText(copy.palette, copy.palette.brush(QPalette::HighlightedText));
+        ButtonContent::setForeground(copy, copy.palette.brush(QPalette::HighlightedText));
     if (BaseStyle::isButtonHovered(&bevel))
-        setButtonText(copy.palette, context.brush(ThemeNames::mainBrush()));
+        ButtonContent::setForeground(copy, context.brush(ThemeNames::mainBrush()));
     if (BaseStyle::isDown(bevel))
-        setButtonText(copy.palette, context.brush(ThemeNames::mainSubLevel1Brush()));
+        ButtonContent::setForeground(copy, context.brush(ThemeNames::mainSubLevel1Brush()));
     const bool hasSigns = copy.buttonSymbols == QAbstractSpinBox::PlusMinus;
     context.draw(hasSigns ? button.sign : button.arrow, copy);
 }

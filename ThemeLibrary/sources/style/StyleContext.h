@@ -1,6 +1,7 @@
 #pragma once
 
 #include "BaseStyle.h"
+#include "FrozenTheme.h"
 #include "WidgetProperties.h"
 
 #include <QStyleOption>
@@ -51,10 +52,16 @@ struct StyleContext
     bool rightToLeft() const { return option.direction == Qt::RightToLeft; }
 
     /// The theme brush `name`, or its twin when the control is disabled.
-    QBrush brush(const QString& name) const { return BaseStyle::getBrush(name, enabled()); }
+    const QBrush& brush(ThemeNames::Name<QBrush> name) const
+    {
+        return FrozenTheme::brush(name, enabled());
+    }
 
     /// The theme color `name`, or its twin when the control is disabled.
-    QColor color(const QString& name) const { return BaseStyle::getColor(name, enabled()); }
+    const QColor& color(ThemeNames::Name<QColor> name) const
+    {
+        return FrozenTheme::color(name, enabled());
+    }
 
     const QBrush& borderBrush() const { return BaseStyle::getBorderBrush(enabled()); }
 
@@ -97,12 +104,33 @@ struct StyleContext
 template <class Option>
 Option optionFrom(const QStyleOption& source)
 {
-    // A new option asks the application for its font, which takes longer than a copy.
-    static const Option sEmpty;
-    Option option = sEmpty;
+    Option option;
     option.QStyleOption::operator=(source);
     return option;
 }
+
+/// The base style's rectangle of a part, for the rules that start from it: finding it takes longer
+/// than most rules do.
+class BasePart
+{
+public:
+    BasePart(const BaseStyle& style, QStyle::ComplexControl control,
+             const QStyleOptionComplex* option, QStyle::SubControl part, const QWidget* widget)
+        : m_style(style), m_control(control), m_option(option), m_part(part), m_widget(widget)
+    { }
+
+    QRect rect() const
+    {
+        return m_style.QProxyStyle::subControlRect(m_control, m_option, m_part, m_widget);
+    }
+
+private:
+    const BaseStyle& m_style;
+    QStyle::ComplexControl m_control;
+    const QStyleOptionComplex* m_option;
+    QStyle::SubControl m_part;
+    const QWidget* m_widget;
+};
 
 /// What a painting function needs. Whatever it draws by an element, it asks of the proxy.
 struct PaintContext : StyleContext

@@ -2,6 +2,9 @@
 
 #include <QString>
 
+class QBrush;
+class QColor;
+
 /// Every theme variable that the style asks for, each written once. docs/theme-names.md says where
 /// each is used; a test holds the shipped themes to these lists.
 ///
@@ -133,15 +136,48 @@
 /// naming a variable allocates nothing.
 namespace BRELK::ThemeNames {
 
+/// The name of a variable that holds a `Value`, with its place among all of them: `FrozenTheme`
+/// finds the value by that sooner than by the name.
+template <class Value>
+struct Name
+{
+    int place;
+    QString (*text)();
+
+    operator QString() const { return text(); }
+};
+
+#define VARN_THEME_PLACE(function, text) function,
+
+enum class ColorPlace { VARN_THEME_COLORS(VARN_THEME_PLACE) Count };
+enum class BrushPlace {
+    VARN_THEME_BRUSHES(VARN_THEME_PLACE) VARN_THEME_COMPOSED_BRUSHES(VARN_THEME_PLACE) Count
+};
+
+#undef VARN_THEME_PLACE
+
+#define VARN_THEME_VALUE(function, text, Value, Place)                                             \
+    inline Name<Value> function()                                                                  \
+    {                                                                                              \
+        return {int(Place::function), [] { return QString(QStringLiteral(text)); }};               \
+    }
+#define VARN_THEME_COLOR(function, text) VARN_THEME_VALUE(function, text, QColor, ColorPlace)
+#define VARN_THEME_BRUSH(function, text) VARN_THEME_VALUE(function, text, QBrush, BrushPlace)
+
+VARN_THEME_COLORS(VARN_THEME_COLOR)
+VARN_THEME_BRUSHES(VARN_THEME_BRUSH)
+VARN_THEME_COMPOSED_BRUSHES(VARN_THEME_BRUSH)
+
+#undef VARN_THEME_BRUSH
+#undef VARN_THEME_COLOR
+#undef VARN_THEME_VALUE
+
 #define VARN_THEME_NAME(function, text)                                                            \
     inline QString function()                                                                      \
     {                                                                                              \
         return QStringLiteral(text);                                                               \
     }
 
-VARN_THEME_COLORS(VARN_THEME_NAME)
-VARN_THEME_BRUSHES(VARN_THEME_NAME)
-VARN_THEME_COMPOSED_BRUSHES(VARN_THEME_NAME)
 VARN_THEME_OPACITIES(VARN_THEME_NAME)
 VARN_THEME_RADII(VARN_THEME_NAME)
 VARN_THEME_FONTS(VARN_THEME_NAME)

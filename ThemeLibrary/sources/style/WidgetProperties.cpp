@@ -5,6 +5,7 @@
 #include <QMetaProperty>
 
 #include <array>
+#include <utility>
 
 namespace BRELK::WidgetProperties {
 
@@ -22,16 +23,23 @@ struct Answer
 /// The number of the property among those that the class declares, or -1.
 int declaredIndex(const QMetaObject* meta, const char* property)
 {
-    // Two that meet in one place take turns in it. Names are compared by their address.
-    static std::array<Answer, 1024> sAnswers;
+    // Two share a place, and the newer stands first. Names are compared by their
+    // address.
+    static std::array<std::pair<Answer, Answer>, 1024> sAnswers;
 
     const auto mixed =
         quint32(quintptr(meta) >> 4) * 0x9e3779b1U + quint32(quintptr(property)) * 0x85ebca6bU;
-    Answer& answer = sAnswers.at(mixed >> 22);
-    // A class that is gone may have left its address to another.
-    if (answer.meta != meta || answer.property != property || answer.className != meta->className())
-        answer = {meta, meta->className(), property, meta->indexOfProperty(property)};
-    return answer.index;
+    const char* className = meta->className(); // one that is gone may have left its address
+    const auto fits = [&](const Answer& answer) {
+        return answer.meta == meta && answer.property == property && answer.className == className;
+    };
+    auto& [first, second] = sAnswers.at(mixed >> 22);
+    if (fits(first))
+        return first.index;
+    if (fits(second))
+        return second.index;
+    second = std::exchange(first, {meta, className, property, meta->indexOfProperty(property)});
+    return first.index;
 }
 
 } // namespace
