@@ -296,8 +296,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
     const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&button, context.widget);
     QBrush themed = brushes.foregroundBrush;
     if (isMeantForFilling(context, brushes.backgroundBrush))
-        themed = context.brush(ThemeNames::button() + ThemeNames::unchecked()
-                               + ThemeNames::foregroundPart());
+        themed = context.brush(ThemeNames::buttonUncheckedForegroundBrush());
     if (themed.style() == Qt::NoBrush)
         themed = context.color(ThemeNames::foregroundColor());
     const QBrush foreground =

@@ -78,6 +78,7 @@ class QColor;
 #define VARN_THEME_COMPOSED_BRUSHES(X)                                                             \
     X(buttonHighlightedUncheckedHoverForegroundBrush,                                              \
       "ButtonHighlightedUncheckedHoverForegroundBrush")                                            \
+    X(buttonUncheckedForegroundBrush, "ButtonUncheckedForegroundBrush")                            \
     X(buttonUncheckedHoverForegroundBrush, "ButtonUncheckedHoverForegroundBrush")                  \
     X(inputUncheckedBackgroundBrush, "InputUncheckedBackgroundBrush")
 
