@@ -5,7 +5,7 @@
 get_target_property(VARN_RCC Qt5::rcc IMPORTED_LOCATION)
 add_custom_target(varn_themes ALL)
 set(VARN_ICONS_DIR ${CMAKE_CURRENT_LIST_DIR}/../ThemeLibrary/resources/Icons)
-set(VARN_STANDARD_NAMES ${CMAKE_CURRENT_LIST_DIR}/../ThemeLibrary/resources/standard-names.txt)
+set(VARN_STANDARD_ICONS_DIR ${CMAKE_CURRENT_LIST_DIR}/../ThemeLibrary/resources/StandardIcons)
 
 function(varn_add_theme name)
     set(source ${CMAKE_CURRENT_SOURCE_DIR}/${name})
@@ -33,7 +33,7 @@ endfunction()
 
 # Writes the resource collection of the icon theme `name` to `file` and its icons' paths to `iconsVariable`.
 function(varn_write_icon_collection name file iconsVariable)
-    file(GLOB icons CONFIGURE_DEPENDS ${VARN_ICONS_DIR}/*.svg)
+    file(GLOB icons CONFIGURE_DEPENDS ${VARN_ICONS_DIR}/*.svg ${VARN_STANDARD_ICONS_DIR}/*.svg)
     set(index ${CMAKE_CURRENT_BINARY_DIR}/${name}.index.theme)
     file(CONFIGURE OUTPUT ${index} @ONLY CONTENT
 "[Icon Theme]
@@ -49,8 +49,9 @@ MaxSize=512
     set(bundled)
     set(entries "<file alias=\"index.theme\">${index}</file>\n")
     # Under the names of the freedesktop.org icon naming specification, Qt's dialogs and menus ask for icons themselves.
-    file(STRINGS ${VARN_STANDARD_NAMES} standardNames REGEX "^[a-z]")
-    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${VARN_STANDARD_NAMES})
+    set(names ${VARN_STANDARD_ICONS_DIR}/names.txt)
+    file(STRINGS ${names} standardNames REGEX "^[a-z]")
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${names})
     foreach(icon IN LISTS icons)
         get_filename_component(base ${icon} NAME)
         # Of two files of one name Qt shows the bundle's, so a theme's own icon goes into it.

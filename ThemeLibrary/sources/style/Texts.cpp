@@ -187,7 +187,8 @@ int width(const QPainter& painter, int flags, const QString& text)
 QString fitted(const QPainter& painter, const QString& text, Qt::TextElideMode mode, int width,
                int flags)
 {
-    if (isSimple(painter, flags, text) && lineOf(painter, flags, text).size.width() <= width)
+    // Whoever made the room may have rounded the width of the text down.
+    if (isSimple(painter, flags, text) && lineOf(painter, flags, text).size.width() < width + 1)
         return text;
     const QFontMetrics metrics = painter.fontMetrics();
     if (!text.contains(QLatin1Char('\n')))

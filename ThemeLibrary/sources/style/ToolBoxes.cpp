@@ -41,9 +41,15 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
 {
     const QRect& rect = tab.rect;
     const bool raised = BaseStyle::isHovered(&tab) || BaseStyle::isPressed(tab);
-    const QBrush fill = raised ? QBrush(context.color(ThemeNames::backgroundUpLevel2Color()))
-                               : context.brush(ThemeNames::backgroundUpLevel1Brush());
-    context.painter.fillRect(rect, fill);
+    context.painter.fillRect(rect, context.brush(ThemeNames::backgroundUpLevel1Brush()));
+    if (raised) {
+        constexpr qreal Hint = 0.35;
+        QColor step = context.color(ThemeNames::backgroundUpLevel2Color());
+        // A step as light as the words on it is only hinted at.
+        if (Shapes::isLight(step) == Shapes::isLight(tab.palette.color(QPalette::ButtonText)))
+            step.setAlphaF(Hint);
+        context.painter.fillRect(rect, step);
+    }
     Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), context.borderBrush());
     if (leavesLabelToSheet(context)) {
         paintTabLabel(context, tab);
