@@ -1,8 +1,6 @@
-#include "BaseStyle.h"
-#include "ProbeTheme.h"
+#include "StateSheet.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QCalendarWidget>
 #include <QComboBox>
 #include <QCommandLinkButton>
@@ -10,7 +8,6 @@
 #include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QStyleOption>
 #include <QTabBar>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -27,18 +24,13 @@ constexpr State Hovered = Enabled | QStyle::State_MouseOver;
 constexpr State Pressed = Enabled | QStyle::State_Sunken;
 constexpr State Checked = Enabled | QStyle::State_On;
 
-using Properties = QVariantMap;
-
-/// Properties that are true, or a word where one follows: "checkable Order=Primary".
-Properties with(const char* words)
+/// Sets properties to true, or to a word where one follows: "checkable Order=Primary".
+void setProperties(QObject& object, const QByteArray& words)
 {
-    Properties properties;
-    for (const QByteArray& word : QByteArray(words).simplified().split(' ')) {
+    for (const QByteArray& word : words.split(' ')) {
         const QList<QByteArray> pair = word.split('=');
-        const QVariant value = pair.size() == 2 ? QVariant(QString::fromLatin1(pair.last())) : true;
-        properties.insert(QLatin1String(pair.first()), value);
+        object.setProperty(pair.first(), pair.size() == 2 ? QVariant(pair.last()) : true);
     }
-    return properties;
 }
 
 /// The brushes of background, border and foreground by the beginnings of their names, or by one
@@ -96,98 +88,66 @@ class tst_ButtonBrushes : public QObject
 
 private Q_SLOTS:
 
-    void initTestCase()
-    {
-        ProbeTheme::publish();
-        QApplication::setStyle(new BaseStyle);
-    }
-
-    void namesAreComposedOfWhatTheWidgetIsAndHowItStands_data()
-    {
-        QTest::addColumn<Properties>("properties");
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("features");
-        QTest::addColumn<QByteArray>("brushes");
-        constexpr int Default = QStyleOptionButton::DefaultButton;
-        constexpr int Flat = QStyleOptionButton::Flat;
-        constexpr State Active = QStyle::State_Active;
-        const auto row = [](const char* properties, const char* title, State state,
-                            const char* brushes, int features = 0) {
-            QTest::newRow(
-                qPrintable(QLatin1String(properties) + QLatin1String(": ") + QLatin1String(title)))
-                << with(properties) << int(state) << features << QByteArray(brushes);
-        };
-        row("", "at rest", Enabled, "ButtonUnchecked");
-        row("", "pressed and hovered", Pressed | Hovered, "ButtonUncheckedPressed");
-        row("", "checked and hovered", Checked | Hovered, "ButtonCheckedHover");
-        row("", "hovered but disabled", QStyle::State_MouseOver, "ButtonUnchecked");
-
-        row("", "default", Enabled | Active, "ButtonDefault", Default);
-        row("", "default, checked", Checked | Pressed | Active, "ButtonDefaultPressed", Default);
-        row("", "default in an inactive window", Enabled, "ButtonUnchecked", Default);
-        row("", "default but disabled", Active, "ButtonUnchecked", Default);
-        row("blinking", "default, checked", Checked | Active, "ButtonUnchecked", Default);
-        row("blinking blink_checked", "pressed", Pressed, "ButtonCheckedPressed");
-
-        row("checkable", "at rest", Enabled, "ToggleButtonUnchecked");
-        row("checkable highlighted Status=Danger Order=Primary", "pressed", Checked | Pressed,
-            "ToggleButtonHighlightedCheckedPressed");
-        row("Status=Danger Order=Primary", "at rest", Enabled, "ButtonDangerUnchecked");
-        row("Order=Primary ButtonType=Info", "at rest", Enabled, "ButtonPrimaryUnchecked");
-        row("Status= ButtonType=Tarrin", "hovered", Hovered, "ButtonTarrinUncheckedHover");
-        row("ButtonType=Unheard", "at rest", Enabled, "none");
-
-        row("", "flat", Pressed,
-            "ButtonUncheckedPressed ButtonUncheckedPressedBackgroundBrush ButtonUncheckedPressed",
-            Flat);
-        row("highlighted", "flat, pressed", Pressed,
-            "ButtonHighlightedUncheckedPressed ButtonHighlightedUncheckedPressedBackgroundBrush "
-            "ButtonHighlightedUncheckedHover",
-            Flat);
-        row("ButtonType=Tarrin", "flat, pressed", Pressed,
-            "ButtonTarrinUncheckedPressed ButtonTarrinUncheckedPressedBackgroundBrush "
-            "ButtonHighlightedUncheckedHover",
-            Flat);
-        row("outline", "at rest", Enabled, "ButtonUnchecked ButtonUncheckedBackgroundBrush none");
-        row("outline", "pressed", Pressed,
-            "ButtonUncheckedPressed ButtonUncheckedPressedBackgroundBrush ButtonUncheckedPressed");
-        row("outline checkable Order=Primary", "checked and hovered", Checked | Hovered,
-            "ToggleButtonPrimaryCheckedHover ButtonPrimaryUncheckedHoverBackgroundBrush "
-            "ToggleButtonPrimaryCheckedHover");
-
-        row("workflow", "at rest", Enabled, "ButtonUnchecked");
-        row("workflow", "hovered", Hovered, "ButtonUncheckedHover MainBrush ButtonUncheckedHover");
-        row("workflow exclusive checkable", "at rest", Enabled,
-            "ToggleButtonUnchecked ToggleButtonUnchecked ButtonUncheckedBorderBrush");
-        row("workflow exclusive checkable", "hovered", Hovered,
-            "ToggleButtonUncheckedHover MainBrush MainBrush");
-        row("workflow exclusive checkable checked", "pressed", Checked | Pressed | Hovered,
-            "ToggleButtonCheckedPressed ForegroundBrush ForegroundBrush");
-    }
+    void initTestCase() { StateSheet::applyProbeTheme(); }
 
     void namesAreComposedOfWhatTheWidgetIsAndHowItStands()
     {
-        QFETCH(Properties, properties);
-        QFETCH(int, state);
-        QFETCH(int, features);
-        QFETCH(QByteArray, brushes);
+        const struct
+        {
+            const char* name;
+            State state;
+            QStyleOptionButton::ButtonFeatures features = QStyleOptionButton::None;
+        } states[] = {
+            {"at rest", Enabled},
+            {"hovered", Hovered},
+            {"pressed", Pressed | Hovered},
+            {"checked", Checked},
+            {"checked and hovered", Checked | Hovered},
+            {"disabled", QStyle::State_MouseOver | QStyle::State_Active},
+            {"default", Checked | QStyle::State_Active, QStyleOptionButton::DefaultButton},
+            {"default, pressed", Pressed | QStyle::State_Active, QStyleOptionButton::DefaultButton},
+            {"default in an inactive window", Enabled, QStyleOptionButton::DefaultButton},
+            {"flat", Enabled, QStyleOptionButton::Flat},
+            {"flat, pressed", Pressed, QStyleOptionButton::Flat},
+        };
 
-        QWidget group;
-        group.setProperty("ButtonGroupWidget_Workflow",
-                          properties.take(QStringLiteral("workflow")));
-        group.setProperty("ButtonGroupWidget_Exclusive",
-                          properties.take(QStringLiteral("exclusive")));
-        // A plain widget, since "checkable" is a property that buttons have of their own.
-        QWidget widget(&group);
-        for (auto entry = properties.cbegin(); entry != properties.cend(); ++entry)
-            widget.setProperty(entry.key().toLatin1().constData(), entry.value());
-        auto option = optionOf(State(state));
-        option.features = QStyleOptionButton::ButtonFeatures(features);
-        QCOMPARE(brushesOf(option, &widget), brushes);
-
-        widget.setEnabled(false);
-        if (!brushes.contains("none"))
-            QCOMPARE(brushesOf(option, &widget), brushes + " Disabled");
+        const std::pair<const char*, const char*> kinds[] = {
+            {"", ""},
+            {"blinking", ""},
+            {"blinking blink_checked", ""},
+            {"highlighted Status=Danger Order=Primary", ""},
+            {"Status=Danger Order=Primary", ""},
+            {"Order=Primary ButtonType=Info", ""},
+            {"Status= ButtonType=Tarrin", ""},
+            {"ButtonType=Unheard", ""},
+            {"checkable highlighted", ""},
+            {"outline", ""},
+            {"outline checkable Order=Primary", ""},
+            {"", "ButtonGroupWidget_Workflow"},
+            {"checkable", "ButtonGroupWidget_Workflow"},
+            {"checkable", "ButtonGroupWidget_Workflow ButtonGroupWidget_Exclusive"},
+            {"checkable checked", "ButtonGroupWidget_Workflow ButtonGroupWidget_Exclusive"},
+        };
+        QByteArray text;
+        for (const auto& [own, groups] : kinds) {
+            QWidget group;
+            setProperties(group, groups);
+            // A plain widget, since "checkable" is a property that buttons have of their own.
+            QWidget widget(&group);
+            setProperties(widget, own);
+            text += QByteArray("# ") + own + ' ' + groups + '\n';
+            for (const auto& [name, state, features] : states) {
+                auto option = optionOf(state);
+                option.features = features;
+                const QByteArray brushes = brushesOf(option, &widget);
+                text += QByteArray(name) + ": " + brushes + '\n';
+                widget.setEnabled(false);
+                if (!brushes.contains("none"))
+                    QCOMPARE(brushesOf(option, &widget), brushes + " Disabled");
+                widget.setEnabled(true);
+            }
+        }
+        COMPARE_TRANSCRIPT("ButtonBrushes.names", text);
     }
 
     void withoutWidgetTheOptionDecides()

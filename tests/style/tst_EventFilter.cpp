@@ -1,9 +1,7 @@
-#include "BaseStyle.h"
 #include "PaintCounter.h"
-#include "ProbeTheme.h"
+#include "StateSheet.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCommandLinkButton>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -31,16 +29,10 @@ public:
     }
 };
 
-QByteArray colorOf(const QAbstractButton& button)
-{
-    return ProbeTheme::nameOf(button.icon().pixmap(16, 16).toImage());
-}
-
-/// An icon in the color that stands for the theme's.
-QIcon icon()
+QIcon icon(const QColor& color = QColor(0xE5, 0xEE, 0xF4))
 {
     QPixmap pixmap(16, 16);
-    pixmap.fill(QColor(0xE5, 0xEE, 0xF4));
+    pixmap.fill(color);
     return pixmap;
 }
 
@@ -55,6 +47,20 @@ void sendAlt(QWidget& widget, QEvent::Type type)
 {
     QKeyEvent event(type, Qt::Key_Alt, Qt::NoModifier);
     QApplication::sendEvent(&widget, &event);
+}
+
+/// The color of the button's icon once it was painted.
+QByteArray painted(QAbstractButton& button)
+{
+    button.window()->show();
+    (void)QTest::qWaitForWindowExposed(button.window());
+    button.repaint();
+    return ProbeTheme::nameOf(button.icon().pixmap(16, 16).toImage());
+}
+
+qint64 originalOf(const QAbstractButton& button)
+{
+    return button.property("originalIcon").value<QIcon>().cacheKey();
 }
 
 /// A window with both kinds of widgets whose icons the style colors.
@@ -74,7 +80,7 @@ struct Window : QWidget
         setFocus();
     }
 
-    QToolButton* clearButton() const { return lineEdit->findChild<QToolButton*>(); }
+    QToolButton& clearButton() const { return *lineEdit->findChild<QToolButton*>(); }
 };
 
 } // namespace
@@ -84,165 +90,118 @@ class tst_EventFilter : public QObject
     Q_OBJECT
 
 private:
-    Style* m_style = nullptr;
-
-    /// Shows the widget and paints it.
-    static void paint(QWidget& widget)
-    {
-        widget.window()->show();
-        QVERIFY(QTest::qWaitForWindowExposed(widget.window()));
-        widget.repaint();
-    }
+    QPointer<Style> m_style;
 
 private Q_SLOTS:
 
     void initTestCase()
     {
-        ProbeTheme::publish();
+        StateSheet::applyProbeTheme();
         m_style = new Style;
         m_style->setPalette(ProbeTheme::palette());
         QApplication::setStyle(m_style);
-        QApplication::setPalette(ProbeTheme::palette());
     }
 
     void lineEditButtonsShowTheCloseIconInTheirColor()
     {
-        QLineEdit lineEdit(QStringLiteral("Text"));
-        lineEdit.addAction(icon(), QLineEdit::TrailingPosition);
-        auto* button = lineEdit.findChild<QToolButton*>();
-        QVERIFY(button);
-        const auto colorAfterPaint = [&] {
-            paint(*button);
-            return colorOf(*button);
-        };
-        QCOMPARE(colorAfterPaint(), "palette.WindowText");
-        QCOMPARE(button->icon().name(), QStringLiteral("action.close"));
-        point(*button, true);
-        QCOMPARE(colorAfterPaint(), "MainColor");
-        lineEdit.setEnabled(false);
-        QCOMPARE(colorAfterPaint(), "palette.Disabled.WindowText");
-        lineEdit.setEnabled(true);
-        point(*button, false);
-        QCOMPARE(colorAfterPaint(), "palette.WindowText");
+        const Window window;
+        QToolButton& button = window.clearButton();
+        QCOMPARE(painted(button), "palette.WindowText");
+        QCOMPARE(button.icon().name(), QStringLiteral("action.close"));
+        point(button, true);
+        QCOMPARE(painted(button), "MainColor");
+        window.lineEdit->setEnabled(false);
+        QCOMPARE(painted(button), "palette.Disabled.WindowText");
     }
 
     void lineEditsMayKeepTheirActionsIcons()
     {
-        QLineEdit lineEdit(QStringLiteral("Text"));
-        lineEdit.setProperty("customActionIcons", true);
-        lineEdit.addAction(icon(), QLineEdit::TrailingPosition);
-        auto* button = lineEdit.findChild<QToolButton*>();
-        paint(*button);
-        QCOMPARE(button->icon().name(), QString());
+        for (const bool kept : {false, true}) {
+            QLineEdit lineEdit;
+            lineEdit.setProperty("customActionIcons", kept);
+            lineEdit.addAction(icon(), QLineEdit::TrailingPosition);
+            auto* button = lineEdit.findChild<QToolButton*>();
+            painted(*button);
+            QCOMPARE(button->icon().name().isEmpty(), kept);
+        }
     }
 
     void commandLinksAreRecoloredFromTheirOriginalIcon()
     {
         QCommandLinkButton button(QStringLiteral("Link"));
         button.setCheckable(true);
-        const QIcon original = icon();
-        button.setIcon(original);
-        const auto colorAfterPaint = [&] {
-            paint(button);
-            return colorOf(button);
-        };
-        QCOMPARE(colorAfterPaint(), "palette.ButtonText");
-        QCOMPARE(button.property("originalIcon").value<QIcon>().cacheKey(), original.cacheKey());
-
+        button.setIcon(icon());
+        const qint64 original = button.icon().cacheKey();
+        QCOMPARE(painted(button), "palette.ButtonText");
         point(button, true);
-        QCOMPARE(colorAfterPaint(), "ButtonUncheckedHoverForegroundBrush");
+        QCOMPARE(painted(button), "ButtonUncheckedHoverForegroundBrush");
         button.setDown(true);
-        QCOMPARE(colorAfterPaint(), "palette.ButtonText");
+        QCOMPARE(painted(button), "palette.ButtonText");
         button.setDown(false);
         button.setChecked(true);
-        QCOMPARE(colorAfterPaint(), "palette.ButtonText");
+        QCOMPARE(painted(button), "palette.ButtonText");
         button.setChecked(false);
         button.setEnabled(false);
-        QCOMPARE(colorAfterPaint(), "palette.Disabled.ButtonText");
-        button.setEnabled(true);
-        QCOMPARE(colorAfterPaint(), "ButtonUncheckedHoverForegroundBrush");
-        QCOMPARE(button.property("originalIcon").value<QIcon>().cacheKey(), original.cacheKey());
-    }
+        QCOMPARE(painted(button), "palette.Disabled.ButtonText");
+        QCOMPARE(originalOf(button), original);
 
-    void anIconSetLaterIsANewOriginal()
-    {
-        QCommandLinkButton button(QStringLiteral("Link"));
-        button.setIcon(icon());
-        paint(button);
-        QPixmap pixmap(16, 16);
-        pixmap.fill(Qt::red);
-        const QIcon later(pixmap);
+        const QIcon later = icon(Qt::red);
         button.setIcon(later);
-        paint(button);
-        QCOMPARE(button.property("originalIcon").value<QIcon>().cacheKey(), later.cacheKey());
-        QCOMPARE(colorOf(button), "#ff0000");
-    }
-
-    void aWindowThatNobodyTouchesIsNotRepainted_data()
-    {
-        QTest::addColumn<bool>("pointedAt");
-        QTest::addColumn<bool>("iconsFound");
-        QTest::newRow("under the mouse") << true << true;
-        QTest::newRow("without icons") << false << false;
+        QCOMPARE(painted(button), "#ff0000");
+        QCOMPARE(originalOf(button), later.cacheKey());
     }
 
     void aWindowThatNobodyTouchesIsNotRepainted()
     {
-        QFETCH(bool, pointedAt);
-        QFETCH(bool, iconsFound);
-        if (!iconsFound)
-            QIcon::setFallbackSearchPaths({});
-        Window window;
-        window.show();
-        if (pointedAt) {
-            point(*window.clearButton(), true);
-            point(*window.link, true);
+        for (const bool iconsFound : {true, false}) {
+            if (!iconsFound)
+                QIcon::setFallbackSearchPaths({});
+            const Window window;
+            point(window.clearButton(), iconsFound);
+            point(*window.link, iconsFound);
+            PaintCounter paints;
+            painted(*window.link);
+            painted(window.clearButton());
+            QVERIFY(paints.paintsOf(window.link) > 0);
+            QVERIFY(paints.paintsOf(&window.clearButton()) > 0);
+            paints.settle();
+            QTest::qWait(200);
+            QCOMPARE(paints.all(), 0);
         }
-
-        PaintCounter paints;
-        QTest::qWait(100);
-        QVERIFY(paints.paintsOf(window.link) > 0);
-        QVERIFY(paints.paintsOf(window.clearButton()) > 0);
-        paints.settle();
-        QTest::qWait(300);
-        QCOMPARE(paints.all(), 0);
-        if (!iconsFound)
-            QIcon::setFallbackSearchPaths({QStringLiteral(":/Icons")});
+        QIcon::setFallbackSearchPaths({QStringLiteral(":/Icons")});
     }
 
     void altUnderlinesMnemonics()
     {
         QWidget window;
         auto* layout = new QVBoxLayout(&window);
-        auto* link = new QCommandLinkButton(QStringLiteral("Link"));
-        layout->addWidget(link);
-        QVector<QWidget*> others;
+        QVector<QWidget*> widgets{new QCommandLinkButton};
         for (int i = 0; i < 3; ++i) {
-            others.append(new QWidget);
-            others.last()->setMinimumSize(10, 10);
-            layout->addWidget(others.last());
+            widgets.append(new QWidget);
+            widgets.last()->setMinimumSize(10, 10);
         }
+        for (QWidget* widget : qAsConst(widgets))
+            layout->addWidget(widget);
         window.show();
         PaintCounter paints;
         const auto paintedAfterAlt = [&] {
             paints.settle();
-            sendAlt(*link, QEvent::KeyPress);
+            sendAlt(*widgets.first(), QEvent::KeyPress);
             QTest::qWait(50);
-            QByteArray painted;
-            for (QWidget* widget : QVector<QWidget*>{link} + others)
-                painted += paints.paintsOf(widget) ? 'x' : '-';
-            return painted;
+            QByteArray text;
+            for (const QWidget* widget : qAsConst(widgets))
+                text += paints.paintsOf(widget) ? 'x' : '-';
+            return text;
         };
-
         m_style->underlineShortcut = 0;
         QCOMPARE(paintedAfterAlt(), "xxxx");
         // Each widget that is left out keeps the next one from being looked at.
         m_style->underlineShortcut = 1;
         QCOMPARE(paintedAfterAlt(), "-x-x");
         m_style->underlineShortcut = 0;
-        others.at(0)->hide();
+        widgets.at(1)->hide();
         QCOMPARE(paintedAfterAlt(), "x-xx");
-        sendAlt(*link, QEvent::KeyRelease);
+        sendAlt(*widgets.first(), QEvent::KeyRelease);
     }
 
     void altIsRememberedUntilTheWindowCloses()
@@ -252,20 +211,16 @@ private Q_SLOTS:
         menuBar->addAction(QStringLiteral("&File"));
         window.layout()->setMenuBar(menuBar);
         window.show();
-        sendAlt(window, QEvent::KeyPress);
-        QVERIFY(!m_style->altDown());
         sendAlt(*window.link, QEvent::KeyPress);
-        QVERIFY(m_style->altDown());
-        QVERIFY(m_style->hasSeenAlt(menuBar));
+        QVERIFY(m_style->altDown() && m_style->hasSeenAlt(menuBar));
 
         PaintCounter paints;
         paints.settle();
         sendAlt(*window.link, QEvent::KeyRelease);
         QTest::qWait(50);
-        QVERIFY(!m_style->altDown());
+        QVERIFY(!m_style->altDown() && m_style->hasSeenAlt(window.link));
         QVERIFY(paints.paintsOf(menuBar) > 0);
         QCOMPARE(paints.paintsOf(window.link), 0);
-        QVERIFY(m_style->hasSeenAlt(window.link));
 
         QCloseEvent close;
         QApplication::sendEvent(window.link, &close);
@@ -280,7 +235,6 @@ private Q_SLOTS:
         link.ensurePolished();
         sendAlt(link, QEvent::KeyPress);
         sendAlt(link, QEvent::KeyRelease);
-        QVERIFY(m_style->hasSeenAlt(first));
         link.setParent(nullptr);
         first->~QWidget();
         auto* second = new (place) QWidget;
@@ -291,14 +245,13 @@ private Q_SLOTS:
     /// The last test: it takes the style away.
     void widgetsOutliveTheStyle()
     {
-        Window window;
-        paint(window);
-        const QPointer<Style> style(m_style);
+        const Window window;
+        painted(window.clearButton());
         QApplication::setStyle(QStringLiteral("fusion"));
-        QVERIFY(!style);
-        paint(window);
+        QVERIFY(!m_style);
+        painted(*window.link);
         sendAlt(*window.link, QEvent::KeyPress);
-        QTest::mouseClick(window.clearButton(), Qt::LeftButton);
+        QTest::mouseClick(&window.clearButton(), Qt::LeftButton);
         QCOMPARE(window.lineEdit->text(), QString());
         // Qt fades the button out, and leaks what does so if it is not let finish.
         QTest::qWait(300);

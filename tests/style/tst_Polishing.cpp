@@ -1,26 +1,36 @@
-#include "BaseStyle.h"
-#include "ProbeTheme.h"
+#include "StateSheet.h"
 
-#include <QApplication>
-#include <QGroupBox>
-#include <QLabel>
-#include <QListView>
-#include <QMainWindow>
-#include <QTableView>
-#include <QTreeView>
 #include <QtTest>
+#include <QtWidgets>
 
-using namespace BRELK;
-
-// Stands in for a widget of another library, which the style knows by its name.
+// Stand in for widgets of other libraries, which the style knows by their names.
 namespace BRELK::Components {
+
+class ButtonGroupWidget : public QWidget
+{
+    Q_OBJECT
+};
 
 class CardWidget : public QWidget
 {
     Q_OBJECT
 };
 
+class RangeSlider : public QWidget
+{
+    Q_OBJECT
+};
+
 } // namespace BRELK::Components
+
+namespace BRELK::PeriodicTable {
+
+class PeriodicTableView : public QWidget
+{
+    Q_OBJECT
+};
+
+} // namespace BRELK::PeriodicTable
 
 /// A card: `QWidget` has a property "minimized" of its own that cannot be set.
 class Card : public QWidget
@@ -34,9 +44,74 @@ public:
 
 namespace {
 
-QByteArray nameIn(const QWidget& widget, QPalette::ColorGroup group, QPalette::ColorRole role)
+QByteArray toText(const QVariant& value)
 {
-    return ProbeTheme::nameOf(widget.palette().brush(group, role));
+    switch (value.userType()) {
+    case QMetaType::QBrush: return ProbeTheme::nameOf(value.value<QBrush>());
+    case QMetaType::QColor: return ProbeTheme::nameOf(value.value<QColor>());
+    case QMetaType::QFont: return ProbeTheme::nameOf(value.value<QFont>());
+    default: break;
+    }
+    QByteArray text = value.toByteArray();
+    for (const QColor& color : value.value<QList<QColor>>())
+        text += ProbeTheme::nameOf(color) + ' ';
+    return text.trimmed();
+}
+
+/// All that polishing may change, in lines.
+QByteArrayList describe(const QWidget& widget)
+{
+    QByteArrayList lines{"font " + ProbeTheme::nameOf(widget.font()),
+                         "flags " + QByteArray::number(int(widget.windowFlags()), 16),
+                         "height " + QByteArray::number(widget.minimumHeight())};
+    for (const QByteArray& name : widget.dynamicPropertyNames())
+        lines += name + ": " + toText(widget.property(name));
+    if (widget.hasMouseTracking())
+        lines += "tracks the mouse";
+    if (widget.testAttribute(Qt::WA_Hover))
+        lines += "tracks hovering";
+    if (widget.testAttribute(Qt::WA_StyledBackground))
+        lines += "paints its background";
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        for (int role = 0; role < QPalette::NColorRoles; ++role)
+            if (role != QPalette::NoRole)
+                lines += QByteArray(roles.valueToKey(role)) + ' ' + QByteArray::number(group) + ": "
+                         + toText(widget.palette().brush(group, QPalette::ColorRole(role)));
+    if (const auto* area = qobject_cast<const QScrollArea*>(&widget))
+        lines += QByteArray("viewport ") + roles.valueToKey(area->viewport()->backgroundRole());
+    if (const auto* bar = qobject_cast<const QProgressBar*>(&widget))
+        lines += "text direction " + QByteArray::number(bar->textDirection());
+    if (widget.layout())
+        lines += "spacing " + QByteArray::number(widget.layout()->spacing());
+    return lines;
+}
+
+/// What polishing does to a widget with these properties in a parent, and what unpolishing takes
+/// back of it.
+QByteArray polished(QWidget&& widget, const QVariantMap& properties = {})
+{
+    QByteArray text = QByteArray("# ") + widget.metaObject()->className();
+    for (auto entry = properties.cbegin(); entry != properties.cend(); ++entry) {
+        widget.setProperty(entry.key().toLatin1(), entry.value());
+        text += ' ' + entry.key().toLatin1();
+    }
+    widget.setAttribute(Qt::WA_Hover, false);
+    const QByteArrayList before = describe(widget);
+    widget.ensurePolished();
+    QApplication::style()->polish(&widget); // twice, as applying a theme does
+    const QByteArrayList after = describe(widget);
+    QApplication::style()->unpolish(&widget);
+    const QByteArrayList taken = describe(widget);
+    for (const QByteArray& line : after)
+        if (!before.contains(line))
+            text += '\n' + line + (taken.contains(line) ? "" : " (until unpolished)");
+    return text + '\n';
+}
+
+QByteArray polished(QWidget&& widget, const char* property)
+{
+    return polished(std::move(widget), {{QLatin1String(property), true}});
 }
 
 } // namespace
@@ -45,59 +120,42 @@ class tst_Polishing : public QObject
 {
     Q_OBJECT
 
-private:
-    /// Twice, as applying a theme does.
-    template <class Widget>
-    static void polish(Widget& widget)
-    {
-        widget.ensurePolished();
-        QApplication::style()->polish(&widget);
-    }
-
 private Q_SLOTS:
 
-    void initTestCase()
-    {
-        ProbeTheme::publish();
-        QApplication::setStyle(new BaseStyle);
-    }
+    void initTestCase() { StateSheet::applyProbeTheme(); }
 
-    void itemViewsAreDrawnByKind()
+    void everyRule()
     {
-        const auto properties = [](QAbstractItemView&& view, bool custom = false) -> QByteArray {
-            view.setProperty("customItemDelegate", custom);
-            polish(view);
-            QByteArrayList names;
-            for (const char* name : {"highlightItemsOnMouseHover", "drawItemsSeparators",
-                                     "drawChildIndicatorInListView", "hideFocusRect"})
-                if (view.property(name).toBool())
-                    names.append(name);
-            return names.join(' ') + (view.hasMouseTracking() ? " tracking" : "");
-        };
-        QCOMPARE(properties(QListView()),
-                 "highlightItemsOnMouseHover drawItemsSeparators drawChildIndicatorInListView "
-                 "hideFocusRect tracking");
-        QCOMPARE(properties(QTreeView()), "drawItemsSeparators hideFocusRect");
-        QCOMPARE(properties(QTableView()), "highlightItemsOnMouseHover hideFocusRect tracking");
-        QCOMPARE(properties(QListView(), true), "");
-    }
+        using namespace BRELK;
+        QByteArray sheet =
+            polished(QWidget()) + polished(QProgressBar()) + polished(QListView())
+            + polished(QTreeView()) + polished(QTableView())
+            + polished(QListView(), "customItemDelegate")
+            + polished(QTreeView(), "customItemViewPalette") + polished(QLabel())
+            + polished(QTabBar()) + polished(QTabWidget()) + polished(QGroupBox())
+            + polished(QStatusBar()) + polished(QScrollArea()) + polished(QMainWindow())
+            + polished(QDockWidget()) + polished(QToolBox())
+            + polished(QWidget(nullptr, Qt::Popup | Qt::NoDropShadowWindowHint))
+            + polished(Components::CardWidget()) + polished(Components::ButtonGroupWidget())
+            + polished(Components::RangeSlider()) + polished(PeriodicTable::PeriodicTableView());
+        for (const char* property :
+             {"CardWidgetBase_Header", "CardWidgetBase_Contents", "CardWidgetBase_Footer",
+              "CardWidgetBase_Title", "CardWidgetBase_Subtitle", "ButtonGroupWidget_Container",
+              "ColorButtonWidget_Container", "Pill_Font"})
+            sheet += polished(QWidget(), property);
+        for (const QPixmap& pixmap : {QPixmap(), QPixmap(4, 4)})
+            sheet += polished(QWidget(), {{QStringLiteral("roundedPixmap"), pixmap}});
 
-    void itemViewsHaveTheThemesBase()
-    {
-        QTreeView view;
-        const QBrush text = view.palette().brush(QPalette::Text);
-        polish(view);
-        QCOMPARE(nameIn(view, QPalette::Active, QPalette::Base), "ItemViewBackgroundBrush");
-        QCOMPARE(nameIn(view, QPalette::Inactive, QPalette::Base), "ItemViewBackgroundBrush");
-        QCOMPARE(nameIn(view, QPalette::Disabled, QPalette::Base),
-                 "ItemViewBackgroundBrushDisabled");
-        QCOMPARE(view.palette().brush(QPalette::Text), text);
-
-        QTreeView custom;
-        custom.setProperty("customItemViewPalette", true);
-        const QPalette before = custom.palette();
-        polish(custom);
-        QCOMPARE(custom.palette(), before);
+        QMainWindow window;
+        QMainWindow inner(&window);
+        inner.setWindowFlags(Qt::Widget);
+        sheet += polished(std::move(inner));
+        Card card;
+        for (const bool minimized : {false, true}) {
+            card.minimized = minimized;
+            sheet += polished(QLabel(&card), "CardWidgetBase_Title");
+        }
+        COMPARE_TRANSCRIPT("Polishing.rules", sheet);
     }
 
     void tabFontFollowsApplicationThenWidget()
@@ -108,12 +166,11 @@ private Q_SLOTS:
             QTabBar bar;
             for (const QByteArray& property : own)
                 bar.setProperty(property, true);
-            polish(bar);
+            bar.ensurePolished();
             for (const QByteArray& property : application)
                 qApp->setProperty(property, QVariant());
             return ProbeTheme::nameOf(bar.font());
         };
-        QCOMPARE(font({}, {}), "medium");
         QCOMPARE(font({"appBaseTabSize", "appLargeTabSize"}, {}), "base");
         QCOMPARE(font({"appLargeTabSize"}, {"smallTabSize", "baseTabSize"}), "small");
         QCOMPARE(font({}, {"smallTabSize", "largeTabSize"}), "large");
@@ -121,97 +178,16 @@ private Q_SLOTS:
         QCOMPARE(font({"appMediumTabSize", "appSmallTabSize"}, {"mediumTabSize"}), "small");
     }
 
-    void onlyMainWindowsThatAreWindowsPaintTheirBackground()
+    void shadowsAreCastWithoutHidingTheWindow()
     {
-        QMainWindow window;
-        QMainWindow inner(&window);
-        inner.setWindowFlags(Qt::Widget);
-        for (QMainWindow* each : {&window, &inner}) {
-            each->setAttribute(Qt::WA_StyledBackground, false);
-            polish(*each);
-        }
-        QVERIFY(window.testAttribute(Qt::WA_StyledBackground));
-        QVERIFY(!inner.testAttribute(Qt::WA_StyledBackground));
-    }
-
-    void hoverIsTrackedUntilUnpolished()
-    {
-        QTabBar bar;
-        QGroupBox group;
-        for (QWidget* widget : {static_cast<QWidget*>(&bar), static_cast<QWidget*>(&group)}) {
-            widget->setAttribute(Qt::WA_Hover, false);
-            polish(*widget);
-            QVERIFY(widget->testAttribute(Qt::WA_Hover));
-            QApplication::style()->unpolish(widget);
-            QVERIFY(!widget->testAttribute(Qt::WA_Hover));
-        }
-    }
-
-    void cardTitlesShrinkWithTheirCard()
-    {
-        Card card;
-        QLabel title(&card);
-        title.setProperty("CardWidgetBase_Title", true);
-        polish(title);
-        QCOMPARE(ProbeTheme::nameOf(title.font()), "medium");
-        card.setProperty("minimized", true);
-        polish(title);
-        QCOMPARE(ProbeTheme::nameOf(title.font()), "base");
-        const auto fontIn = [&](const char* property) {
-            return ProbeTheme::nameOf(title.property(property).value<QFont>());
-        };
-        QCOMPARE(fontIn("CardWidgetBase_Title_MinimizedFont"), "base");
-        QCOMPARE(fontIn("CardWidgetBase_Title_DefaultFont"), "medium");
-
-        QLabel alone;
-        const QFont before = alone.font();
-        alone.setProperty("CardWidgetBase_Title", true);
-        polish(alone);
-        QCOMPARE(alone.font(), before);
-    }
-
-    void companionWidgetsAreHandedTheThemesValues()
-    {
-        const auto brush = [](const QWidget& widget, const char* property) {
-            return ProbeTheme::nameOf(widget.property(property).value<QBrush>());
-        };
-        Components::CardWidget card;
-        polish(card);
-        QCOMPARE(brush(card, "BackgroundBrush"), "ForegroundMouseOverBrush");
-        QCOMPARE(brush(card, "BackgroundBrushDisabled"), "ForegroundMouseOverBrushDisabled");
-
-        QWidget picture;
-        picture.setProperty("roundedPixmap", QPixmap());
-        polish(picture);
-        QVERIFY(!picture.property("CornerRadius").isValid());
-        picture.setProperty("roundedPixmap", QPixmap(4, 4));
-        polish(picture);
-        QCOMPARE(picture.property("CornerRadius").toInt(), ProbeTheme::MediumRadius);
-        QCOMPARE(brush(picture, "BorderBrush"), "BackgroundSubLevel1Brush");
-    }
-
-    void windowsCastTheirShadow()
-    {
-        QWidget window(nullptr, Qt::Popup | Qt::FramelessWindowHint | Qt::NoDropShadowWindowHint);
+        QWidget window(nullptr, Qt::Popup | Qt::NoDropShadowWindowHint);
         window.show();
-        polish(window);
-        QVERIFY(!(window.windowFlags() & Qt::NoDropShadowWindowHint));
-        QVERIFY(window.windowFlags() & Qt::FramelessWindowHint);
         QVERIFY(window.isVisible());
+        QVERIFY(!(window.windowFlags() & Qt::NoDropShadowWindowHint));
     }
 
-    void plainWidgetsAreLeftAlone()
+    void nullWidgetsAreNone()
     {
-        QWidget widget;
-        widget.resize(10, 10);
-        const QPalette palette = widget.palette();
-        const QFont font = widget.font();
-        const Qt::WindowFlags flags = widget.windowFlags();
-        polish(widget);
-        QCOMPARE(widget.dynamicPropertyNames(), QByteArrayList());
-        QCOMPARE(widget.palette(), palette);
-        QCOMPARE(widget.font(), font);
-        QCOMPARE(widget.windowFlags(), flags);
         QApplication::style()->polish(static_cast<QWidget*>(nullptr));
         QApplication::style()->unpolish(static_cast<QWidget*>(nullptr));
     }

@@ -1,7 +1,6 @@
 #include "BaseStyle.h"
 #include "ProbeTheme.h"
 #include "SpyStyle.h"
-#include "StyleOptions.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -24,13 +23,14 @@ public:
 
 protected:
     /// The spy notes a call just before it passes it on.
-    void note(const QByteArray& element, const QStyleOption*, const QWidget*) const override
+    bool note(const QByteArray& element, const QStyleOption*, const QWidget*) const override
     {
         const bool isPassedOn = spy->callsSoFar != m_passedOn && !spy->calls.isEmpty()
                                 && spy->calls.last().element == element;
         m_passedOn = spy->callsSoFar;
         if (!isPassedOn)
             bypassed.append(element);
+        return true;
     }
 
 private:
@@ -68,9 +68,9 @@ private Q_SLOTS:
         QPainter painter(&image);
         for (const Element& element : StyleOptions::elements())
             for (const QStyle::State state : {QStyle::State(), QStyle::State(~0)}) {
-                const Sample sample = element.sample();
+                const Sample sample = StyleOptions::sampleNamed(element.name);
                 sample.option->state |= state;
-                m_spy->take();
+                m_spy->calls.clear();
                 m_style->bypassed.clear();
                 element.use(*m_spy, sample, &painter);
                 for (const QByteArray& piece : qAsConst(m_style->bypassed))

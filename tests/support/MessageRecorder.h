@@ -2,17 +2,33 @@
 
 #include <QStringList>
 
+#include <utility>
+
 /// Collects what is written to Qt's loggers while it lives, instead of printing it. One at a time.
 class MessageRecorder
 {
 public:
-    MessageRecorder();
-    ~MessageRecorder();
+    MessageRecorder()
+    {
+        s_recorded.clear();
+        s_previousHandler = qInstallMessageHandler(record);
+    }
+
+    ~MessageRecorder() { qInstallMessageHandler(s_previousHandler); }
+
     Q_DISABLE_COPY(MessageRecorder)
 
-    /// All messages so far, in order.
-    QStringList messages() const;
+    /// The messages since it was asked last, in order.
+    QStringList take() const { return std::exchange(s_recorded, {}); }
 
-    /// The messages so far, which are forgotten then.
-    QStringList take();
+private:
+    static void record(QtMsgType type, const QMessageLogContext& context, const QString& message)
+    {
+        s_recorded.append(message);
+        if (type == QtFatalMsg)
+            s_previousHandler(type, context, message);
+    }
+
+    inline static QStringList s_recorded;
+    inline static QtMessageHandler s_previousHandler = nullptr;
 };

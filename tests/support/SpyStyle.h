@@ -17,22 +17,22 @@ public:
     void drawPrimitive(QStyle::PrimitiveElement element, const QStyleOption* option,
                        QPainter* painter, const QWidget* widget) const override
     {
-        note(StyleOptions::nameOf(element), option, widget);
-        Base::drawPrimitive(element, option, painter, widget);
+        if (note(StyleOptions::nameOf(element), option, widget))
+            Base::drawPrimitive(element, option, painter, widget);
     }
 
     void drawControl(QStyle::ControlElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override
     {
-        note(StyleOptions::nameOf(element), option, widget);
-        Base::drawControl(element, option, painter, widget);
+        if (note(StyleOptions::nameOf(element), option, widget))
+            Base::drawControl(element, option, painter, widget);
     }
 
     void drawComplexControl(QStyle::ComplexControl control, const QStyleOptionComplex* option,
                             QPainter* painter, const QWidget* widget) const override
     {
-        note(StyleOptions::nameOf(control), option, widget);
-        Base::drawComplexControl(control, option, painter, widget);
+        if (note(StyleOptions::nameOf(control), option, widget))
+            Base::drawComplexControl(control, option, painter, widget);
     }
 
     QRect subElementRect(QStyle::SubElement element, const QStyleOption* option,
@@ -57,7 +57,8 @@ public:
     }
 
 protected:
-    virtual void note(const QByteArray& element, const QStyleOption* option,
+    /// Whether the base is to paint, if it is to be painted.
+    virtual bool note(const QByteArray& element, const QStyleOption* option,
                       const QWidget* widget) const = 0;
 };
 
@@ -77,51 +78,30 @@ public:
     };
 
     mutable QVector<Call> calls;
-    mutable int callsSoFar = 0; ///< also those that were taken
-
-    /// What was asked for since the last time, each once.
-    QByteArrayList take() const
-    {
-        QByteArrayList elements;
-        for (const Call& call : qAsConst(calls))
-            if (!elements.contains(call.element))
-                elements.append(call.element);
-        calls.clear();
-        return elements;
-    }
+    mutable int callsSoFar = 0; ///< also those that were forgotten
 
 protected:
-    void note(const QByteArray& element, const QStyleOption* option,
+    bool note(const QByteArray& element, const QStyleOption* option,
               const QWidget* widget) const override
     {
         ++callsSoFar;
         calls.append({element, option ? option->rect : QRect(), widget});
+        return true;
     }
 };
 
-/// A base style that paints nothing and writes down what is left to it to paint.
-class RecordingBase : public QProxyStyle
+/// A base style that paints nothing and writes down what is left to it.
+class RecordingBase : public NotingStyle<QProxyStyle>
 {
 public:
-    RecordingBase() : QProxyStyle(QStringLiteral("fusion")) { }
+    RecordingBase() : NotingStyle(QStringLiteral("fusion")) { }
 
-    mutable QByteArrayList painted;
+    mutable QByteArrayList asked;
 
-    void drawPrimitive(PrimitiveElement element, const QStyleOption*, QPainter*,
-                       const QWidget*) const override
+protected:
+    bool note(const QByteArray& element, const QStyleOption*, const QWidget*) const override
     {
-        painted.append(StyleOptions::nameOf(element));
-    }
-
-    void drawControl(ControlElement element, const QStyleOption*, QPainter*,
-                     const QWidget*) const override
-    {
-        painted.append(StyleOptions::nameOf(element));
-    }
-
-    void drawComplexControl(ComplexControl control, const QStyleOptionComplex*, QPainter*,
-                            const QWidget*) const override
-    {
-        painted.append(StyleOptions::nameOf(control));
+        asked.append(element);
+        return false;
     }
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QMetaEnum>
 #include <QStyle>
 #include <QVector>
 #include <QWidget>
@@ -21,44 +22,20 @@ struct Sample
     std::shared_ptr<QStyleOption> option;
 };
 
-Sample sampleFor(QStyle::PrimitiveElement element);
-Sample sampleFor(QStyle::ControlElement element);
-Sample sampleFor(QStyle::ComplexControl control);
-Sample sampleFor(QStyle::SubElement element);
-Sample sampleFor(QStyle::ContentsType type);
+/// Lets a test read a widget's protected way to fill its option.
+template <class Widget>
+struct Open : Widget
+{
+    using Widget::initStyleOption;
+    using Widget::Widget;
+};
+
+/// By the name of an element, as "CE_PushButton".
+Sample sampleNamed(const QByteArray& element);
 
 /// Every value of one of QStyle's enums, without its aliases and without the custom base.
 template <class Enum>
-QVector<Enum> all();
-
-/// The name of a value of one of QStyle's enums; "custom" if it is none of them.
-template <class Enum>
-const char* nameOf(Enum value);
-
-/// "CC_SpinBox 1": a part by its value, as parts of different controls share their values.
-QByteArray nameOf(QStyle::ComplexControl control, QStyle::SubControl part);
-
-/// The sub-controls that `control` has a rectangle for; a dial has none.
-QVector<QStyle::SubControl> subControlsOf(QStyle::ComplexControl control);
-
-/// A primitive, control, complex control, sub-element or kind of contents.
-struct Element
-{
-    QByteArray name;
-    std::function<Sample()> sample;
-    /// Paints it or measures it, with all its parts.
-    std::function<void(const QStyle& style, const Sample& sample, QPainter* painter)> use;
-};
-
-/// Everything that is painted or measured with an option.
-const QVector<Element>& elements();
-
-} // namespace StyleOptions
-
-#include <QMetaEnum>
-
-template <class Enum>
-QVector<Enum> StyleOptions::all()
+QVector<Enum> all()
 {
     constexpr unsigned CustomBase = 0x0f000000; // of primitives; those of others are above it
     const auto meta = QMetaEnum::fromType<Enum>();
@@ -71,9 +48,26 @@ QVector<Enum> StyleOptions::all()
     return values;
 }
 
+/// The name of a value of one of QStyle's enums; "custom" if it is none of them.
 template <class Enum>
-const char* StyleOptions::nameOf(Enum value)
+const char* nameOf(Enum value)
 {
     const char* name = QMetaEnum::fromType<Enum>().valueToKey(int(value));
     return name ? name : "custom";
 }
+
+/// "CC_SpinBox 1": a part by its value, as parts of different controls share their values.
+QByteArray nameOf(QStyle::ComplexControl control, QStyle::SubControl part);
+
+/// A primitive, control, complex control, sub-element or kind of contents.
+struct Element
+{
+    QByteArray name;
+    /// Paints it or measures it, with all its parts, and tells what it measured.
+    std::function<QByteArray(const QStyle& style, const Sample& sample, QPainter* painter)> use;
+};
+
+/// Everything that is painted or measured with an option.
+const QVector<Element>& elements();
+
+} // namespace StyleOptions

@@ -1,120 +1,134 @@
 #include "Transcript.h"
 
-#include "PathShapes.h"
 #include "ProbeTheme.h"
 
-#include <QApplication>
 #include <QFile>
-#include <QImage>
+#include <QPaintDevice>
 #include <QPaintEngine>
-#include <QPixmap>
+#include <QPainterPath>
 #include <QScreen>
-#include <QStyleOption>
-#include <QtTest>
+#include <QSet>
+
+#include <cmath>
 
 namespace {
 
-const char* nameOf(Shape::Kind kind)
+using ::toText;
+
+constexpr qreal Tolerance = 0.01;
+
+QByteArray toText(qreal number)
 {
-    constexpr const char* Names[] = {"rect",     "rounded", "ellipse", "path",   "line",
-                                     "polyline", "polygon", "point",   "pixmap", "text"};
-    return Names[kind];
+    const qreal rounded = std::round(number * 100) / 100;
+    return QByteArray::number(rounded == 0 ? 0 : rounded);
 }
 
-QByteArray geometryText(const Shape& shape)
+QByteArray toText(const QPointF& point)
 {
-    switch (shape.kind) {
-    case Shape::Text: return '"' + shape.text.toUtf8() + '"' + ' ' + shape.font;
-    case Shape::Line: return toText(shape.rect.topLeft()) + ' ' + toText(shape.rect.bottomRight());
-    case Shape::Path:
-    case Shape::Polyline:
-    case Shape::Polygon: return shape.points;
-    case Shape::Point: return toText(shape.rect.topLeft());
-    default: return toText(shape.rect);
-    }
+    return toText(point.x()) + ',' + toText(point.y());
 }
 
-QByteArray cornersText(const Shape& shape)
+QByteArray toText(const QTransform& transform)
 {
-    QByteArray text = " r" + (shape.radius < 0 ? "?" : toText(shape.radius));
-    constexpr const char* Names[] = {"top-left", "top-right", "bottom-right", "bottom-left"};
-    QByteArrayList square;
-    for (int corner = 0; corner < 4; ++corner)
-        if (shape.squareCorners & 1 << corner)
-            square.append(Names[corner]);
-    return square.isEmpty() ? text : QByteArray(text + " square " + square.join(','));
-}
-
-QByteArray outlineText(const Shape& shape)
-{
-    if (shape.pen == "none")
-        return {};
-    QByteArray text = " pen " + shape.pen;
-    if (!qFuzzyCompare(shape.penWidth, 1))
-        text += ' ' + toText(shape.penWidth);
-    return shape.penStyle.isEmpty() ? text : QByteArray(text + ' ' + shape.penStyle);
-}
-
-QByteArray transformText(const QTransform& transform)
-{
-    if (transform.isIdentity())
-        return {};
     const QPointF offset(transform.dx(), transform.dy());
-    if (transform.type() == QTransform::TxTranslate)
-        return " at " + toText(offset);
+    if (transform.type() <= QTransform::TxTranslate)
+        return transform.isIdentity() ? QByteArray() : " at " + toText(offset);
     return " matrix " + toText(QPointF(transform.m11(), transform.m12())) + ' '
            + toText(QPointF(transform.m21(), transform.m22())) + ' ' + toText(offset);
 }
 
-QByteArray penStyleText(const QPen& pen)
+QByteArray toText(const QPen& pen)
 {
-    constexpr const char* Styles[] = {"none", "", "dash", "dot", "dash-dot", "dash-dot-dot"};
-    QByteArrayList words;
+    if (pen.style() == Qt::NoPen || pen.brush().style() == Qt::NoBrush)
+        return {};
+    QByteArray text = " pen " + ProbeTheme::nameOf(pen.brush());
+    if (!qFuzzyCompare(pen.widthF(), 1))
+        text += ' ' + toText(pen.widthF());
     if (pen.style() == Qt::CustomDashLine) {
         QByteArrayList lengths;
-        const QVector<qreal> pattern = pen.dashPattern();
-        for (const qreal length : pattern)
+        for (const qreal length : pen.dashPattern())
             lengths.append(toText(length));
-        words.append("dash " + lengths.join(','));
-    } else if (pen.style() != Qt::SolidLine) {
-        words.append(Styles[pen.style()]);
+        text += " dash " + lengths.join(',');
     }
     if (pen.capStyle() != Qt::SquareCap)
-        words.append(pen.capStyle() == Qt::FlatCap ? "flat" : "round-cap");
+        text += pen.capStyle() == Qt::FlatCap ? " flat" : " round-cap";
     if (pen.joinStyle() != Qt::BevelJoin)
-        words.append(pen.joinStyle() == Qt::RoundJoin ? "round-join" : "miter");
-    return words.join(' ');
+        text += pen.joinStyle() == Qt::RoundJoin ? " round-join" : " miter";
+    return text;
 }
 
-} // namespace
-
-char* toString(Shape::Kind kind)
+/// The points of a path; those of its curves end in "c".
+QByteArray pointsOf(const QPainterPath& path)
 {
-    return qstrdup(nameOf(kind));
+    QByteArrayList points;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPainterPath::Element element = path.elementAt(i);
+        if (element.isMoveTo() && i > 0)
+            points.append("/");
+        points.append(toText(QPointF(element)) + (element.isCurveTo() ? "c" : ""));
+    }
+    return "path " + points.join(' ');
 }
 
-QByteArray Shape::toText() const
+/// A path that is a rectangle with round or square corners, or an ellipse, by that name: where it
+/// turns is compared with where a path of these radii does.
+QByteArray toText(const QPainterPath& path)
 {
-    QByteArray line = QByteArray(nameOf(kind)) + ' ' + geometryText(*this);
-    if (kind == RoundedRect)
-        line += cornersText(*this);
-    line += outlineText(*this);
-    if (brush != "none")
-        line += " brush " + brush;
-    if (antialiased)
-        line += " smooth";
-    if (!qFuzzyCompare(opacity, 1))
-        line += " opacity " + ::toText(opacity);
-    line += transformText(transform);
-    if (!clip.isNull())
-        line += " clip " + ::toText(clip);
-    return line;
+    QVector<QPointF> turns;
+    int curves = 0;
+    for (int i = 0; i < path.elementCount(); ++i) {
+        if (path.elementAt(i).isCurveTo()) {
+            ++curves;
+            i += 2;
+        }
+        turns.append(path.elementAt(i));
+    }
+    const QRectF rect = path.controlPointRect();
+
+    const struct
+    {
+        const char* name;
+        QPointF place;
+        QPointF inwards;
+    } corners[] = {{"top-left", rect.topLeft(), {1, 1}},
+                   {"top-right", rect.topRight(), {-1, 1}},
+                   {"bottom-right", rect.bottomRight(), {-1, -1}},
+                   {"bottom-left", rect.bottomLeft(), {1, -1}}};
+
+    QSet<QByteArray> expected;
+    QByteArrayList square;
+    qreal radius = 0;
+    for (const auto& corner : corners) {
+        qreal own = rect.width();
+        for (const QPointF& turn : qAsConst(turns))
+            if (qAbs(turn.y() - corner.place.y()) < Tolerance)
+                own = qMin(own, qAbs(turn.x() - corner.place.x()));
+        if (own < Tolerance)
+            square.append(corner.name);
+        else
+            radius = own;
+        expected += toText(corner.place + QPointF(own * corner.inwards.x(), 0));
+        expected += toText(corner.place + QPointF(0, own * corner.inwards.y()));
+    }
+    QSet<QByteArray> found;
+    for (const QPointF& turn : qAsConst(turns))
+        found += toText(turn);
+    if (found != expected || curves != 4 - square.size())
+        return pointsOf(path);
+    if (curves == 0)
+        return "rect " + toText(rect);
+    if (qAbs(2 * radius - rect.width()) + qAbs(2 * radius - rect.height()) < Tolerance)
+        return "ellipse " + toText(rect);
+    return "rounded " + toText(rect) + " r" + toText(radius) + (square.isEmpty() ? "" : " square ")
+           + square.join(',');
 }
 
-class Transcript::Engine : public QPaintEngine
+class Engine : public QPaintEngine
 {
 public:
     Engine() : QPaintEngine(AllFeatures) { }
+
+    QByteArray text;
 
     bool begin(QPaintDevice*) override { return true; }
 
@@ -127,44 +141,35 @@ public:
     // The variants with whole numbers lead to those below.
     using QPaintEngine::drawEllipse;
     using QPaintEngine::drawLines;
-    using QPaintEngine::drawPoints;
     using QPaintEngine::drawPolygon;
     using QPaintEngine::drawRects;
 
     void drawRects(const QRectF* rects, int count) override
     {
         for (int i = 0; i < count; ++i)
-            addFilled(make(Shape::Rect, rects[i]));
+            writeFilled("rect " + toText(rects[i]));
     }
 
     void drawLines(const QLineF* lines, int count) override
     {
         for (int i = 0; i < count; ++i)
-            addOutline(make(Shape::Line, QRectF(lines[i].p1(), lines[i].p2())));
+            write("line " + toText(lines[i].p1()) + ' ' + toText(lines[i].p2())
+                  + toText(painter()->pen()) + smooth());
     }
 
-    void drawEllipse(const QRectF& rect) override { addFilled(make(Shape::Ellipse, rect)); }
+    void drawEllipse(const QRectF& rect) override { writeFilled("ellipse " + toText(rect)); }
 
-    void drawPath(const QPainterPath& path) override { addFilled(shapeOfPath(path)); }
-
-    void drawPoints(const QPointF* points, int count) override
-    {
-        for (int i = 0; i < count; ++i)
-            addOutline(make(Shape::Point, QRectF(points[i], QSizeF())));
-    }
+    void drawPath(const QPainterPath& path) override { writeFilled(toText(path)); }
 
     void drawPolygon(const QPointF* points, int count, PolygonDrawMode mode) override
     {
-        const bool open = mode == PolylineMode;
-        QPolygonF polygon;
-        QByteArrayList texts;
-        for (int i = 0; i < count; ++i) {
-            polygon.append(points[i]);
-            texts.append(::toText(points[i]));
-        }
-        Shape shape = make(open ? Shape::Polyline : Shape::Polygon, polygon.boundingRect());
-        shape.points = texts.join(' ');
-        open ? addOutline(shape) : addFilled(shape);
+        QByteArray polygon;
+        for (int i = 0; i < count; ++i)
+            polygon += ' ' + toText(points[i]);
+        if (mode == PolylineMode)
+            write("polyline" + polygon + toText(painter()->pen()) + smooth());
+        else
+            writeFilled("polygon" + polygon);
     }
 
     void drawPixmap(const QRectF& rect, const QPixmap& pixmap, const QRectF& source) override
@@ -172,163 +177,88 @@ public:
         drawImage(rect, pixmap.toImage(), source, Qt::AutoColor);
     }
 
-    void drawTiledPixmap(const QRectF& rect, const QPixmap& pixmap, const QPointF&) override
-    {
-        drawImage(rect, pixmap.toImage(), pixmap.rect(), Qt::AutoColor);
-    }
-
     void drawImage(const QRectF& rect, const QImage& image, const QRectF& source,
                    Qt::ImageConversionFlags) override
     {
-        Shape shape = make(Shape::Pixmap, rect);
-        shape.brush = ProbeTheme::nameOf(image.copy(source.toAlignedRect()));
-        shape.pen = "none";
-        add(shape);
+        write("pixmap " + toText(rect) + " brush "
+              + ProbeTheme::nameOf(image.copy(source.toAlignedRect())));
     }
 
-    void drawTextItem(const QPointF& position, const QTextItem& item) override
+    void drawTextItem(const QPointF&, const QTextItem& item) override
     {
-        Shape shape = make(Shape::Text, QRectF(position.x(), position.y() - item.ascent(),
-                                               item.width(), item.ascent() + item.descent()));
-        shape.text = item.text();
-        shape.font = ProbeTheme::nameOf(item.font());
-        shape.pen = ProbeTheme::nameOf(painter()->pen().color());
-        shape.brush = "none";
-        add(shape);
+        write("text \"" + item.text().toUtf8() + "\" " + ProbeTheme::nameOf(item.font()) + " pen "
+              + ProbeTheme::nameOf(painter()->pen().color()));
     }
-
-    QVector<Shape> shapes;
 
 private:
-    static Shape make(Shape::Kind kind, const QRectF& rect)
+    QByteArray smooth() const
     {
-        Shape shape;
-        shape.kind = kind;
-        shape.rect = rect;
-        return shape;
+        return painter()->testRenderHint(QPainter::Antialiasing) ? " smooth" : "";
     }
 
-    void addFilled(Shape shape)
+    void writeFilled(const QByteArray& shape)
     {
-        shape.brush = ProbeTheme::nameOf(painter()->brush());
-        takePen(shape);
-        add(shape);
+        QByteArray brush = " brush " + ProbeTheme::nameOf(painter()->brush());
+        if (painter()->brush().style() == Qt::NoBrush)
+            brush.clear();
+        write(shape + toText(painter()->pen()) + brush + smooth());
     }
 
-    void addOutline(Shape shape)
+    void write(const QByteArray& line)
     {
-        shape.brush = "none";
-        takePen(shape);
-        add(shape);
-    }
-
-    void takePen(Shape& shape) const
-    {
-        const QPen pen = painter()->pen();
-        const bool visible = pen.style() != Qt::NoPen && pen.brush().style() != Qt::NoBrush;
-        shape.pen = visible ? ProbeTheme::nameOf(pen.brush()) : QByteArrayLiteral("none");
-        shape.penWidth = pen.widthF();
-        shape.penStyle = penStyleText(pen);
-    }
-
-    void add(Shape shape)
-    {
-        shape.transform = painter()->deviceTransform();
+        text += line;
+        if (!qFuzzyCompare(painter()->opacity(), 1))
+            text += " opacity " + toText(painter()->opacity());
+        text += toText(painter()->deviceTransform());
         if (painter()->hasClipping())
-            shape.clip = painter()->clipBoundingRect();
-        shape.antialiased = shape.kind != Shape::Text && shape.kind != Shape::Pixmap
-                            && painter()->testRenderHint(QPainter::Antialiasing);
-        shape.opacity = painter()->opacity();
-        shapes.append(shape);
+            text += " clip " + toText(painter()->clipBoundingRect());
+        text += '\n';
     }
 };
 
-Transcript::Transcript() : m_engine(std::make_unique<Engine>()) { }
-
-Transcript::~Transcript() = default;
-
-const QVector<Shape>& Transcript::shapes() const
+class Paper : public QPaintDevice
 {
-    return m_engine->shapes;
-}
+public:
+    mutable Engine engine;
 
-QPaintEngine* Transcript::paintEngine() const
-{
-    return m_engine.get();
-}
+    QPaintEngine* paintEngine() const override { return &engine; }
 
-int Transcript::metric(PaintDeviceMetric metric) const
-{
-    constexpr int Side = 4096;
-    const int dpi = qRound(QGuiApplication::primaryScreen()->logicalDotsPerInch());
-    switch (metric) {
-    case PdmWidth:
-    case PdmHeight: return Side;
-    case PdmDpiX:
-    case PdmDpiY:
-    case PdmPhysicalDpiX:
-    case PdmPhysicalDpiY: return dpi;
-    case PdmDepth: return 32;
-    case PdmDevicePixelRatio: return 1;
-    case PdmDevicePixelRatioScaled: return int(devicePixelRatioFScale());
-    case PdmNumColors: return 0;
-    case PdmWidthMM:
-    case PdmHeightMM: return qRound(Side * 25.4 / dpi);
-    default: return 0;
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        constexpr int Side = 4096;
+        switch (metric) {
+        case PdmWidth:
+        case PdmHeight: return Side;
+        case PdmDpiX:
+        case PdmDpiY:
+        case PdmPhysicalDpiX:
+        case PdmPhysicalDpiY: return qRound(qApp->primaryScreen()->logicalDotsPerInch());
+        case PdmDevicePixelRatio: return 1;
+        case PdmDevicePixelRatioScaled: return int(devicePixelRatioFScale());
+        case PdmDepth: return 32;
+        default: return 0;
+        }
     }
-}
-
-QVector<Shape> drawn(const std::function<void(QPainter*)>& paint)
-{
-    Transcript transcript;
-    QPainter painter(&transcript);
-    paint(&painter);
-    painter.end();
-    return transcript.shapes();
-}
-
-namespace {
-
-const QStyle* orOfApplication(const QStyle* style)
-{
-    return style ? style : QApplication::style();
-}
+};
 
 } // namespace
 
-QVector<Shape> drawn(QStyle::PrimitiveElement element, const QStyleOption& option,
-                     const QWidget* widget, const QStyle* style)
+QByteArray toText(const QRectF& rect)
 {
-    return drawn([&](QPainter* painter) {
-        orOfApplication(style)->drawPrimitive(element, &option, painter, widget);
-    });
+    return toText(rect.topLeft()) + ' ' + toText(rect.width()) + 'x' + toText(rect.height());
 }
 
-QVector<Shape> drawn(QStyle::ControlElement element, const QStyleOption& option,
-                     const QWidget* widget, const QStyle* style)
+QByteArray drawn(const std::function<void(QPainter*)>& paint)
 {
-    return drawn([&](QPainter* painter) {
-        orOfApplication(style)->drawControl(element, &option, painter, widget);
-    });
+    Paper paper;
+    QPainter painter(&paper);
+    paint(&painter);
+    painter.end();
+    return paper.engine.text;
 }
 
-QVector<Shape> drawn(QStyle::ComplexControl control, const QStyleOptionComplex& option,
-                     const QWidget* widget, const QStyle* style)
-{
-    return drawn([&](QPainter* painter) {
-        orOfApplication(style)->drawComplexControl(control, &option, painter, widget);
-    });
-}
-
-QByteArray transcriptOf(const QVector<Shape>& shapes)
-{
-    QByteArray text;
-    for (const Shape& shape : shapes)
-        text += shape.toText() + '\n';
-    return text;
-}
-
-QByteArray differenceToTranscript(const char* name, const QByteArray& text)
+QByteArray differenceToTranscript(const QByteArray& name, const QByteArray& text)
 {
     QFile file(QStringLiteral(VARN_TRANSCRIPTS "/%1.txt").arg(QLatin1String(name)));
     if (qEnvironmentVariableIntValue("VARN_UPDATE_TRANSCRIPTS")) {
@@ -339,10 +269,12 @@ QByteArray differenceToTranscript(const char* name, const QByteArray& text)
         return "cannot read " + file.fileName().toUtf8();
     const QByteArrayList expected = file.readAll().split('\n');
     const QByteArrayList actual = text.split('\n');
-    QByteArray difference;
-    for (int i = 0; i < std::max(expected.size(), actual.size()); ++i)
-        if (expected.value(i) != actual.value(i))
-            difference += "\n  " + QByteArray::number(i + 1) + ": - " + expected.value(i) + "\n  "
-                          + QByteArray::number(i + 1) + ": + " + actual.value(i);
-    return difference.isEmpty() ? difference : QByteArray(name + QByteArray(".txt:") + difference);
+    int line = 0;
+    while (line < expected.size() && line < actual.size() && expected[line] == actual[line])
+        ++line;
+    if (expected == actual)
+        return {};
+    return name + ".txt:" + QByteArray::number(line + 1) + ":\n  - " + expected.value(line)
+           + "\n  + " + actual.value(line)
+           + "\nTo accept what changed, run this with VARN_UPDATE_TRANSCRIPTS=1 and look at it.";
 }

@@ -1,0 +1,146 @@
+#include "ProxyStyle_p.h"
+#include "StateSheet.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QtTest>
+
+using namespace BRELK;
+
+/// What applications ask of the style itself, and the icons that it gives them.
+class tst_BaseStyle : public QObject
+{
+    Q_OBJECT
+
+private:
+    BaseStyle* m_style = nullptr;
+
+private Q_SLOTS:
+
+    void initTestCase() { m_style = StateSheet::applyProbeTheme(); }
+
+    void cachedBrushesKeepTheFirstTheme()
+    {
+        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getBorderBrush(false)), "CardBorderBrushDisabled");
+        QCOMPARE(ProbeTheme::nameOf(m_style->grooveBackgroundBrush(true)), "GrooveBackgroundBrush");
+        const QVariant first = qApp->property("theme_var");
+        ProbeTheme::publishEmpty();
+        QCOMPARE(ProbeTheme::nameOf(BaseStyle::getBorderBrush(true)), "CardBorderBrush");
+        QCOMPARE(ProbeTheme::nameOf(m_style->grooveBackgroundBrush(false)),
+                 "GrooveBackgroundBrushDisabled");
+        qApp->setProperty("theme_var", first);
+    }
+
+    void paletteIsTheStylesUntilItIsSet()
+    {
+        BaseStyle style;
+        QCOMPARE(style.getPalette(), style.baseStyle()->standardPalette());
+        QSignalSpy changed(&style, &BaseStyle::paletteChanged);
+        style.setPalette(style.getPalette());
+        QCOMPARE(changed.size(), 0);
+        const QPalette probe = ProbeTheme::palette();
+        QVERIFY(style.setProperty("palette", probe));
+        QCOMPARE(changed.takeFirst().first().value<QPalette>(), probe);
+        QPalette polished(Qt::green);
+        style.polish(polished);
+        QCOMPARE(polished, probe);
+        QCOMPARE(style.standardPalette(), probe);
+        QCOMPARE(ProbeTheme::nameOf(style.lightOutlineBrush(polished)), "palette.Midlight");
+    }
+
+    void grips()
+    {
+        const auto painted = [this](Qt::Orientation orientation, int from, int to) {
+            return drawn([&](QPainter* painter) {
+                m_style->drawGrips(*painter, orientation, from, to, 3, 4, 3, 2);
+            });
+        };
+        QCOMPARE(painted(Qt::Vertical, 5, 5) + painted(Qt::Horizontal, 9, 2), "");
+        COMPARE_TRANSCRIPT("BaseStyle.grips",
+                           painted(Qt::Horizontal, 1, 6) + painted(Qt::Vertical, 1, 6));
+    }
+
+    void standardIcons()
+    {
+        QByteArray names;
+        for (const auto pixmap : StyleOptions::all<QStyle::StandardPixmap>()) {
+            const QIcon icon = m_style->standardIcon(pixmap, nullptr, nullptr);
+            if (!icon.name().isEmpty())
+                names +=
+                    QByteArray(StyleOptions::nameOf(pixmap)) + ' ' + icon.name().toLatin1() + '\n';
+        }
+        COMPARE_TRANSCRIPT("BaseStyle.icons", names);
+        QCOMPARE(m_style->standardPixmap(QStyle::SP_TitleBarMinButton, nullptr, nullptr).size(),
+                 QSize(16, 16));
+    }
+
+    void highlightedIcons()
+    {
+        QWidget widget;
+        QVERIFY(m_style->standardIcon(QStyle::SP_CustomBase, nullptr, &widget).isNull());
+        for (const char* name : {"status.checked.circular.colored", "action.close"}) {
+            widget.setProperty("highlightedIcon", QString::fromLatin1(name));
+            const QIcon icon = m_style->standardIcon(QStyle::SP_CustomBase, nullptr, &widget);
+            QCOMPARE(ProbeTheme::nameOf(icon.pixmap(32).toImage()), "MainBrush");
+        }
+    }
+
+    void extensionIconsKeepTheirFirstColors()
+    {
+        const auto color = [&] {
+            const auto extension = QStyle::SP_ToolBarHorizontalExtensionButton;
+            const QPixmap pixmap = m_style->standardIcon(extension, nullptr, nullptr).pixmap(8, 5);
+            return ProbeTheme::nameOf(pixmap.toImage().pixelColor(0, 0));
+        };
+        QCOMPARE(color(), "palette.Text");
+        m_style->setPalette(QPalette(Qt::red));
+        QCOMPARE(color(), "palette.Text");
+        m_style->setPalette(ProbeTheme::palette());
+    }
+
+    void disabledPixmapsAreRecoloredForLabelsOnly()
+    {
+        QPixmap pixmap(16, 16);
+        pixmap.fill(QColor(0xE5, 0xEE, 0xF4));
+        QStyleOption option;
+        const auto color = [&](QObject&& object, QIcon::Mode mode) {
+            option.styleObject = &object;
+            const QPixmap made = m_style->generatedIconPixmap(mode, pixmap, &option);
+            return ProbeTheme::nameOf(made.toImage());
+        };
+        QCOMPARE(color(QLabel(), QIcon::Disabled), "ForegroundBrushDisabled");
+        QCOMPARE(color(QLabel(), QIcon::Selected), "#e5eef4");
+        QCOMPARE(color(QPushButton(), QIcon::Disabled), "#e5eef4");
+    }
+
+    void cacheKeys()
+    {
+        const QString key = QStringLiteral("x");
+        QStyleOption option;
+        const QString plain = ProxyStyle_p::uniqueName(key, &option, QSize(16, 0x12345678));
+        QCOMPARE(plain.size(), 1 + 56);
+        QCOMPARE(plain.right(16), QStringLiteral("0100000087654321"));
+        option.palette.setColor(QPalette::Text, Qt::red);
+        QVERIFY(ProxyStyle_p::uniqueName(key, &option, QSize(16, 0x12345678)) != plain);
+
+        QStyleOptionSpinBox spinBox;
+        spinBox.frame = true;
+        spinBox.stepEnabled = QAbstractSpinBox::StepUpEnabled;
+        const QString name = ProxyStyle_p::uniqueName(key, &spinBox, QSize(16, 16));
+        QCOMPARE(name.size(), 1 + 56 + 17);
+        QCOMPARE(name.right(9), QStringLiteral("100000001"));
+    }
+
+    void roles()
+    {
+        QPushButton button;
+        QVERIFY(ProxyStyle_p::isInstanceOf(&button, QAccessible::PushButton));
+        QVERIFY(!ProxyStyle_p::isInstanceOf(&button, QAccessible::CheckBox));
+        QVERIFY(!ProxyStyle_p::isInstanceOf(this, QAccessible::PushButton));
+        QVERIFY(!ProxyStyle_p::isInstanceOf(nullptr, QAccessible::PushButton));
+    }
+};
+
+QTEST_MAIN(tst_BaseStyle)
+#include "tst_BaseStyle.moc"
