@@ -11,7 +11,7 @@ namespace BRELK::Pictures {
 
 /// Each drawing that is kept. What it looks like may depend on its kind, its brush, the size and
 /// place of its rectangle, and on nothing else; it stays inside that rectangle, or a pixel around.
-enum class Kind { CheckMark, RadioMark, SpinUp, SpinDown };
+enum class Kind { CheckMark, RadioMark, SpinUp, SpinDown, SpinUpPressed, SpinDownPressed };
 
 /// Calls `paint(painter)`, if the drawing has to be painted, with a painter whose coordinates are
 /// those of `painter`; else copies it.

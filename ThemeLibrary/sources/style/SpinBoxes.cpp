@@ -173,10 +173,6 @@ void paintStepButtons(const PaintContext& context, const QStyleOptionSpinBox& sp
 /// The base style draws the arrows, as polygons.
 void paintArrow(const PaintContext& context, QStyle::PrimitiveElement arrow, Pictures::Kind kind)
 {
-    if (BaseStyle::isPressed(context.option)) { // may be shifted
-        context.drawByBase(arrow);
-        return;
-    }
     Pictures::draw(context.painter, kind, context.option.rect,
                    context.option.palette.brush(QPalette::ButtonText), [&](QPainter& onto) {
                        PaintContext{context, onto}.drawByBase(arrow);
@@ -201,12 +197,16 @@ void paintErrorMark(const PaintContext& context, const QStyleOptionSpinBox& spin
 
 void paintUp(const PaintContext& context)
 {
-    paintArrow(context, QStyle::PE_IndicatorSpinUp, Pictures::Kind::SpinUp);
+    const bool pressed = BaseStyle::isPressed(context.option); // may be shifted
+    paintArrow(context, QStyle::PE_IndicatorSpinUp,
+               pressed ? Pictures::Kind::SpinUpPressed : Pictures::Kind::SpinUp);
 }
 
 void paintDown(const PaintContext& context)
 {
-    paintArrow(context, QStyle::PE_IndicatorSpinDown, Pictures::Kind::SpinDown);
+    const bool pressed = BaseStyle::isPressed(context.option);
+    paintArrow(context, QStyle::PE_IndicatorSpinDown,
+               pressed ? Pictures::Kind::SpinDownPressed : Pictures::Kind::SpinDown);
 }
 
 void paintMinus(const PaintContext& context)
