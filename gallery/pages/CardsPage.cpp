@@ -4,6 +4,7 @@
 #include "kit/Properties.h"
 #include "pages/Chart.h"
 
+#include <QBoxLayout>
 #include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
@@ -44,6 +45,15 @@ CardWidget* makeWith(const char* property)
     return card;
 }
 
+/// A card that stands on its header.
+CardWidget* makeInverted()
+{
+    CardWidget* card = makeWith("invertedAppearance");
+    if (auto* layout = qobject_cast<QBoxLayout*>(card->layout()))
+        layout->setDirection(QBoxLayout::BottomToTop);
+    return card;
+}
+
 void addCards(Section& section)
 {
     CardWidget* disabled = makeCardWithFooter();
@@ -52,11 +62,10 @@ void addCards(Section& section)
                      captioned(QStringLiteral("With footer"), makeCardWithFooter()),
                      captioned(QStringLiteral("Disabled"), disabled),
                      captioned(QStringLiteral("Collapsed"), makeCollapsed())}));
-    section.add(
-        row({captioned(QStringLiteral("\"expandable\""), makeWith("expandable")),
-             captioned(QStringLiteral("\"invertedAppearance\""), makeWith("invertedAppearance")),
-             captioned(QStringLiteral("\"CardWidget_NoCornerRadius\""),
-                       makeWith("CardWidget_NoCornerRadius"))}));
+    section.add(row({captioned(QStringLiteral("\"expandable\""), makeWith("expandable")),
+                     captioned(QStringLiteral("\"invertedAppearance\""), makeInverted()),
+                     captioned(QStringLiteral("\"CardWidget_NoCornerRadius\""),
+                               makeWith("CardWidget_NoCornerRadius"))}));
 }
 
 ButtonGroupWidget* makeGroup(Qt::Orientation orientation, int count)

@@ -290,6 +290,41 @@ private Q_SLOTS:
                     .contains("brush #00ff00"));
     }
 
+    void partsDoNotDependOnTheText()
+    {
+        QListView list;
+        list.ensurePolished();
+        QStyleOptionViewItem row = rowOf(list);
+        row.features |=
+            QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasCheckIndicator;
+        row.decorationSize = {16, 16};
+        QStyleOptionViewItem longer = row;
+        longer.text = QStringLiteral("A text that is wider than the row, and on\ntwo lines");
+        for (const auto part : {QStyle::SE_ItemViewItemCheckIndicator,
+                                QStyle::SE_ItemViewItemDecoration, QStyle::SE_ItemViewItemText})
+            QCOMPARE(list.style()->subElementRect(part, &longer, &list),
+                     list.style()->subElementRect(part, &row, &list));
+    }
+
+    void textsEndWhereTheirRoomDoes()
+    {
+        QListView list;
+        list.ensurePolished();
+        QStyleOptionViewItem row = rowOf(list);
+        row.textElideMode = Qt::ElideRight;
+        row.text = QStringLiteral("One text of many words that does not fit into its row");
+        const auto isElided = [&] {
+            return drawn(QStyle::CE_ItemViewItem, row, &list).contains("\u2026\"");
+        };
+        row.rect.setWidth(200);
+        QVERIFY(isElided());
+        row.features |= QStyleOptionViewItem::WrapText;
+        row.rect.setHeight(5 * row.fontMetrics.height());
+        QVERIFY(!isElided());
+        row.rect.setSize({80, 5 * row.fontMetrics.height() / 2});
+        QVERIFY(isElided());
+    }
+
     void selectionTellsFocus()
     {
         QListView list;

@@ -10,6 +10,7 @@
 #include <QListView>
 #include <QScrollBar>
 #include <QTableView>
+#include <QTextLayout>
 
 // Lists, tables, trees, column views and their rows.
 //
@@ -256,16 +257,47 @@ bool isOneLine(const QStyleOptionViewItem& item, const QRect& rect)
                || rect.height() < 2 * item.fontMetrics.height());
 }
 
-/// Lines that wrap at words; what does not fit below is cut at a line, and the last one elided.
+/// `text` with the last of its lines that fit into `rect` elided when more follow.
+QString fittingLines(const QStyleOptionViewItem& item, const QRect& rect, const QString& text)
+{
+    const bool wraps = item.features & QStyleOptionViewItem::WrapText;
+    QTextOption option;
+    option.setTextDirection(item.direction);
+    option.setWrapMode(wraps ? QTextOption::WordWrap : QTextOption::ManualWrap);
+    QTextLayout layout(text, item.font);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    qreal height = 0;
+    int lastStart = 0;
+    QTextLine line = layout.createLine();
+    for (; line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(rect.width());
+        height += line.height();
+        if (line.lineNumber() > 0 && height > rect.height())
+            break;
+        lastStart = line.textStart();
+    }
+    layout.endLayout();
+    if (!line.isValid())
+        return text;
+    QString rest = text.mid(lastStart);
+    rest.replace(QChar::LineSeparator, QLatin1Char(' '));
+    return text.left(lastStart)
+           + item.fontMetrics.elidedText(rest, item.textElideMode, rect.width());
+}
+
+/// Lines that wrap at words and end where the rectangle does.
 void paintLines(const PaintContext& context, const QStyleOptionViewItem& item, const QRect& rect,
                 int alignment, const QBrush& brush)
 {
     const int wrap = item.features & QStyleOptionViewItem::WrapText ? int(Qt::TextWordWrap) : 0;
+    QString text = item.text;
+    text.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    text = fittingLines(item, rect, text);
+    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
     const PainterSaver saver(context.painter);
     context.painter.setClipRect(rect, Qt::IntersectClip);
     context.painter.setPen(QPen(brush, 1));
-    QString text = item.text;
-    text.replace(QChar::LineSeparator, QLatin1Char('\n'));
     context.painter.drawText(rect, alignment | wrap, text);
 }
 
@@ -313,12 +345,10 @@ void paintItemFocus(const PaintContext& context, const QStyleOptionViewItem& ite
 
 void paintArrow(const PaintContext& context, bool down)
 {
-    constexpr int BranchArrowSize = 12;
     QStyleOption arrow = context.option;
-    arrow.rect = QRect(0, 0, BranchArrowSize, BranchArrowSize);
+    arrow.rect = QRect(0, 0, IndicatorSize, IndicatorSize);
     arrow.rect.moveCenter(context.option.rect.center());
-    arrow.palette.setBrush(arrow.palette.currentColorGroup(), QPalette::ButtonText,
-                           textBrush(context));
+    ButtonContent::setForeground(arrow, textBrush(context));
     const QStyle::PrimitiveElement sideways =
         context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
     context.draw(down ? QStyle::PE_IndicatorArrowDown : sideways, arrow);

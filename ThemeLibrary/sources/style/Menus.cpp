@@ -240,7 +240,7 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
         const int side = measure.dpiScaled(ArrowSize);
         arrow.rect = context.visual(
             {rect.right() + 1 - columns.end, rect.y() + (rect.height() - side) / 2, side, side});
-        arrow.palette.setBrush(arrow.palette.currentColorGroup(), QPalette::ButtonText, brush);
+        ButtonContent::setForeground(arrow, brush);
         context.draw(context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft
                                            : QStyle::PE_IndicatorArrowRight,
                      arrow);
@@ -249,10 +249,13 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 
 void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
-    // The base style fills it with the color of buttons, which is not that of menus.
+    // The base style fills it with the color of buttons and draws two dashed lines, a dark and a
+    // light one: here the color of menus and one line like that of separators.
+    const QBrush fill = ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush());
     QStyleOptionMenuItem tearoff = item;
-    tearoff.palette.setBrush(QPalette::Button,
-                             ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush()));
+    tearoff.palette.setBrush(QPalette::Button, fill);
+    tearoff.palette.setBrush(QPalette::Dark, context.style.lightOutlineBrush(item.palette));
+    tearoff.palette.setBrush(QPalette::Light, Qt::transparent);
     context.style.QProxyStyle::drawControl(QStyle::CE_MenuTearoff, &tearoff, &context.painter,
                                            context.widget);
 }

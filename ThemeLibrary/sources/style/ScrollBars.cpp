@@ -1,3 +1,4 @@
+#include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -87,8 +88,7 @@ void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool 
     arrow.rect = QRect(0, 0, ArrowSize, ArrowSize);
     arrow.rect.moveCenter(bar.rect.center());
     if (BaseStyle::isHovered(&bar) || BaseStyle::isPressed(bar))
-        arrow.palette.setBrush(arrow.palette.currentColorGroup(), QPalette::ButtonText,
-                               context.color(ThemeNames::mainColor()));
+        ButtonContent::setForeground(arrow, context.color(ThemeNames::mainColor()));
     if (bar.rect.contains(arrow.rect))
         context.draw(lineArrow(context, forwards), arrow);
 }

@@ -355,12 +355,43 @@ void paintIcon(const PaintContext& context, const QStyleOptionTab& tab, const QB
         Shapes::iconPixmap(context.painter, icon, size, QIcon::Normal, state));
 }
 
+/// `rect` without what lies, along the tab, from `button` to the tab's end.
+QRect beside(QRect rect, const QRect& button, bool upright)
+{
+    constexpr int Distance = 1;
+    if (!rect.intersects(button))
+        return rect;
+    const QPoint middle = rect.center();
+    if (upright && button.center().y() < middle.y())
+        rect.setTop(button.bottom() + 1 + Distance);
+    else if (upright)
+        rect.setBottom(button.top() - 1 - Distance);
+    else if (button.center().x() < middle.x())
+        rect.setLeft(button.right() + 1 + Distance);
+    else
+        rect.setRight(button.left() - 1 - Distance);
+    return rect;
+}
+
 void paintFocus(const PaintContext& context, const QStyleOptionTab& tab)
 {
     const int inset = 2 + context.metric(QStyle::PM_DefaultFrameWidth);
+    const bool upright = isUpright(sideOf(tab.shape));
     auto focus = optionFrom<QStyleOptionFocusRect>(tab);
     focus.rect.adjust(inset, inset, -inset, -inset);
+    if (!tab.leftButtonSize.isEmpty())
+        focus.rect = beside(focus.rect, context.part(QStyle::SE_TabBarTabLeftButton), upright);
+    if (!tab.rightButtonSize.isEmpty())
+        focus.rect = beside(focus.rect, context.part(QStyle::SE_TabBarTabRightButton), upright);
     context.draw(QStyle::PE_FrameFocusRect, focus);
+}
+
+/// The picture of a tab that is dragged is painted by a painter that nobody gave the bar's font.
+void setFontOfDragged(const PaintContext& context)
+{
+    const auto* bar = qobject_cast<const QTabBar*>(context.widget);
+    if (bar && bar->isMovable() && context.painter.font() == QFont())
+        context.painter.setFont(bar->font());
 }
 
 } // namespace
@@ -371,6 +402,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionTab& tab)
     const Side side = sideOf(tab.shape);
     {
         const PainterSaver saver(context.painter);
+        setFontOfDragged(context);
         if (isUpright(side))
             turn(context.painter, tab.rect, side);
         if (!tab.icon.isNull())
