@@ -114,6 +114,8 @@ void addShapes(Section& section)
     grid->addRow(QStringLiteral("Circular"), makeCircularButton);
     grid->addRow(QStringLiteral("Frameless"), [] { return with(makeButton(), "frameless"); });
     grid->addRow(QStringLiteral("Error"), [] { return with(makeButton(), "drawErrorIndicator"); });
+    grid->addRow(QStringLiteral("Flat, highlighted"),
+                 [] { return with(makeFlatButton(), "highlighted"); });
     grid->addRow(QStringLiteral("Blinking, lit"),
                  [] { return with(with(makeButton(), "blinking"), "blink_checked"); });
     section.add(grid);

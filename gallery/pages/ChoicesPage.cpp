@@ -56,7 +56,10 @@ void addCheckBoxes(Section& section)
     grid->addRow(QStringLiteral("Partly"), [] { return makeCheckBox(Qt::PartiallyChecked); });
     grid->addRow(QStringLiteral("Error"),
                  [] { return with(makeCheckBox(Qt::Unchecked), "drawErrorIndicator"); });
+    grid->addRow(QStringLiteral("Error, on"),
+                 [] { return with(makeCheckBox(Qt::Checked), "drawErrorIndicator"); });
     grid->addRow(QStringLiteral("With icon"), [] { return withIcon(makeCheckBox(Qt::Checked)); });
+    grid->addRow(QStringLiteral("No label"), [] { return new QCheckBox; });
     section.add(grid);
 }
 
@@ -77,16 +80,15 @@ void addSwitches(Section& section)
     grid->addRow(QStringLiteral("Off"), [] { return makeSwitch(Qt::Unchecked); });
     grid->addRow(QStringLiteral("On"), [] { return makeSwitch(Qt::Checked); });
     grid->addRow(QStringLiteral("Partly"), [] { return makeSwitch(Qt::PartiallyChecked); });
+    grid->addRow(QStringLiteral("Error"),
+                 [] { return with(makeSwitch(Qt::Checked), "drawErrorIndicator"); });
     section.add(grid);
 }
 
 void addLabels(Section& section)
 {
     auto* manyLines = new QCheckBox(QStringLiteral("A label of\ntwo lines"));
-    auto* bare = new QCheckBox;
-    bare->setAccessibleName(QStringLiteral("Without a label"));
     section.add(row({captioned(QStringLiteral("Two lines"), manyLines),
-                     captioned(QStringLiteral("No label"), bare),
                      captioned(QStringLiteral("Label at the far end"),
                                aligned(makeCheckBox(Qt::Checked), Qt::AlignRight)),
                      captioned(QStringLiteral("Label in the middle"),

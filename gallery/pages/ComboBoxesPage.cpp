@@ -90,6 +90,8 @@ void addStates(Section& section)
     grid->addRow(QStringLiteral("No frame"), makeFrameless);
     grid->addRow(QStringLiteral("Error"),
                  [] { return with(makeComboBox(), "drawErrorIndicator"); });
+    grid->addRow(QStringLiteral("Editable, error"),
+                 [] { return with(makeEditable(), "drawErrorIndicator"); });
     grid->addRow(QStringLiteral("Long text"), makeLong);
     section.add(grid);
 }

@@ -6,6 +6,7 @@
 
 #include <QDial>
 #include <QGridLayout>
+#include <QLCDNumber>
 #include <QLabel>
 #include <QProgressBar>
 #include <QScrollArea>
@@ -89,6 +90,14 @@ QDial* makeDial(bool notches)
     return dial;
 }
 
+QLCDNumber* makeDigits()
+{
+    auto* digits = new QLCDNumber;
+    digits->display(42.5);
+    digits->setFixedSize(14 * Unit, 5 * Unit);
+    return digits;
+}
+
 void addMore(Section& section)
 {
     QWidget* disabledSliders = makeUprightSliders();
@@ -100,6 +109,7 @@ void addMore(Section& section)
     auto* grid = new StateGrid;
     grid->addRow(QStringLiteral("Dial"), [] { return makeDial(false); });
     grid->addRow(QStringLiteral("Dial with notches"), [] { return makeDial(true); });
+    grid->addRow(QStringLiteral("Digits"), makeDigits);
     section.add(grid);
 }
 

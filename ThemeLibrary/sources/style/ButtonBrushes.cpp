@@ -259,7 +259,7 @@ bool isPopupVisible(const QComboBox& comboBox)
 bool isFocusWithin(const QComboBox& comboBox)
 {
     const QWidget* focused = QApplication::focusWidget();
-    return focused && (focused == &comboBox || comboBox.isAncestorOf(focused));
+    return comboBox.hasFocus() || (focused && comboBox.isAncestorOf(focused));
 }
 
 void dressAsComboBox(ButtonLook& look)

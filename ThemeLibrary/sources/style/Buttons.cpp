@@ -178,14 +178,15 @@ void paintSegment(const PaintContext& context, const BaseStyle::ButtonBrushes& b
 {
     const PainterSaver saver(context.painter);
     context.painter.setRenderHint(QPainter::Antialiasing);
-    context.painter.setPen(Shapes::borderPen(brushes.borderBrush));
     context.painter.setBrush(brushes.backgroundBrush);
-    const QRect rect = segmentRect(context);
     if (context.rightToLeft() && isInRow(context.widget)) {
         context.painter.translate(2 * context.option.rect.x() + context.option.rect.width(), 0);
         context.painter.scale(-1, 1);
     }
-    context.style.drawButtonGroup(Shapes::onPixels(rect), &context.painter, &context.option,
+    QPen pen = Shapes::borderPen(brushes.borderBrush);
+    const QRectF rect = Shapes::middleOfBorder(context.painter, segmentRect(context), pen);
+    context.painter.setPen(pen);
+    context.style.drawButtonGroup(rect, &context.painter, &context.option,
                                   Shapes::cornerRadius(ThemeNames::baseSize()), brushes,
                                   context.widget);
 }

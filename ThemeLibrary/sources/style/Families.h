@@ -2,6 +2,7 @@
 
 #include <QStyle>
 
+class QLineEdit;
 class QStyleOptionButton;
 class QStyleOptionComboBox;
 class QStyleOptionDockWidget;
@@ -27,6 +28,7 @@ class QStyleOptionViewItem;
 namespace BRELK {
 
 class BasePart;
+class BaseStyle;
 struct MeasureContext;
 struct PaintContext;
 struct StyleContext;
@@ -110,6 +112,9 @@ void paintHeaderLabel(const PaintContext& context, const QStyleOptionHeader& hea
 } // namespace ItemViews
 
 namespace LineEdits {
+/// Lets the text of an editor that is a part of another input begin where that of a line edit does,
+/// and makes that input as high.
+void placeText(const BaseStyle& style, QLineEdit& editor);
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
                    const QSize& contents, const QSize& base);
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);

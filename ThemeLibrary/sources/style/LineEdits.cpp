@@ -7,12 +7,42 @@
 #include <QAbstractScrollArea>
 #include <QAbstractSpinBox>
 #include <QComboBox>
+#include <QLineEdit>
 
 // Line edits, and the frames that text editors and views share with them.
 //
 // Properties: "drawErrorIndicator".
 
 namespace BRELK::LineEdits {
+
+namespace {
+
+/// What makes a spin box as high as the controls beside it: its size is that of its editor and of
+/// its frame.
+int heightToFill(const BaseStyle& style, const QLineEdit& editor, const QWidget& spinBox)
+{
+    const int frameWidth =
+        style.proxy()->pixelMetric(QStyle::PM_SpinBoxFrameWidth, nullptr, &spinBox);
+    const int height = editor.sizeHint().height() + 2 * frameWidth;
+    return qMax(0, MeasureContext{style, nullptr, &editor}.controlHeight() - height);
+}
+
+} // namespace
+
+void placeText(const BaseStyle& style, QLineEdit& editor)
+{
+    const QWidget* owner = editor.parentWidget();
+    if (!editor.textMargins().isNull()) // the application's, or set already
+        return;
+    if (qobject_cast<const QComboBox*>(owner))
+        editor.setTextMargins(1, 0, 1, 0);
+    const auto* spinBox = qobject_cast<const QAbstractSpinBox*>(owner);
+    if (!spinBox || !spinBox->hasFrame())
+        return;
+    const int fill = heightToFill(style, editor, *spinBox);
+    const bool isComboBox = WidgetTraits::isCalendarPopupEditor(owner);
+    editor.setTextMargins(isComboBox ? 1 : 3, (fill + 1) / 2, isComboBox ? 1 : 2, fill / 2);
+}
 
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
                    const QSize& contents, const QSize&)
@@ -112,8 +142,7 @@ void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame)
         context.painter.fillRect(frame.rect, fill);
         return;
     }
-    const int radius = qMax(0, Shapes::cornerRadius(ThemeNames::baseSize()) - 1);
-    Shapes::drawBox(context, frame.rect.adjusted(1, 1, -1, -1), radius, fill, Qt::NoBrush);
+    Shapes::drawGround(context, frame.rect, Shapes::cornerRadius(ThemeNames::baseSize()), fill);
     context.draw(QStyle::PE_FrameLineEdit, frame);
 }
 

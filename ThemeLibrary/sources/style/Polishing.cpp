@@ -1,17 +1,17 @@
 #include "BaseStyle.h"
 #include "ComboBoxDefaultItemDelegate.h"
-#include "StyleContext.h"
+#include "Families.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
 
 #include <QAbstractItemView>
-#include <QAbstractSpinBox>
 #include <QApplication>
 #include <QCalendarWidget>
 #include <QCommandLinkButton>
 #include <QDockWidget>
+#include <QLCDNumber>
 #include <QLayout>
 #include <QLineEdit>
 #include <QMainWindow>
@@ -156,6 +156,14 @@ void setTabFont(BaseStyle&, QWidget& widget)
     const QFont font = ThemeResources::getFont(tabFontName(widget));
     widget.setProperty(Properties::StyleSheetWidgetFont, font);
     widget.setFont(font);
+}
+
+/// The raised segments that are the default are drawn, when small, in nothing but their shades.
+void flattenDigits(BaseStyle&, QWidget& widget)
+{
+    auto& number = as<QLCDNumber>(widget);
+    if (number.segmentStyle() == QLCDNumber::Filled)
+        number.setSegmentStyle(QLCDNumber::Flat);
 }
 
 void raiseStatusBar(BaseStyle&, QWidget& widget)
@@ -318,31 +326,9 @@ void calmWeekends(BaseStyle&, QWidget& widget)
     }
 }
 
-/// What makes a spin box as high as the controls beside it: its size is that of its editor and of
-/// its frame.
-int heightToFill(const BaseStyle& style, const QLineEdit& editor, const QWidget& spinBox)
+void placeText(BaseStyle& style, QWidget& widget)
 {
-    const int frameWidth =
-        style.proxy()->pixelMetric(QStyle::PM_SpinBoxFrameWidth, nullptr, &spinBox);
-    const int height = editor.sizeHint().height() + 2 * frameWidth;
-    return qMax(0, MeasureContext{style, nullptr, &editor}.controlHeight() - height);
-}
-
-/// The text of an editor that is a part of another input begins where that of a line edit does.
-void setInEditor(BaseStyle& style, QWidget& widget)
-{
-    auto& editor = as<QLineEdit>(widget);
-    const QWidget* owner = editor.parentWidget();
-    if (!editor.textMargins().isNull()) // the application's, or set already
-        return;
-    if (is<QComboBox>(owner))
-        editor.setTextMargins(1, 0, 1, 0);
-    const auto* spinBox = qobject_cast<const QAbstractSpinBox*>(owner);
-    if (!spinBox || !spinBox->hasFrame())
-        return;
-    const int fill = heightToFill(style, editor, *spinBox);
-    const bool isComboBox = WidgetTraits::isCalendarPopupEditor(owner);
-    editor.setTextMargins(isComboBox ? 1 : 3, (fill + 1) / 2, isComboBox ? 1 : 2, fill / 2);
+    LineEdits::placeText(style, as<QLineEdit>(widget));
 }
 
 void watch(BaseStyle& style, QWidget& widget)
@@ -389,6 +375,7 @@ constexpr PolishRule Rules[] = {
     {WidgetTraits::isLabel,            fadeDisabledLabel},
     {tracksHover,                      trackHover},
     {WidgetTraits::isTabWidgetOrBar,   setTabFont},
+    {is<QLCDNumber>,                   flattenDigits},
     {WidgetTraits::isStatusBar,        raiseStatusBar},
     {is<QScrollArea>,                  lightenViewport},
     {hasOwnBackground,                 paintBackground},
@@ -402,7 +389,7 @@ constexpr PolishRule Rules[] = {
     {has<Properties::PillFont>,        setPillFont},
     {WidgetTraits::isPeriodicTable,    dressPeriodicTable},
     {WidgetTraits::isRangeSlider,      dressRangeSlider},
-    {is<QLineEdit>,                    setInEditor},
+    {is<QLineEdit>,                    placeText},
     {is<QCommandLinkButton>,           watch},
     {hasNoShadow,                      castShadow},
     {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},

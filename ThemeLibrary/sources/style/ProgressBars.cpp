@@ -174,15 +174,13 @@ QBrush fillBrush(const PaintContext& context)
     return highlight;
 }
 
+/// `rect` runs through the middle of the border.
 void drawShape(const PaintContext& context, const QRectF& rect, const QBrush& brush,
                Helpers::StraightCornerFlags corners)
 {
-    const PainterSaver saver(context.painter);
-    context.painter.setPen(
-        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    context.painter.setBrush(brush);
-    Helpers::drawRoundedRectShape(rect, Shapes::cornerRadius(ThemeNames::baseSize()), corners,
-                                  &context.painter);
+    Shapes::drawBox(context, rect.adjusted(-0.5, -0.5, 0.5, 0.5),
+                    Shapes::cornerRadius(ThemeNames::baseSize()), brush,
+                    context.borderBrush().color(), corners);
 }
 
 /// Text in one brush where it lies in `clip`.

@@ -6,13 +6,38 @@
 
 #include <QGuiApplication>
 
+#include <cmath>
+
 namespace BRELK::Shapes {
 
 namespace {
 
-bool isWhole(qreal scale)
+/// Whether the edges of logical pixels may lie inside those of the device.
+bool isBetweenPixels(const QPainter& painter)
 {
-    return qFuzzyCompare(scale, qRound(scale));
+    const qreal ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1;
+    return !qFuzzyCompare(ratio, qRound(ratio));
+}
+
+/// A box moved to whole pixels of the device, and as much of a logical pixel as fills whole ones.
+struct PlacedBox
+{
+    QRectF rect;
+    qreal border;
+};
+
+PlacedBox placed(const QPainter& painter, const QRectF& rect)
+{
+    if (!isBetweenPixels(painter))
+        return {rect, 1};
+    const QTransform transform = painter.deviceTransform();
+    if (transform.type() > QTransform::TxScale)
+        return {rect, 1};
+    const QRectF covered = transform.mapRect(rect);
+    const QRectF whole(QPointF(qRound(covered.left()), qRound(covered.top())),
+                       QPointF(qRound(covered.right()), qRound(covered.bottom())));
+    const qreal scale = qAbs(transform.m11());
+    return {transform.inverted().mapRect(whole), qMax(1.0, std::floor(scale)) / scale};
 }
 
 } // namespace
@@ -20,6 +45,15 @@ bool isWhole(qreal scale)
 QRectF onPixels(const QRect& rect)
 {
     return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
+}
+
+QRectF middleOfBorder(const QPainter& painter, const QRectF& rect, QPen& pen)
+{
+    const PlacedBox box = placed(painter, rect);
+    if (box.border < 1)
+        pen.setWidthF(box.border);
+    const qreal half = box.border / 2;
+    return box.rect.adjusted(half, half, -half, -half);
 }
 
 QPen borderPen(const QBrush& border)
@@ -34,14 +68,24 @@ int cornerRadius(const QString& name)
     return int(ThemeResources::getCornerRadius(name));
 }
 
-void drawBox(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill,
+void drawBox(const PaintContext& context, const QRectF& rect, int radius, const QBrush& fill,
              const QBrush& border, Helpers::StraightCornerFlags straightCorners)
 {
     const bool hasBorder = border.style() != Qt::NoBrush;
     if (!hasBorder && fill.style() == Qt::NoBrush)
         return;
-    Helpers::drawRoundedBox(hasBorder ? onPixels(rect) : QRectF(rect), radius, straightCorners,
-                            borderPen(border), fill, &context.painter);
+    QPen pen = borderPen(border);
+    const QRectF shape =
+        hasBorder ? middleOfBorder(context.painter, rect, pen) : placed(context.painter, rect).rect;
+    Helpers::drawRoundedBox(shape, radius, straightCorners, pen, fill, &context.painter);
+}
+
+void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill)
+{
+    const PlacedBox box = placed(context.painter, rect);
+    const qreal inset = box.border;
+    Helpers::drawRoundedBox(box.rect.adjusted(inset, inset, -inset, -inset), qMax(0, radius - 1),
+                            Helpers::None, QPen(Qt::NoPen), fill, &context.painter);
 }
 
 void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
@@ -49,19 +93,16 @@ void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
 {
     // A filled rectangle covers the same pixels at every scale; a line need not.
     const QRect line = QRect(from, to).normalized();
-    const QTransform transform = context.painter.deviceTransform();
-    if (transform.type() > QTransform::TxScale || isWhole(transform.m11())) {
+    if (!isBetweenPixels(context.painter)) {
         context.painter.fillRect(line, brush);
         return;
     }
-    // A pixel covers, say, one or two of the device's: all lines are to be equally thick.
-    const QRectF covered = transform.mapRect(QRectF(line));
-    const int thickness = qMax(1, int(transform.m11()));
-    const int left = qRound(covered.left());
-    const int top = qRound(covered.top());
-    const int width = line.width() == 1 ? thickness : qRound(covered.right()) - left;
-    const int height = line.height() == 1 ? thickness : qRound(covered.bottom()) - top;
-    context.painter.fillRect(transform.inverted().mapRect(QRectF(left, top, width, height)), brush);
+    PlacedBox box = placed(context.painter, line);
+    if (line.width() == 1)
+        box.rect.setWidth(box.border);
+    if (line.height() == 1)
+        box.rect.setHeight(box.border);
+    context.painter.fillRect(box.rect, brush);
 }
 
 QPixmap iconPixmap(const QPainter& painter, const QIcon& icon, const QSize& size, QIcon::Mode mode,

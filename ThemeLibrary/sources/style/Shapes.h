@@ -7,11 +7,16 @@
 #include <QPen>
 
 /// How borders, boxes, lines, icons and texts are drawn: on whole pixels, and the same way by every
-/// family.
+/// family. At a scale between whole ones boxes and lines move to the nearest pixels of the device,
+/// and all borders and lines are equally thick.
 namespace BRELK::Shapes {
 
 /// `rect` shrunk by half a pixel, so that a border of one pixel fills whole pixels inside `rect`.
 QRectF onPixels(const QRect& rect);
+
+/// Where a border of one pixel runs inside `rect`; `pen` becomes as wide as that is on the device
+/// of `painter`.
+QRectF middleOfBorder(const QPainter& painter, const QRectF& rect, QPen& pen);
 
 /// A pen of one pixel with square corners; none for a brush that paints nothing.
 QPen borderPen(const QBrush& border);
@@ -20,8 +25,11 @@ QPen borderPen(const QBrush& border);
 int cornerRadius(const QString& name);
 
 /// A box filled with `fill` inside a border of one pixel; either may be `Qt::NoBrush`.
-void drawBox(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill,
+void drawBox(const PaintContext& context, const QRectF& rect, int radius, const QBrush& fill,
              const QBrush& border, Helpers::StraightCornerFlags straightCorners = Helpers::None);
+
+/// The ground inside the border of such a box.
+void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill);
 
 /// A horizontal or vertical line of one pixel, both ends included.
 void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,

@@ -116,24 +116,32 @@ QPen solidPen(const QBrush& brush)
     return {brush.color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
+/// `rect` runs through the middle of the border.
+void drawShape(const SliderLook& look, const QRectF& rect, const QBrush& fill, const QBrush& border)
+{
+    Shapes::drawBox(look.context, rect.adjusted(-0.5, -0.5, 0.5, 0.5), look.radius, fill,
+                    border.color());
+}
+
 void paintGroove(const SliderLook& look)
 {
     const PaintContext& context = look.context;
     const QBrush& grooveBrush = context.style.grooveBackgroundBrush(context.enabled());
-    QPainter& painter = context.painter;
-    painter.setPen(solidPen(look.highContrast ? look.highContrastBorder() : grooveBrush));
-    painter.setBrush(look.highContrast ? context.brush(ThemeNames::highContrastBackgroundBrush())
-                                       : grooveBrush);
+    const QBrush border = look.highContrast ? look.highContrastBorder() : grooveBrush;
+    const QBrush fill =
+        look.highContrast ? context.brush(ThemeNames::highContrastBackgroundBrush()) : grooveBrush;
     if (look.radius == 0) {
         const QRect rect =
             look.horizontal ? look.groove.adjusted(1, 0, -1, 0) : look.groove.adjusted(0, 1, 0, -1);
-        painter.fillRect(rect, painter.brush());
-        painter.drawRect(rect);
+        context.painter.setPen(solidPen(border));
+        context.painter.setBrush(fill);
+        context.painter.fillRect(rect, fill);
+        context.painter.drawRect(rect);
         return;
     }
     const QRectF rect = look.horizontal ? QRectF(look.groove).adjusted(1.5, 0.5, -1.5, 0.5)
                                         : QRectF(look.groove).adjusted(0.5, 1.5, 0.5, -1.5);
-    Helpers::drawRoundedRectShape(rect, look.radius, Helpers::None, &painter);
+    drawShape(look, rect, fill, border);
 }
 
 /// The part of the groove between its start and the handle.
@@ -153,15 +161,11 @@ QRectF highlightedRect(const SliderLook& look)
 
 void paintHighlight(const SliderLook& look)
 {
-    QPainter& painter = look.context.painter;
-    const PainterSaver saver(painter);
-    if (look.radius == 0) {
-        painter.fillRect(highlightedRect(look), look.main);
-        return;
-    }
-    painter.setPen(solidPen(look.highContrast ? look.highContrastBorder() : look.main));
-    painter.setBrush(look.main);
-    Helpers::drawRoundedRectShape(highlightedRect(look), look.radius, Helpers::None, &painter);
+    if (look.radius == 0)
+        look.context.painter.fillRect(highlightedRect(look), look.main);
+    else
+        drawShape(look, highlightedRect(look), look.main,
+                  look.highContrast ? look.highContrastBorder() : look.main);
 }
 
 int positionOf(const QStyleOptionSlider& slider, int value, int space)
