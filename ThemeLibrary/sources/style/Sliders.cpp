@@ -295,8 +295,8 @@ void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
 {
     // The base style draws notches and a focus ring that dark or light grounds swallow.
     QStyleOptionSlider copy = dial;
-    copy.palette.setColor(copy.palette.currentColorGroup(), QPalette::Dark,
-                          context.brush(ThemeNames::inputForegroundBrush()).color());
+    copy.palette.setBrush(copy.palette.currentColorGroup(), QPalette::Dark,
+                          dial.palette.brush(QPalette::WindowText));
     context.drawByBase(QStyle::CC_Dial, copy);
     if (context.has(QStyle::State_HasFocus))
         context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(dial));
