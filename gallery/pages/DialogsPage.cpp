@@ -2,6 +2,7 @@
 #include "ThemeFactory.h"
 #include "kit/Page.h"
 
+#include <QCalendarWidget>
 #include <QCheckBox>
 #include <QColorDialog>
 #include <QCoreApplication>
@@ -128,6 +129,14 @@ QFontDialog* makeFontDialog()
     return dialog;
 }
 
+QCalendarWidget* makeCalendar(bool enabled)
+{
+    auto* calendar = new QCalendarWidget;
+    calendar->setSelectedDate({2024, 9, 18});
+    calendar->setEnabled(enabled);
+    return calendar;
+}
+
 QWizardPage* makeWizardPage(const QString& title)
 {
     auto* page = new QWizardPage;
@@ -173,6 +182,8 @@ void fillDialogs(Page& page)
     files.add(framed(embedded(makeFileDialog())), true);
     page.addSection(QStringLiteral("Colors")).add(framed(embedded(makeColorDialog())));
     page.addSection(QStringLiteral("Fonts")).add(framed(embedded(makeFontDialog())));
+    page.addSection(QStringLiteral("Calendars"))
+        .add(row({framed(makeCalendar(true)), framed(makeCalendar(false))}));
     Section& wizards = page.addSection(QStringLiteral("Wizards"));
     wizards.add(framed(embedded(makeWizard(QWizard::ClassicStyle))), true);
     wizards.add(framed(embedded(makeWizard(QWizard::ModernStyle))), true);

@@ -186,6 +186,20 @@ private Q_SLOTS:
         QVERIFY(!(window.windowFlags() & Qt::NoDropShadowWindowHint));
     }
 
+    void weekendsAreRead()
+    {
+        QCalendarWidget calendar;
+        QTextCharFormat own;
+        own.setForeground(Qt::green);
+        calendar.setWeekdayTextFormat(Qt::Sunday, own);
+        QApplication::style()->polish(&calendar);
+        const auto color = [&](Qt::DayOfWeek day) {
+            return ProbeTheme::nameOf(calendar.weekdayTextFormat(day).foreground());
+        };
+        QCOMPARE(color(Qt::Saturday), "StatusDangerColor");
+        QCOMPARE(color(Qt::Sunday), "#00ff00");
+    }
+
     void nullWidgetsAreNone()
     {
         QApplication::style()->polish(static_cast<QWidget*>(nullptr));

@@ -1,5 +1,6 @@
 #include "StateSheet.h"
 
+#include <QToolBox>
 #include <QToolButton>
 #include <QToolTip>
 #include <QtTest>
@@ -22,6 +23,25 @@ QByteArray parts()
          {QStyle::CE_ToolBoxTabShape, QStyle::CE_RubberBand, QStyle::CE_ShapedFrame})
         text += sampleSheet(element, {Enabled, Disabled});
     return text + sampleSheet(QStyle::CE_Splitter, {Enabled, Disabled}, QRect(0, 0, 6, 100));
+}
+
+QPixmap referencePixmap()
+{
+    QPixmap pixmap(16, 16);
+    pixmap.fill(QColor(0xE5, 0xEE, 0xF4));
+    return pixmap;
+}
+
+QByteArray toolBoxLabels()
+{
+    const Sample sample = StyleOptions::sampleNamed("CE_ToolBoxTabLabel");
+    auto& tab = static_cast<QStyleOptionToolBox&>(*sample.option);
+    tab.rect = QRect(0, 0, 200, 40);
+    tab.text = QStringLiteral("Text");
+    tab.icon = referencePixmap();
+    QByteArray text = drawn(QStyle::CE_ToolBoxTabLabel, tab, sample.widget.get());
+    tab.direction = Qt::RightToLeft;
+    return text + "# right to left\n" + drawn(QStyle::CE_ToolBoxTabLabel, tab, sample.widget.get());
 }
 
 QByteArray toolBarParts()
@@ -141,6 +161,7 @@ private Q_SLOTS:
         QTest::newRow("Windows.parts") << parts();
         QTest::newRow("Windows.titleBar") << titleBars();
         QTest::newRow("Windows.cards") << cards();
+        QTest::newRow("ToolBoxes.labels") << toolBoxLabels();
         QTest::newRow("ToolBars.parts") << toolBarParts();
         QTest::newRow("ToolButtons.parts") << toolButtons();
     }
@@ -161,7 +182,7 @@ private Q_SLOTS:
             bar.palette.setColor(QPalette::Light, light);
             bar.palette.setColor(QPalette::Window, window);
             return drawn(QStyle::CC_TitleBar, bar, sample.widget.get())
-                .contains("brush ButtonDefaultBackgroundBrush");
+                .contains("pen palette.Highlight");
         };
         QVERIFY(hasBacking(Qt::white, Qt::black));
         QVERIFY(hasBacking(Qt::black, Qt::black));
@@ -206,6 +227,17 @@ private Q_SLOTS:
         QVERIFY(width() > without);
         button.setProperty("no menu arrow", true);
         QCOMPARE(width(), without);
+    }
+
+    void styleSheetsLeaveToolBoxLabelsToTheStyle()
+    {
+        QToolBox box;
+        box.addItem(new QWidget, referencePixmap(), {});
+        box.setStyleSheet(QStringLiteral("QLabel { color: red; }"));
+        box.resize(200, 100);
+        box.show();
+        const QImage image = box.grab(QRect(0, 0, 200, 40)).toImage();
+        QVERIFY(ProbeTheme::nameOf(image.pixelColor(18, 20)).endsWith("ButtonText"));
     }
 
     void borderPalettes()

@@ -106,7 +106,7 @@ bool hasActiveGround(const QStyleOptionTitleBar& bar)
     return !Shapes::isLight(ground) && ground != bar.palette.color(QPalette::Window);
 }
 
-/// Otherwise the caption stands on the ground of default buttons, which themes write white on.
+/// Otherwise the caption stands on the accent, or on a shade of it that white is read on.
 void paintCaptionBacking(const PaintContext& context, const QStyleOptionTitleBar& bar,
                          const QRect& label, const QString& text)
 {
@@ -117,12 +117,10 @@ void paintCaptionBacking(const PaintContext& context, const QStyleOptionTitleBar
     rect.moveCenter(label.center());
     if (text.isEmpty() || !rect.isValid())
         return;
-    QStyleOptionButton button;
-    button.features = QStyleOptionButton::DefaultButton;
-    button.state = QStyle::State_Enabled | QStyle::State_Active;
-    const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&button, nullptr);
+    constexpr int Shade = 300;
+    const QColor accent = bar.palette.color(QPalette::Highlight);
     Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::baseSize()),
-                    brushes.backgroundBrush, brushes.borderBrush);
+                    Shapes::isLight(accent) ? accent.darker(Shade) : accent, accent);
 }
 
 void paintCaption(const PaintContext& context, const QStyleOptionTitleBar& bar, bool active)

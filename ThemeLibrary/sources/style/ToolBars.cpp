@@ -1,4 +1,3 @@
-#include "ButtonContent.h"
 #include "Families.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -66,10 +65,14 @@ void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBa
     const QRect& rect = toolBar.rect;
     if (rect.isEmpty())
         return;
-    // As deep as the menu bar, so that separators, which are as high as cards, stand out.
-    const QBrush ground = context.brush(ThemeNames::backgroundSubLevel2Brush());
-    context.painter.fillRect(
-        rect, ButtonContent::textBrush(toolBar, context.widget, QPalette::Window, ground));
+    // Somewhat deeper than the window, so that separators, which are as high as cards, stand out.
+    constexpr int LightDepth = 107;
+    constexpr int DarkDepth = 160;
+    QBrush ground = toolBar.palette.brush(QPalette::Window);
+    if (ground.style() == Qt::SolidPattern)
+        ground.setColor(
+            ground.color().darker(Shapes::isLight(ground.color()) ? LightDepth : DarkDepth));
+    context.painter.fillRect(rect, ground);
     // One line between the bars of an area and what they stand around.
     if (toolBar.positionOfLine != QStyleOptionToolBar::End
         && toolBar.positionOfLine != QStyleOptionToolBar::OnlyOne)
