@@ -1,11 +1,6 @@
 #include "ProxyStyle_p.h"
 #include "StateSheet.h"
 
-#include <QLabel>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QtTest>
-
 using namespace BRELK;
 
 /// What applications ask of the style itself, and the icons that it gives them.

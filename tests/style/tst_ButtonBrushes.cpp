@@ -1,18 +1,5 @@
 #include "StateSheet.h"
 
-#include <QAbstractItemView>
-#include <QCalendarWidget>
-#include <QComboBox>
-#include <QCommandLinkButton>
-#include <QCursor>
-#include <QDateTimeEdit>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QTabBar>
-#include <QToolButton>
-#include <QVBoxLayout>
-#include <QtTest>
-
 using namespace BRELK;
 
 namespace {
@@ -148,11 +135,6 @@ private Q_SLOTS:
             }
         }
         COMPARE_TRANSCRIPT("ButtonBrushes.names", text);
-    }
-
-    void withoutWidgetTheOptionDecides()
-    {
-        QCOMPARE(brushesOf(optionOf(Checked | Hovered), nullptr), "ButtonCheckedHover");
     }
 
     void calendarButtonsLookHoveredUntilPressed()

@@ -3,11 +3,6 @@
 #include "SpyStyle.h"
 #include "StateSheet.h"
 
-#include <QAbstractItemView>
-#include <QFontComboBox>
-#include <QStandardItemModel>
-#include <QtTest>
-
 using namespace BRELK;
 
 namespace {
@@ -142,19 +137,6 @@ private Q_SLOTS:
 
         delete box;
         QVERIFY(!delegate);
-    }
-
-    void aDelegateMayOutliveItsComboBox()
-    {
-        auto box = comboBox();
-        const Delegate delegate(nullptr, box.get());
-        const std::unique_ptr<QAbstractItemModel> model(box->model());
-        model->setParent(nullptr);
-        box.reset();
-        const QModelIndex separator = model->index(Separator, 0);
-        QVERIFY(!delegate.sizeHint({}, separator).isEmpty());
-        paintRow(delegate, {}, separator);
-        paintRow(delegate, {}, model->index(0, 0));
     }
 
     /// The last test: it takes the style away.

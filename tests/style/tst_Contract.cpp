@@ -4,8 +4,6 @@
 #include "SpyStyle.h"
 #include "StateSheet.h"
 
-#include <QtTest>
-
 // What holds for every element that the toolkit has, whoever paints or measures it. The program is
 // built twice: with a theme that has every name, and with one that has none.
 

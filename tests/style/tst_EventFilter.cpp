@@ -1,15 +1,6 @@
 #include "PaintCounter.h"
 #include "StateSheet.h"
 
-#include <QAction>
-#include <QCommandLinkButton>
-#include <QKeyEvent>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QToolButton>
-#include <QVBoxLayout>
-#include <QtTest>
-
 using namespace BRELK;
 
 namespace {

@@ -1,15 +1,5 @@
 #include "StateSheet.h"
 
-#include <QAbstractItemView>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSpinBox>
-#include <QtTest>
-
 using namespace StateSheet;
 
 // Stands in for a widget of another library, which the style knows by its name.

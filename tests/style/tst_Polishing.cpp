@@ -1,8 +1,5 @@
 #include "StateSheet.h"
 
-#include <QtTest>
-#include <QtWidgets>
-
 // Stand in for widgets of other libraries, which the style knows by their names.
 namespace BRELK::Components {
 

@@ -1,11 +1,6 @@
 #include "PaintCounter.h"
 #include "StateSheet.h"
 
-#include <QProgressBar>
-#include <QScrollBar>
-#include <QSlider>
-#include <QtTest>
-
 #include <limits>
 
 using namespace StateSheet;

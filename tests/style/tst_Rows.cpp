@@ -1,14 +1,5 @@
 #include "StateSheet.h"
 
-#include <QComboBox>
-#include <QDateEdit>
-#include <QHBoxLayout>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QToolButton>
-#include <QtTest>
-
 #include <functional>
 
 // The controls of one row are of one height, and their texts stand on one line. The program is run

@@ -1,15 +1,5 @@
 #include "StateSheet.h"
 
-#include <QListView>
-#include <QMenu>
-#include <QMenuBar>
-#include <QStandardItemModel>
-#include <QTabBar>
-#include <QTabWidget>
-#include <QTableView>
-#include <QTreeView>
-#include <QtTest>
-
 // Item views, menus and tabs.
 
 using namespace StateSheet;

@@ -1,10 +1,5 @@
 #include "StateSheet.h"
 
-#include <QToolBox>
-#include <QToolButton>
-#include <QToolTip>
-#include <QtTest>
-
 using namespace StateSheet;
 
 // Title bars, tool bars, frames, cards and what else windows are made of.

@@ -66,18 +66,6 @@ QVariantMap fonts()
             {QStringLiteral("large"), font(LargeFont)}};
 }
 
-void change(QVariantMap& groups, const QString& path, const QVariant& value)
-{
-    const QString group = path.section(QLatin1Char('/'), 0, 0);
-    const QString name = path.section(QLatin1Char('/'), 1);
-    QVariantMap values = groups.value(group).toMap();
-    if (value.isValid())
-        values.insert(name, value);
-    else
-        values.remove(name);
-    groups.insert(group, values);
-}
-
 /// The icons stand flat in the library's resources, where only a fallback path finds them, and
 /// without a theme name Qt looks in none.
 void findLibraryIcons()
@@ -88,9 +76,9 @@ void findLibraryIcons()
 
 } // namespace
 
-void publish(const QVariantMap& changes)
+void publish()
 {
-    QVariantMap groups{
+    const QVariantMap groups{
         {QStringLiteral("colors"), valuesWithTwins<QColor>(AllThemeNames::colors())},
         {QStringLiteral("internalColors"), QVariantMap()},
         {QStringLiteral("brushes"), valuesWithTwins<QBrush>(AllThemeNames::brushes())},
@@ -101,8 +89,6 @@ void publish(const QVariantMap& changes)
                                                      {QStringLiteral("BaseSize"), BaseRadius},
                                                      {QStringLiteral("MediumSize"), MediumRadius},
                                                      {QStringLiteral("LargeSize"), LargeRadius}}}};
-    for (auto entry = changes.cbegin(); entry != changes.cend(); ++entry)
-        change(groups, entry.key(), entry.value());
     qApp->setProperty("theme_var", groups);
     findLibraryIcons();
 }
@@ -134,8 +120,6 @@ QPalette palette()
 
 QByteArray nameOf(const QColor& color)
 {
-    if (!color.isValid())
-        return QByteArrayLiteral("invalid");
     QByteArray name = namesByColor().value(color.rgb() | 0xff000000);
     if (name.isEmpty())
         name = color.name().toLatin1();
@@ -144,33 +128,18 @@ QByteArray nameOf(const QColor& color)
 
 QByteArray nameOf(const QBrush& brush)
 {
-    switch (brush.style()) {
-    case Qt::NoBrush: return QByteArrayLiteral("none");
-    case Qt::SolidPattern: return nameOf(brush.color());
-    case Qt::TexturePattern: return QByteArrayLiteral("texture");
-    default: break;
-    }
-    if (!brush.gradient())
-        return nameOf(brush.color()) + " pattern " + QByteArray::number(brush.style());
-    QByteArrayList stops;
-    const QGradientStops gradientStops = brush.gradient()->stops();
-    for (const QGradientStop& stop : gradientStops)
-        stops.append(nameOf(stop.second));
-    return "gradient(" + stops.join(' ') + ')';
+    return brush.style() == Qt::NoBrush ? QByteArrayLiteral("none") : nameOf(brush.color());
 }
 
 QByteArray nameOf(const QFont& font)
 {
-    QByteArray name;
-    switch (font.pixelSize()) {
-    case SmallFont: name = QByteArrayLiteral("small"); break;
-    case BaseFont: name = QByteArrayLiteral("base"); break;
-    case MediumFont: name = QByteArrayLiteral("medium"); break;
-    case LargeFont: name = QByteArrayLiteral("large"); break;
-    case -1: name = QByteArray::number(font.pointSizeF()) + "pt"; break;
-    default: name = QByteArray::number(font.pixelSize()) + "px"; break;
-    }
-    return name + (font.bold() ? " bold" : "") + (font.italic() ? " italic" : "");
+    const QHash<int, QByteArray> names{{SmallFont, "small"},
+                                       {BaseFont, "base"},
+                                       {MediumFont, "medium"},
+                                       {LargeFont, "large"},
+                                       {-1, QByteArray::number(font.pointSizeF()) + "pt"}};
+    return names.value(font.pixelSize(), QByteArray::number(font.pixelSize()) + "px")
+           + (font.bold() ? " bold" : "") + (font.italic() ? " italic" : "");
 }
 
 QByteArray nameOf(const QImage& picture)

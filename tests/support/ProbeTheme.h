@@ -27,9 +27,8 @@ constexpr int BaseFont = 12;
 constexpr int MediumFont = 14;
 constexpr int LargeFont = 18;
 
-/// Publishes the theme, and finds the library's icons in place of an icon theme. `changes` replaces
-/// values by path, as in {{"cornerRadius/BaseSize", 0}}; an invalid value takes the name away.
-void publish(const QVariantMap& changes = {});
+/// Publishes the theme, and finds the library's icons in place of an icon theme.
+void publish();
 
 /// Publishes a theme that has no names at all.
 void publishEmpty();

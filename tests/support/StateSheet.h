@@ -5,8 +5,8 @@
 #include "StyleOptions.h"
 #include "Transcript.h"
 
-#include <QApplication>
-#include <QVector>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <type_traits>
 

@@ -71,16 +71,6 @@ class Files(unittest.TestCase):
             for color in colors_of(text):
                 self.assertRegex(color, "^#[0-9A-F]{6}$", name)
 
-    def test_paint_keeps_its_distance_from_the_edge(self):
-        for name, row in MANIFEST.items():
-            icon = compose(row, GLYPHS)
-            margin = 2 if icon.size == 24 else 1
-            for shape in icon.shapes:
-                half_width = 0 if shape.paint in (drawing.FILL, drawing.TONE) else svg.STROKE_WIDTH / 2
-                for point in (p for contour in shape.contours for p in contour.points()):
-                    for place in (point.real, point.imag):
-                        self.assertGreaterEqual(min(place, icon.size - place) - half_width, margin - .03, name)
-
     def test_every_name_that_the_sources_ask_for_exists(self):
         groups = {name.partition(".")[0] for name in ICONS}
         for folder in ("ThemeLibrary", "CommonUtils", "gallery"):
@@ -91,12 +81,6 @@ class Files(unittest.TestCase):
                     words = name.split(".")
                     if words[0] in groups and words[-1] not in NOT_NAMES:
                         self.assertTrue(name in ICONS or name in CURSORS, f"{path.name}: {name}")
-
-    def test_the_documentation_shows_every_group(self):
-        text = (ROOT / "docs/icons.md").read_text(encoding="utf-8")
-        shown = set(re.findall(r"\(images/icons/(\w+)\.png\)", text))
-        self.assertEqual(shown, {name.partition(".")[0] for name in ICONS} | {"cursors"})
-        self.assertEqual(shown, {path.stem for path in (ROOT / "docs/images/icons").glob("*.png")})
 
     def test_every_glyph_is_used(self):
         text = " ".join(f"{row['base']} {row['modifiers']}" for row in MANIFEST.values())

@@ -2,9 +2,10 @@
 #include "BaseTheme.h"
 #include "MessageRecorder.h"
 #include "TemporaryRepository.h"
+#include "ThemeFactory.h"
 #include "ThemeResources.h"
+#include "Transcript.h"
 
-#include <QApplication>
 #include <QDir>
 #include <QIcon>
 #include <QToolTip>
@@ -15,9 +16,9 @@ using namespace BRELK;
 
 namespace {
 
-QVariant variable(const char* path)
+QVariant mainColor()
 {
-    return ThemeResources::getThemeVar(QString::fromLatin1(path), {});
+    return ThemeResources::getThemeVar(QStringLiteral("colors/MainColor"), {});
 }
 
 /// The installed style; the application's own is the one of its style sheet, which owns it.
@@ -30,33 +31,51 @@ BaseStyle* installedStyle()
 class Witness : public QWidget
 {
 public:
-    QVariant mainColor;
-    QString iconTheme;
+    QVariant seenColor;
+    QString seenIcons;
 
 protected:
     void changeEvent(QEvent* event) override
     {
-        if (event->type() == QEvent::StyleChange && !mainColor.isValid()) {
-            mainColor = variable("colors/MainColor");
-            iconTheme = QIcon::themeName();
+        if (event->type() == QEvent::StyleChange && !seenColor.isValid()) {
+            seenColor = mainColor();
+            seenIcons = QIcon::themeName();
         }
     }
 };
 
-/// All that applying a theme changes.
-struct Snapshot
+QByteArray toText(const QPalette& palette)
 {
-    QVariant variables = qApp->property("theme_var");
-    QStyle* style = qApp->style();
-    QString sheet = qApp->styleSheet();
-    QPalette palette = QApplication::palette();
-    QPalette tips = QToolTip::palette();
-    QString iconTheme = QIcon::themeName();
-    QStringList iconPaths = QIcon::themeSearchPaths() + QIcon::fallbackSearchPaths();
-    QStringList searchPaths = QDir::searchPaths(ThemeResources::iconsPrefix())
-                              + QDir::searchPaths(ThemeResources::cursorsPrefix())
-                              + QDir::searchPaths(ThemeResources::themeResourcesPrefix());
-};
+    QByteArray text;
+    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+        for (const auto role : {QPalette::Window, QPalette::WindowText})
+            text += ' ' + palette.color(group, role).name().toLatin1();
+    return text;
+}
+
+/// All that applying a theme changes.
+QByteArray state()
+{
+    QByteArray text;
+    const QVariantMap groups = qApp->property("theme_var").toMap();
+    for (auto group = groups.cbegin(); group != groups.cend(); ++group)
+        text += group.key().toLatin1() + ": "
+                + QStringList(group->toMap().keys()).join(QLatin1Char(' ')).toLatin1() + '\n';
+    text += "main color " + mainColor().value<QColor>().name().toLatin1() + '\n';
+    if (installedStyle())
+        text += "style, palette" + toText(QApplication::palette()) + ", tool tips"
+                + toText(QToolTip::palette()) + '\n';
+    for (const char* part : {"#203040", "@"})
+        if (qApp->styleSheet().contains(QLatin1String(part)))
+            text += QByteArray("style sheet with ") + part + '\n';
+    if (qFuzzyCompare(QApplication::font().pointSizeF(), 13))
+        text += "font\n";
+    QStringList paths{QIcon::themeName()};
+    paths += QIcon::themeSearchPaths() + QIcon::fallbackSearchPaths();
+    for (const char* prefix : {"icons", "cursors", "resources"})
+        paths += QDir::searchPaths(QLatin1String(prefix));
+    return text + paths.join(QLatin1Char('\n')).toLatin1() + '\n';
+}
 
 } // namespace
 
@@ -65,199 +84,122 @@ class tst_BaseTheme : public QObject
     Q_OBJECT
 
 private:
-    const TemporaryRepository m_repository;
-
-private Q_SLOTS:
+    /// What applying a theme reports and changes, and what applying another one after it does.
+    QByteArray applied(const QByteArray& title, const QStringList& themes = {QStringLiteral("a")})
+    {
+        QByteArray text = "# " + title + '\n';
+        for (const QString& theme : themes) {
+            MessageRecorder messages;
+            BaseTheme(m_files.path(theme)).customize(qApp);
+            QStringList reports = messages.take();
+            reports.sort();
+            for (const QString& report : qAsConst(reports))
+                text += report.toUtf8() + '\n';
+        }
+        text += state();
+        text.replace(m_files.path().toUtf8(), "REPOSITORY");
+        reset();
+        return text;
+    }
 
     /// Search paths and settings of one case are not to be seen by the next.
-    void init()
+    static void reset()
     {
-        for (const QString& prefix :
-             {ThemeResources::iconsPrefix(), ThemeResources::cursorsPrefix(),
-              ThemeResources::themeResourcesPrefix()})
-            QDir::setSearchPaths(prefix, {});
+        for (const char* prefix : {"icons", "cursors", "resources"})
+            QDir::setSearchPaths(QLatin1String(prefix), {});
         // Without any path of its own Qt falls back to the system's.
         QIcon::setThemeSearchPaths({QStringLiteral(":/none")});
         QIcon::setFallbackSearchPaths({});
         QIcon::setThemeName(QStringLiteral("before"));
+        QApplication::setStyle(QStringLiteral("windows"));
+        QApplication::setPalette({});
+        QApplication::setFont(QFont(QStringLiteral("Sans"), 11));
         qApp->setStyleSheet({});
         qApp->setProperty("theme_var", {});
     }
 
-    void publishesVariables()
+    const TemporaryRepository m_files;
+
+private Q_SLOTS:
+
+    void init()
     {
-        BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
-        const QStringList groups = qApp->property("theme_var").toMap().keys();
-        QCOMPARE(groups.join(QLatin1Char(' ')),
-                 QStringLiteral("brushes colors cornerRadius fonts internalBrushes internalColors "
-                                "opacities"));
-        QVERIFY(!variable("colors/Secret").isValid());
-        QCOMPARE(variable("internalColors/Secret").value<QColor>(), QColor(Qt::green));
-        QCOMPARE(ThemeResources::getDisabledFactor(QStringLiteral("DarkBackgroundDisableFactor")),
-                 200);
+        reset();
+        m_files.addTheme(QStringLiteral("a"), "A");
+        m_files.addTheme(QStringLiteral("b"), "B", "#0000ff");
     }
 
-    void installsStylePaletteSheetsAndFont()
+    void applying()
     {
-        BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
-
-        QVERIFY(installedStyle());
-        const QPalette palette = QApplication::palette();
-        QCOMPARE(palette, installedStyle()->getPalette());
-        QCOMPARE(palette.color(QPalette::Inactive, QPalette::Window), QColor(0x102030));
-        // A text is halved by its factor of 200, a dark background doubled by that of backgrounds.
-        QCOMPARE(palette.color(QPalette::Disabled, QPalette::WindowText).lightness(), 127);
-        QCOMPARE(palette.color(QPalette::Disabled, QPalette::Window),
-                 QColor(0x102030).lighter(200));
-        QVERIFY(qApp->styleSheet().contains(QLatin1String("#203040")));
-        QVERIFY(!qApp->styleSheet().contains(QLatin1Char('@')));
-        QCOMPARE(QApplication::font().pointSizeF(), 13.0);
-    }
-
-    void tipsAreTheThemesWhereTheApplicationHasColorsOfItsOwn()
-    {
-        QApplication::setPalette(QPalette(Qt::green));
-        BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
-        QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(Qt::green));
-        QCOMPARE(QToolTip::palette().color(QPalette::Window), QColor(0x102030));
-        QApplication::setPalette({});
-        QCOMPARE(QApplication::palette().color(QPalette::Window), QColor(0x102030));
-    }
-
-    void registersPathsOfTheThemeBeforeTheLibrarys()
-    {
-        const QString path = m_repository.addTheme(QStringLiteral("dir"), "Title");
-        BaseTheme(path).customize(qApp);
-        BaseTheme(path).customize(qApp);
-
-        const QString images = path + QLatin1String("/Images/");
-        const auto twice = [](const QStringList& paths) { return paths + paths; };
-        QCOMPARE(QIcon::themeName(), QStringLiteral("Title"));
-        QCOMPARE(QIcon::themeSearchPaths().mid(1), twice({images}));
-        QCOMPARE(QIcon::fallbackSearchPaths(), twice({QStringLiteral(":/icons")}));
-        QCOMPARE(QDir::searchPaths(QStringLiteral("icons")),
-                 twice({images + QLatin1String("Title/scalable"), QStringLiteral(":/Icons")}));
-        QCOMPARE(QDir::searchPaths(QStringLiteral("cursors")),
-                 twice({images + QLatin1String("Title/Cursors"), QStringLiteral(":/Cursors")}));
-        QCOMPARE(QDir::searchPaths(QStringLiteral("resources")),
-                 twice({images + QLatin1String("Title/theme_resources")}));
-    }
-
-    void variablesAreThereWhenWidgetsAreRestyled()
-    {
-        Witness widget;
-        BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
-        QCOMPARE(widget.mainColor.value<QColor>(), QColor(Qt::red));
-        QCOMPARE(widget.iconTheme, QStringLiteral("before"));
-    }
-
-    void secondThemeReplacesTheFirst()
-    {
-        BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
-        const QPointer<BaseStyle> first = installedStyle();
-        BaseTheme(m_repository.addTheme(QStringLiteral("b"), "B", "#0000ff")).customize(qApp);
-        QCOMPARE(variable("colors/MainColor").value<QColor>(), QColor(Qt::blue));
-        QVERIFY(qApp->styleSheet().contains(QLatin1String("#0000ff")));
-        QCOMPARE(QIcon::themeName(), QStringLiteral("B"));
-        QVERIFY(!first && installedStyle());
-    }
-
-    void nativeStyleGetsVariablesFontAndPathsOnly()
-    {
-        QApplication::setStyle(QStringLiteral("windows"));
-        const Snapshot before;
+        QByteArray text = applied("applied")
+                          + applied("twice", {QStringLiteral("a"), QStringLiteral("a")})
+                          + applied("another", {QStringLiteral("a"), QStringLiteral("b")});
         qputenv("BRELK_USE_NATIVE_STYLE", "");
-        BaseTheme(m_repository.addTheme(QStringLiteral("a"), "A")).customize(qApp);
+        text += applied("with the native style");
         qunsetenv("BRELK_USE_NATIVE_STYLE");
-
-        const Snapshot after;
-        QCOMPARE(after.style, before.style);
-        QCOMPARE(after.sheet, QString());
-        QCOMPARE(after.palette, before.palette);
-        QCOMPARE(after.tips, before.tips);
-        QCOMPARE(variable("colors/MainColor").value<QColor>(), QColor(Qt::red));
-        QCOMPARE(QApplication::font().pointSizeF(), 13.0);
-        QCOMPARE(after.iconTheme, QStringLiteral("A"));
-        QCOMPARE(after.searchPaths.size(), 5);
-    }
-
-    void badFiles_data()
-    {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("message");
-        QTest::addColumn<QByteArray>("content");
-        const std::pair<const char*, QByteArray> contents[] = {
-            {"missing", ""}, {"a directory", "/"}, {"malformed", "<theme><name>A</nam"}};
-        const std::pair<const char*, const char*> files[] = {
-            {"theme.xml", "Error reading theme configuration file %1/theme.xml"},
-            {"config.xml", "Error reading theme palette file: %1/palette.xml"},
-            {"qpaletteMapping.xml",
-             "Error reading theme QPalette mapping file: %1/qpaletteMapping.xml"}};
-        for (const auto& [file, message] : files) {
-            for (const auto& [kind, content] : contents)
-                QTest::addRow("%s %s", file, kind)
-                    << QString::fromLatin1(file) << QString::fromLatin1(message) << content;
+        QApplication::setPalette(QPalette(Qt::green));
+        text += applied("over colors of the application's own");
+        for (const char* file : {"theme.xml", "config.xml", "qpaletteMapping.xml"}) {
+            const QString path = m_files.path(QLatin1String("a/") + QLatin1String(file));
+            QFile::remove(path);
+            text += applied(QByteArray("without ") + file);
+            QDir().mkdir(path);
+            text += applied(QByteArray("with a directory ") + file);
+            QDir().rmdir(path);
+            m_files.write(QLatin1String("a/") + QLatin1String(file), "<theme><name>A</nam");
+            text += applied(QByteArray("with a broken ") + file);
+            m_files.addTheme(QStringLiteral("a"), "A");
         }
-    }
-
-    void badFiles()
-    {
-        QFETCH(QString, file);
-        QFETCH(QString, message);
-        QFETCH(QByteArray, content);
-        const TemporaryRepository repository;
-        const QString path = repository.addTheme(QStringLiteral("bad"), "A");
-        QFile::remove(path + QLatin1Char('/') + file);
-        if (content == "/")
-            QDir(path).mkdir(file);
-        else if (!content.isEmpty())
-            repository.write(QLatin1String("bad/") + file, content);
-
-        const Snapshot before;
-        MessageRecorder messages;
-        BaseTheme(path).customize(qApp);
-        const Snapshot after;
-
-        const QStringList all = messages.take();
-        QCOMPARE(all.count(message.arg(path)), 1);
-        if (file == QLatin1String("theme.xml")) {
-            QCOMPARE(all.size(), 1);
-            QCOMPARE(after.variables, before.variables);
-            QCOMPARE(after.style, before.style);
-            QCOMPARE(after.iconTheme, before.iconTheme);
-            QCOMPARE(after.iconPaths + after.searchPaths, before.iconPaths + before.searchPaths);
-            return;
-        }
-        QVERIFY(installedStyle());
-        QCOMPARE(after.variables.toMap().size(), 7);
-        QCOMPARE(after.searchPaths.size(), 5);
-        const bool configured = file != QLatin1String("config.xml");
-        QCOMPARE(variable("colors").toMap().isEmpty(), !configured);
-        QVERIFY(!after.sheet.isEmpty());
+        COMPARE_TRANSCRIPT("BaseTheme.applying", text);
     }
 
     void bundlesAndFonts()
     {
-        const TemporaryRepository repository;
-        const QString path = repository.addTheme(QStringLiteral("a"), "A");
-        const QString scalable = QStringLiteral("a/Images/A/scalable/");
         QFile bundle(QStringLiteral(VARN_TEST_BUNDLE));
         QVERIFY(bundle.open(QIODevice::ReadOnly));
-        repository.write(scalable + QLatin1String("good.rcc"), bundle.readAll());
+        const QString scalable = QStringLiteral("a/Images/A/scalable/");
+        m_files.write(scalable + QLatin1String("good.rcc"), bundle.readAll());
         for (const char* name : {"broken.rcc", "ignored.RCC", "ignored.rcc.txt", "sub/ignored.rcc"})
-            repository.write(scalable + QLatin1String(name), "no bundle");
-        repository.write(QStringLiteral("a/Fonts/broken.ttf"), "no font");
-
-        QVERIFY(!QFile::exists(QStringLiteral(":/from/a/bundle")));
-        MessageRecorder messages;
-        BaseTheme(path).customize(qApp);
+            m_files.write(scalable + QLatin1String(name), "no bundle");
+        m_files.write(QStringLiteral("a/Fonts/broken.ttf"), "no font");
+        QVERIFY(applied("").startsWith("# \n"
+                                       "Error reading font: REPOSITORY/a/Fonts/broken.ttf\n"
+                                       "Error reading resource bundle: "
+                                       "REPOSITORY/a/Images/A/scalable/broken.rcc\n"
+                                       "brushes"));
         QVERIFY(QFile::exists(QStringLiteral(":/from/a/bundle")));
-        QStringList all = messages.take();
-        all.sort();
-        QCOMPARE(all, QStringList({QLatin1String("Error reading font: ") + path
-                                       + QLatin1String("/Fonts/broken.ttf"),
-                                   QLatin1String("Error reading resource bundle: ")
-                                       + repository.path(scalable + QLatin1String("broken.rcc"))}));
+    }
+
+    void variablesAreThereWhenWidgetsAreRestyled()
+    {
+        const Witness widget;
+        applied("");
+        QCOMPARE(widget.seenColor.value<QColor>(), QColor(Qt::red));
+        QCOMPARE(widget.seenIcons, QStringLiteral("before"));
+    }
+
+    void factoryListsDirectoriesAndCreatesThemes()
+    {
+        const TemporaryRepository repository;
+        repository.addTheme(QStringLiteral("night"), "Night shift");
+        repository.write(QStringLiteral("README.txt"), "a file");
+        repository.write(QStringLiteral(".hidden/theme.xml"), "<theme/>");
+        QDir().mkdir(repository.path(QStringLiteral("Empty")));
+
+        ThemeFactory& factory = ThemeFactory::getInstance();
+        factory.setThemesRepositoryPath(repository.path() + QLatin1String("/./"));
+        QCOMPARE(factory.getAvailableThemes().join(QLatin1Char(' ')),
+                 QStringLiteral("Empty night"));
+        const QString name = QStringLiteral("night");
+        const std::unique_ptr<Theme> first(factory.getTheme(name));
+        const std::unique_ptr<Theme> second(factory.getTheme(name));
+        QVERIFY(first && second && first != second);
+        QCOMPARE(first->getName(), QStringLiteral("Night shift"));
+        QCOMPARE(factory.getTheme(QString()), nullptr);
+
+        factory.setThemesRepositoryPath(repository.path(QStringLiteral("none")));
+        QCOMPARE(factory.getAvailableThemes(), QStringList());
+        QCOMPARE(factory.getTheme(name), nullptr);
     }
 };
 
