@@ -139,6 +139,17 @@ private Q_SLOTS:
         QVERIFY(!delegate);
     }
 
+    void aDelegateMayOutliveItsComboBox()
+    {
+        auto box = comboBox();
+        const Delegate delegate(nullptr, box.get());
+        box.reset();
+        QStandardItemModel model(1, 1);
+        Delegate::setSeparator(&model, model.index(0, 0));
+        QVERIFY(!delegate.sizeHint({}, model.index(0, 0)).isEmpty());
+        paintRow(delegate, {}, model.index(0, 0));
+    }
+
     /// The last test: it takes the style away.
     void comboBoxesOutliveTheStyle()
     {

@@ -264,17 +264,13 @@ QStyle::SubControl lastPartOf(QStyle::ComplexControl control)
     }
 }
 
-QByteArray use(QStyle::PrimitiveElement element, const QStyle& style, const Sample& sample,
-               QPainter* painter)
+template <class Element>
+QByteArray use(Element element, const QStyle& style, const Sample& sample, QPainter* painter)
 {
-    style.drawPrimitive(element, sample.option.get(), painter, sample.widget.get());
-    return {};
-}
-
-QByteArray use(QStyle::ControlElement element, const QStyle& style, const Sample& sample,
-               QPainter* painter)
-{
-    style.drawControl(element, sample.option.get(), painter, sample.widget.get());
+    if constexpr (std::is_same_v<Element, QStyle::PrimitiveElement>)
+        style.drawPrimitive(element, sample.option.get(), painter, sample.widget.get());
+    else
+        style.drawControl(element, sample.option.get(), painter, sample.widget.get());
     return {};
 }
 
