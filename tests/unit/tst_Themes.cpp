@@ -238,6 +238,20 @@ private Q_SLOTS:
                      qPrintable(name));
     }
 
+    void seriesAreToldApart()
+    {
+        const QStringList series = AllThemeNames::colors().filter(QLatin1String("Series"));
+        for (const QString& a : series)
+            for (const QString& b : series) {
+                const QColor one = themed(a);
+                const QColor other = themed(b);
+                const int distance = qAbs(one.red() - other.red())
+                                     + qAbs(one.green() - other.green())
+                                     + qAbs(one.blue() - other.blue());
+                QVERIFY2(a == b || distance > 50, qPrintable(a + QLatin1String(" is like ") + b));
+            }
+    }
+
     void documentationNamesThemAll()
     {
         QFile file(QStringLiteral(VARN_DOCS "/theme-names.md"));
