@@ -23,8 +23,8 @@ constexpr int ScrollAreaFrameWidth = 2;
 constexpr int LineEditPadding = 4;
 constexpr int ToolTipPadding = 4;
 constexpr int FocusMargin = 2;
-constexpr int PopupIconMargin = 4;
-constexpr int PopupTextMargin = 9; ///< begins the words of a popup below those of its combo box
+constexpr int PopupIconMargin = 3;
+constexpr int PopupTextMargin = 5; ///< begins the words of a popup below those of its combo box
 
 int focusMargin(const MeasureContext& context)
 {

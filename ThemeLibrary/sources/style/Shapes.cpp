@@ -151,11 +151,11 @@ bool isLight(const QColor& color)
 }
 
 void drawGrips(const PaintContext& context, Qt::Orientation orientation, int from, int to,
-               int across)
+               int across, const QColor& ground)
 {
     constexpr int Step = 4;
     context.style.drawGrips(context.painter, orientation, from, to, across, Step, GripSize, 1);
-    if (!isLight(context.option.palette.color(QPalette::Window)))
+    if (!isLight(ground.isValid() ? ground : context.option.palette.color(QPalette::Window)))
         return;
     // Light dots are lost on a light ground: there the dark pixel in their corner grows to their
     // size.

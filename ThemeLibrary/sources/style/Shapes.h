@@ -53,8 +53,9 @@ bool isLight(const QColor& color);
 /// The side of a grip dot.
 constexpr int GripSize = 2;
 
-/// A row of grip dots that is seen on light and on dark grounds.
+/// A row of grip dots that is seen on light and dark grounds: on that of the window if no `ground`
+/// is given.
 void drawGrips(const PaintContext& context, Qt::Orientation orientation, int from, int to,
-               int across);
+               int across, const QColor& ground = {});
 
 } // namespace BRELK::Shapes

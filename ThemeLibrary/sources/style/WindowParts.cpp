@@ -52,8 +52,11 @@ void paintSplitter(const PaintContext& context)
     const QRect& rect = context.option.rect;
     // State_Horizontal: the widgets stand side by side, the handle runs from top to bottom.
     const bool upright = context.has(QStyle::State_Horizontal);
-    if (context.flag(WidgetProperties::Filled))
+    QColor ground;
+    if (context.flag(WidgetProperties::Filled)) {
+        ground = context.borderBrush().color();
         context.painter.fillRect(rect, context.borderBrush());
+    }
     if (context.flag(WidgetProperties::Small)) {
         const QPoint centre = rect.center();
         if (upright)
@@ -70,7 +73,7 @@ void paintSplitter(const PaintContext& context)
                                : rect.top() + (rect.height() - Shapes::GripSize) / 2;
     if (length > GripCount * GripStep)
         Shapes::drawGrips(context, upright ? Qt::Vertical : Qt::Horizontal, from,
-                          from + GripCount * GripStep, across);
+                          from + GripCount * GripStep, across, ground);
 }
 
 void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& band)
