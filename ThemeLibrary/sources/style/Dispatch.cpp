@@ -108,8 +108,8 @@ RectRule ruleOf(QStyle::SubElement element)
     switch (element) {
     case QStyle::SE_CheckBoxContents:           return by<CheckBoxes::contentsRect>;
     case QStyle::SE_CheckBoxIndicator:          return by<CheckBoxes::indicatorRect>;
-    case QStyle::SE_ItemViewItemCheckIndicator: return by<ItemViews::indicatorRect>;
-    case QStyle::SE_ItemViewItemDecoration:     return by<ItemViews::decorationRect>;
+    case QStyle::SE_ItemViewItemCheckIndicator: return by<ItemViews::markRect>;
+    case QStyle::SE_ItemViewItemDecoration:     return by<ItemViews::markRect>;
     case QStyle::SE_ItemViewItemText:           return by<ItemViews::textRect>;
     case QStyle::SE_TabBarTabRightButton:       return by<Tabs::rightButtonRect>;
     case QStyle::SE_TabBarTabText:              return by<Tabs::textRect>;

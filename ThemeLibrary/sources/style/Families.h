@@ -99,8 +99,8 @@ namespace ItemViews {
 int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
                const QSize& contents, const QSize& base);
-QRect indicatorRect(const StyleContext& context, const QRect& base);
-QRect decorationRect(const StyleContext& context, const QRect& base);
+/// Of an item's check box or icon.
+QRect markRect(const StyleContext& context, const QRect& base);
 QRect textRect(const StyleContext& context, const QRect& base);
 void paintPanel(const PaintContext& context, const QStyleOptionViewItem& item);
 void paintRow(const PaintContext& context, const QStyleOptionViewItem& item);

@@ -53,14 +53,6 @@ bool showsChildren(const QWidget* widget, const QStyleOptionViewItem& item)
            && !WidgetTraits::isComboBoxList(widget) && model->hasChildren(item.index);
 }
 
-QRect shiftedInPanel(const StyleContext& context, const QRect& base)
-{
-    if (!base.isValid() || !isInListMode(context.widget)
-        || !WidgetTraits::isCascadingListPanel(context.widget))
-        return base;
-    return base.translated(listViewPadding(context.style), 0);
-}
-
 } // namespace
 
 int metric(QStyle::PixelMetric metric, const MeasureContext& context)
@@ -85,14 +77,12 @@ QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item, 
     return {base.width() + indicator, qMax(base.height(), context.rowHeight(RowPadding))};
 }
 
-QRect indicatorRect(const StyleContext& context, const QRect& base)
+QRect markRect(const StyleContext& context, const QRect& base)
 {
-    return shiftedInPanel(context, base);
-}
-
-QRect decorationRect(const StyleContext& context, const QRect& base)
-{
-    return shiftedInPanel(context, base);
+    if (!base.isValid() || !isInListMode(context.widget)
+        || !WidgetTraits::isCascadingListPanel(context.widget))
+        return base;
+    return base.translated(listViewPadding(context.style), 0);
 }
 
 QRect textRect(const StyleContext& context, const QRect& base)
@@ -427,12 +417,30 @@ void paintColumnViewGrip(const PaintContext& context)
                       rect.left() + (rect.width() - Shapes::GripSize) / 2);
 }
 
+namespace {
+
+/// A style sheet gives the whole section to the label, also where the mark of sorting stands.
+void leaveRoomForSortMark(const StyleContext& context, QStyleOptionHeader& label)
+{
+    const bool isBySheet = context.widget && context.widget->testAttribute(Qt::WA_StyleSheet);
+    if (!isBySheet || label.sortIndicator == QStyleOptionHeader::None
+        || label.orientation != Qt::Horizontal)
+        return;
+    const int room =
+        context.metric(QStyle::PM_HeaderMarkSize) + context.metric(QStyle::PM_HeaderMargin);
+    label.rect = context.visual(label.rect.adjusted(0, 0, -room, 0));
+    label.text = label.fontMetrics.elidedText(label.text, Qt::ElideRight, label.rect.width());
+}
+
+} // namespace
+
 void paintHeaderLabel(const PaintContext& context, const QStyleOptionHeader& header)
 {
     QStyleOptionHeader label = header;
     // Models that name one side only, as that of the file dialog does, do not mean the top.
     if (!(label.textAlignment & Qt::AlignVertical_Mask))
         label.textAlignment |= Qt::AlignVCenter;
+    leaveRoomForSortMark(context, label);
     context.style.QProxyStyle::drawControl(QStyle::CE_HeaderLabel, &label, &context.painter,
                                            context.widget);
 }
