@@ -245,6 +245,51 @@ private Q_SLOTS:
         box.hidePopup();
     }
 
+    void bordersFillWholePixelsAtAnyScale()
+    {
+        constexpr int AlmostWhite = 240;
+        QLineEdit field;
+        for (const qreal scale : {1.0, 1.25, 1.5, 1.75, 2.0}) {
+            for (const QPoint& place : {QPoint(0, 0), QPoint(1, 1), QPoint(2, 3)}) {
+                QImage image(QSize(160, 100), QImage::Format_RGB32);
+                image.setDevicePixelRatio(scale);
+                image.fill(Qt::white);
+                QStyleOptionFrame option;
+                option.initFrom(&field);
+                option.rect = QRect(place, QSize(41, 27));
+                option.lineWidth = 1;
+                QPainter painter(&image);
+                field.style()->drawPrimitive(QStyle::PE_FrameLineEdit, &option, &painter, &field);
+                painter.end();
+                int borderPixels = 0;
+                const int y = qRound((place.y() + 14) * scale);
+                for (int x = 0; x < image.width(); ++x)
+                    borderPixels += qRed(image.pixel(x, y)) < AlmostWhite;
+                QCOMPARE(borderPixels, 2 * int(scale));
+            }
+        }
+    }
+
+    void errorIsMarkedOnce_data()
+    {
+        QTest::addColumn<bool>("rightToLeft");
+        QTest::newRow("left to right") << false;
+        QTest::newRow("right to left") << true;
+    }
+
+    void errorIsMarkedOnce()
+    {
+        QFETCH(bool, rightToLeft);
+        Open<QComboBox> box;
+        box.setEditable(true);
+        box.setProperty("drawErrorIndicator", true);
+        box.resize(BoxSize);
+        auto option = optionOf<QStyleOptionComboBox>(box, BoxSize);
+        option.direction = rightToLeft ? Qt::RightToLeft : Qt::LeftToRight;
+        const QByteArray shapes = drawn(QStyle::CC_ComboBox, option, &box);
+        QCOMPARE(shapes.count("brush StatusDangerColor"), 1);
+    }
+
     void arrowsNeedAWidgetThatWantsThem()
     {
         QStyleOption option;

@@ -36,20 +36,27 @@ Control spinBox(QAbstractSpinBox* widget, bool calendar = false)
     return {widget, [widget](const QString& text) { widget->setSpecialValueText(text); }};
 }
 
-/// The lowest line of pixels, in the window, that `text` changes in `control`: where letters
-/// without descenders stand. -1 if none is.
-int baselineOf(const Control& control, const QString& text)
+constexpr int WideEnough = 160; ///< for texts not to be scrolled
+
+/// The pixels of `control` that `text`, which is best without descenders, changes.
+QRect inkOf(const Control& control, const QString& text)
 {
     control.widget->setFixedSize(control.widget->size());
     const QImage with = control.widget->grab().toImage();
     control.setText(QStringLiteral(" "));
     const QImage without = control.widget->grab().toImage();
     control.setText(text);
-    for (int y = with.height() - 1; y >= 0; --y)
+    QRect ink;
+    for (int y = 0; y < with.height(); ++y)
         for (int x = 0; x < with.width(); ++x)
             if (with.pixel(x, y) != without.pixel(x, y))
-                return control.widget->y() + y;
-    return -1;
+                ink |= QRect(x, y, 1, 1);
+    return ink;
+}
+
+bool isInput(const QWidget* widget)
+{
+    return !qobject_cast<const QAbstractButton*>(widget);
 }
 
 } // namespace
@@ -99,17 +106,21 @@ private Q_SLOTS:
         auto* row = new QHBoxLayout(&window);
         for (const Control& control : controls) {
             control.setText(text);
+            control.widget->setMinimumWidth(WideEnough);
             row->addWidget(control.widget);
         }
         window.show();
 
         const int height = controls.first().widget->sizeHint().height();
-        const int baseline = baselineOf(controls.first(), text);
+        const int baseline = inkOf(controls.first(), text).bottom();
+        const int indent = inkOf(controls.at(1), text).left();
         for (const Control& control : controls) {
             const char* name = control.widget->metaObject()->className();
             QVERIFY2(control.widget->sizeHint().height() == height, name);
             QVERIFY2(control.widget->height() == height, name);
-            QVERIFY2(baseline >= 0 && baselineOf(control, text) == baseline, name);
+            const QRect ink = inkOf(control, text);
+            QVERIFY2(!ink.isEmpty() && ink.bottom() == baseline, name);
+            QVERIFY2(rightToLeft || !isInput(control.widget) || ink.left() == indent, name);
         }
     }
 };

@@ -14,10 +14,17 @@ namespace BRELK::ComboBoxes {
 
 namespace {
 
-constexpr int TextPadding = 6; ///< where the edit field of a plain combo box begins
+constexpr int TextPadding = 4; ///< that of a line edit,
+constexpr int LineEditMargin = 2; ///< and what a line edit adds by itself
 constexpr int IconSpacing = 4;
 constexpr int ArrowRoom = 12; ///< what the text leaves to the arrow before its middle
 constexpr int FocusInset = 3;
+
+/// How far the text is from the border: as far as in a line edit.
+int textInset(const MeasureContext& context)
+{
+    return context.dpiScaled(TextPadding) + LineEditMargin;
+}
 
 /// The arrow area is a square of the box's height, but never narrower than the arrow.
 int arrowExtent(const StyleContext& context, const QRect& box)
@@ -49,7 +56,7 @@ QRect popupRect(const StyleContext& context, const QRect& box)
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
                    const QSize& contents, const QSize& /*base*/)
 {
-    const int padding = 2 * context.dpiScaled(TextPadding);
+    const int padding = 2 * textInset(context);
     if (!comboBox.frame)
         return {contents.width() + padding + context.metric(QStyle::PM_MenuButtonIndicator),
                 contents.height()};
@@ -131,6 +138,9 @@ QRect fieldRect(const PaintContext& context, const QStyleOptionComboBox& comboBo
     const int arrowMiddle =
         comboBox.rect.x() + comboBox.rect.width() + 2 - arrowExtent(context, comboBox.rect) / 2;
     rect.setRight(qMin(rect.right(), arrowMiddle - ArrowRoom));
+    const int start = comboBox.rect.x() + textInset(context.measure());
+    if (!context.rightToLeft())
+        rect.setLeft(qMax(rect.left(), start));
     return rect;
 }
 
@@ -139,10 +149,9 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
                 const QRect& rect, const QBrush& brush)
 {
     const QSize size = comboBox.currentIcon.actualSize(comboBox.iconSize.boundedTo(rect.size()));
-    const int inset = qMax(0, comboBox.rect.x() + TextPadding - rect.x());
-    QRect iconRect(rect.x() + inset, rect.y(), size.width(), rect.height());
+    QRect iconRect(rect.x(), rect.y(), size.width(), rect.height());
     if (context.rightToLeft())
-        iconRect.moveRight(rect.right() - IconSpacing);
+        iconRect.moveRight(rect.right());
     // The line edit leaves this place open; a box that is pointed at shows its own ground there.
     if (comboBox.editable && !BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
         context.painter.fillRect(iconRect,
@@ -150,7 +159,7 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
     const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(comboBox.currentIcon, brush);
     context.proxy().drawItemPixmap(&context.painter, iconRect, Qt::AlignCenter,
                                    Shapes::iconPixmap(context.painter, icon, size));
-    const int taken = inset + size.width() + IconSpacing;
+    const int taken = size.width() + IconSpacing;
     return context.rightToLeft() ? rect.adjusted(0, 0, -taken, 0) : rect.adjusted(taken, 0, 0, 0);
 }
 
@@ -165,7 +174,9 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
         paintQuietBackground(context, comboBox);
 
     const PainterSaver saver(context.painter);
-    context.painter.setClipRect(rect, Qt::IntersectClip);
+    // Letters may reach a little out of their place.
+    context.painter.setClipRect(rect.adjusted(-LineEditMargin, 0, LineEditMargin, 0),
+                                Qt::IntersectClip);
     const QBrush brush = labelBrush(context, comboBox);
     if (!comboBox.currentIcon.isNull())
         rect = paintIcon(context, comboBox, rect, brush);

@@ -31,17 +31,27 @@ int heightToFill(const BaseStyle& style, const QLineEdit& editor, const QWidget&
 
 void placeText(const BaseStyle& style, QLineEdit& editor)
 {
+    // How far from the border of its input an editor lies, and how much of the room between text
+    // and border that a box does not have.
+    constexpr int InComboBox = 3;
+    constexpr int InSpinBox = 1;
+    constexpr int BeforeButtons = 1;
     const QWidget* owner = editor.parentWidget();
     if (!editor.textMargins().isNull()) // the application's, or set already
         return;
+    const int padding = style.proxy()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, &editor);
+    const int inComboBox = padding - InComboBox;
+    const int inSpinBox = padding - InSpinBox;
     if (qobject_cast<const QComboBox*>(owner))
-        editor.setTextMargins(1, 0, 1, 0);
+        editor.setTextMargins(inComboBox, 0, inComboBox, 0);
     const auto* spinBox = qobject_cast<const QAbstractSpinBox*>(owner);
     if (!spinBox || !spinBox->hasFrame())
         return;
     const int fill = heightToFill(style, editor, *spinBox);
-    const bool isComboBox = WidgetTraits::isCalendarPopupEditor(owner);
-    editor.setTextMargins(isComboBox ? 1 : 3, (fill + 1) / 2, isComboBox ? 1 : 2, fill / 2);
+    if (WidgetTraits::isCalendarPopupEditor(owner))
+        editor.setTextMargins(inComboBox, (fill + 1) / 2, inComboBox, fill / 2);
+    else
+        editor.setTextMargins(inSpinBox, (fill + 1) / 2, inSpinBox - BeforeButtons, fill / 2);
 }
 
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
