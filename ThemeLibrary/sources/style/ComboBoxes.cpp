@@ -151,7 +151,7 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
     const QSize size = comboBox.currentIcon.actualSize(comboBox.iconSize.boundedTo(rect.size()));
     QRect iconRect(rect.x(), rect.y(), size.width(), rect.height());
     if (context.rightToLeft())
-        iconRect.moveRight(rect.right());
+        iconRect.moveRight(comboBox.editable ? rect.right() - IconSpacing : rect.right());
     // The line edit leaves this place open; a box that is pointed at shows its own ground there.
     if (comboBox.editable && !BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
         context.painter.fillRect(iconRect,
