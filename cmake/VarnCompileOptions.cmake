@@ -3,6 +3,8 @@ function(varn_compile_options target)
     target_compile_options(${target} PRIVATE
         -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wold-style-cast -Woverloaded-virtual
         $<$<BOOL:${VARN_WARNINGS_AS_ERRORS}>:-Werror>)
+    # CMake's own -O3 makes the library an eighth larger and no faster.
+    target_compile_options(${target} PRIVATE $<$<CONFIG:Release>:-O2>)
     target_compile_definitions(${target} PRIVATE
         QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH QT_USE_QSTRINGBUILDER
         QT_DEPRECATED_WARNINGS)

@@ -17,7 +17,7 @@ struct Answer
     const QMetaObject* meta = nullptr;
     const char* className = nullptr;
     const char* property = nullptr;
-    int index = -1;
+    int index = 0; ///< as -1 the answers would stand in the file of the library
 };
 
 /// The number of the property among those that the class declares, or -1.
