@@ -65,8 +65,6 @@ QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame
 
 namespace {
 
-using Corners = Helpers::StraightCornerFlags;
-
 bool isEditorOfOther(const QWidget* widget)
 {
     const QWidget* parent = widget ? widget->parentWidget() : nullptr;
@@ -119,26 +117,26 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
         Shapes::drawBox(context, frame.rect, 0, Qt::NoBrush, context.borderBrush());
         return;
     }
-    QBrush fill = Qt::NoBrush;
-    QBrush border = inputBorder(context);
-    Corners corners = Helpers::None;
-    if (isComboBox(context.widget)) {
-        const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&frame, context.widget);
-        fill = brushes.backgroundBrush;
-        border = brushes.borderBrush;
-        corners = Helpers::RightCorners;
-    } else if (isScrollArea(context.widget)) { // a line edit's panel is filled already, and a plain
-                                               // frame shows what it stands on
-        fill = background(context, inputBackground(context));
+    BaseStyle::ButtonBrushes brushes;
+    const bool ofComboBox = isComboBox(context.widget);
+    if (ofComboBox) {
+        brushes = BaseStyle::buttonBrushes(&frame, context.widget);
+    } else {
+        brushes.borderBrush = inputBorder(context);
+        // A line edit's panel is filled already, and a plain frame shows what it stands on.
+        if (isScrollArea(context.widget))
+            brushes.backgroundBrush = background(context, inputBackground(context));
     }
 
     const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
+    const QColor errorColor = context.color(ThemeNames::statusDangerColor());
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
-    const QColor errorColor = hasError ? context.color(ThemeNames::statusDangerColor()) : QColor();
-    Shapes::drawBox(context, frame.rect, radius, fill, hasError ? QBrush(errorColor) : border,
-                    corners);
+    if (hasError)
+        brushes.borderBrush = errorColor;
+    Shapes::drawBox(context, frame.rect, radius, brushes.backgroundBrush, brushes.borderBrush,
+                    ofComboBox ? Helpers::RightCorners : Helpers::None);
     // The arrow's panel has the mark of a combo box, unless that is in the corner on this side.
-    const bool hasMark = corners == Helpers::None || context.rightToLeft();
+    const bool hasMark = !ofComboBox || context.rightToLeft();
     if (hasError && hasMark && !isScrollArea(context.widget))
         Helpers::drawInputStatusIndicator(frame.rect, radius, errorColor, &context.painter);
 }

@@ -186,7 +186,13 @@ void BaseStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
 void BaseStyle::drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
                                const QPixmap& pixmap) const
 {
-    if (painter && !pixmap.isNull())
+    if (!painter || pixmap.isNull())
+        return;
+    const QRect place = alignedRect(QGuiApplication::layoutDirection(), Qt::Alignment(alignment),
+                                    pixmap.size() / pixmap.devicePixelRatio(), rect);
+    if (rect.contains(place)) // as most do: copying all of a pixmap is quicker than copying a part
+        painter->drawPixmap(place.topLeft(), pixmap);
+    else
         QProxyStyle::drawItemPixmap(painter, rect, alignment, pixmap);
 }
 
