@@ -48,7 +48,7 @@ MaxSize=512
 ")
     set(bundled)
     set(entries "<file alias=\"index.theme\">${index}</file>\n")
-    # Under the names of the freedesktop.org icon naming specification, Qt's dialogs and menus ask for icons themselves.
+    # Under the icon names that freedesktop.org lists, Qt's dialogs and menus ask for icons themselves.
     set(names ${VARN_STANDARD_ICONS_DIR}/names.txt)
     file(STRINGS ${names} standardNames REGEX "^[a-z]")
     set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${names})
