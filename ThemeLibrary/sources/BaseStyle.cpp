@@ -92,6 +92,7 @@ BaseStyle::TabBackgroundState BaseStyle::getTabBackgroundState(const QStyleOptio
                                                      : TabBackground_Unselected;
 }
 
+// NOLINTNEXTLINE(readability-function-size): applications call it with these
 void BaseStyle::drawGrips(QPainter& painter, Qt::Orientation orientation, int from, int to, int pos,
                           int step, int size, int darkSize) const
 {

@@ -40,7 +40,7 @@ struct QConcatenable<BRELK::ProxyStyle_p::HexString<T>>
 
     enum { ExactSize = true };
 
-    static int size(const type&) { return int(2 * sizeof(T)); }
+    static int size(const type& /*value*/) { return int(2 * sizeof(T)); }
 
     static void appendTo(const type& value, QChar*& out) { value.write(out); }
 };

@@ -103,7 +103,10 @@ QWidget* makeProjectPane()
     tree->setCurrentIndex(tree->model()->index(0, 0, root));
     auto* filter = new QLineEdit;
     filter->setPlaceholderText(QStringLiteral("Filter"));
-    return column({filter, tree});
+    QWidget* pane = column({filter, tree});
+    // From right to left a splitter's first pane stands a pixel beyond the splitter.
+    pane->layout()->setContentsMargins(1, 0, 1, 0);
+    return pane;
 }
 
 QTableView* makeTable()
