@@ -116,61 +116,6 @@ QString faultIn(const QStyle& style, const Element& element, const Sample& sampl
     return warnings(messages);
 }
 
-/// Whether the base style paints it, or is what measures it.
-bool isLeftToBase(const Element& element)
-{
-    const Sample sample = sampleNamed(element.name);
-    BaseStyle style;
-    auto* base = new RecordingBase;
-    style.setBaseStyle(base);
-    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-    QPainter painter(&image);
-    const QByteArray measured = element.use(style, sample, &painter);
-    if (measured.isEmpty() || element.name.startsWith("CC_"))
-        return base->asked.contains(element.name);
-    return measured == element.use(*base, sample, &painter);
-}
-
-constexpr StateSheet::State RightToLeft{"right to left"};
-
-/// What an element measures and paints.
-QByteArray lookOf(const Element& element, const StateSheet::State& state, int fontSize)
-{
-    QFont font = QApplication::font();
-    font.setPixelSize(fontSize);
-    QApplication::setFont(font);
-    const Sample sample = sampleNamed(element.name);
-    if (state.name == RightToLeft.name) {
-        sample.widget->setLayoutDirection(Qt::RightToLeft);
-        sample.option->direction = Qt::RightToLeft;
-    }
-    sample.widget->setEnabled(state.removed == QStyle::State_None);
-    StateSheet::setState(*sample.option, state);
-    QByteArray measured;
-    const QByteArray painted = drawn([&](QPainter* painter) {
-        measured = element.use(*QApplication::style(), sample, painter);
-    });
-    return measured + painted;
-}
-
-/// With "~" for what depends on the font.
-QByteArray lookOf(const Element& element, const StateSheet::State& state)
-{
-    QByteArrayList lines = lookOf(element, state, 18).split('\n');
-    const QByteArrayList others = lookOf(element, state, 12).split('\n');
-    if (lines.size() != others.size())
-        return "~\n";
-    for (int i = 0; i < lines.size(); ++i) {
-        QByteArrayList words = lines.at(i).split(' ');
-        const QByteArrayList otherWords = others.at(i).split(' ');
-        for (int word = 0; word < words.size(); ++word)
-            if (words.at(word) != otherWords.value(word))
-                words[word] = "~";
-        lines[i] = words.join(' ');
-    }
-    return lines.join('\n');
-}
-
 } // namespace
 
 class tst_Contract : public QObject
@@ -216,33 +161,6 @@ private Q_SLOTS:
                     QFAIL(qPrintable(QLatin1String(first.name) + QLatin1String(", ")
                                      + QLatin1String(second.name) + QLatin1String(": ") + fault));
             }
-    }
-
-    void looks_data()
-    {
-        QTest::addColumn<QByteArray>("prefix");
-        for (const char* prefix : {"PE", "CE", "CC", "SE"})
-            QTest::newRow(prefix) << QByteArray(prefix);
-    }
-
-    /// In each state, as far as it differs from the one at rest.
-    void looks()
-    {
-        if (!WITH_THEME)
-            return;
-        QFETCH(QByteArray, prefix);
-        QByteArray sheet;
-        for (const Element& element : StyleOptions::elements()) {
-            if (!element.name.startsWith(prefix) || isLeftToBase(element))
-                continue;
-            using namespace StateSheet;
-            const QByteArray atRest = lookOf(element, AtRest);
-            sheet += "# " + element.name + '\n' + atRest;
-            for (const State& state : {Hovered, Pressed, Checked, Focused, Disabled, RightToLeft})
-                if (const QByteArray look = lookOf(element, state); look != atRest)
-                    sheet += QByteArray("[") + state.name + "]\n" + look;
-        }
-        COMPARE_TRANSCRIPT("Elements." + prefix, sheet);
     }
 
     void metricsAndHintsNeedNeitherOptionNorWidget()

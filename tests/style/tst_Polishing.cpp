@@ -1,43 +1,5 @@
+#include "StandIns.h"
 #include "StateSheet.h"
-
-// Stand in for widgets of other libraries, which the style knows by their names.
-namespace BRELK::Components {
-
-class ButtonGroupWidget : public QWidget
-{
-    Q_OBJECT
-};
-
-class CardWidget : public QWidget
-{
-    Q_OBJECT
-};
-
-class RangeSlider : public QWidget
-{
-    Q_OBJECT
-};
-
-} // namespace BRELK::Components
-
-namespace BRELK::PeriodicTable {
-
-class PeriodicTableView : public QWidget
-{
-    Q_OBJECT
-};
-
-} // namespace BRELK::PeriodicTable
-
-/// A card: `QWidget` has a property "minimized" of its own that cannot be set.
-class Card : public QWidget
-{
-    Q_OBJECT
-    Q_PROPERTY(bool minimized MEMBER minimized)
-
-public:
-    bool minimized = false;
-};
 
 namespace {
 
@@ -147,7 +109,7 @@ private Q_SLOTS:
         QMainWindow inner(&window);
         inner.setWindowFlags(Qt::Widget);
         sheet += polished(std::move(inner));
-        Card card;
+        Components::CardWidget card;
         for (const bool minimized : {false, true}) {
             card.minimized = minimized;
             sheet += polished(QLabel(&card), "CardWidgetBase_Title");

@@ -118,6 +118,13 @@ QPalette palette()
     return sPalette;
 }
 
+QPixmap pixmap(const QColor& color)
+{
+    QPixmap filled(16, 16);
+    filled.fill(color);
+    return filled;
+}
+
 QByteArray nameOf(const QColor& color)
 {
     QByteArray name = namesByColor().value(color.rgb() | 0xff000000);

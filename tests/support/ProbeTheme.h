@@ -4,6 +4,7 @@
 #include <QByteArray>
 #include <QColor>
 #include <QPalette>
+#include <QPixmap>
 #include <QVariantMap>
 
 class QFont;
@@ -36,6 +37,9 @@ void publishEmpty();
 /// A palette in which every role of every group has a color of its own: "palette.Text",
 /// "palette.Disabled.Text", "palette.Inactive.Text".
 QPalette palette();
+
+/// A small picture in the color that icons are recolored from, or in another one.
+QPixmap pixmap(const QColor& color = QColor(0xE5, 0xEE, 0xF4));
 
 /// The name of the theme brush, theme color or palette role that has this color. A translucent one
 /// is followed by its alpha ("MainColor@153"), an unknown one is "#rrggbb", a brush without color

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "BaseStyle.h"
 #include "StyleOptions.h"
 
 #include <QByteArrayList>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
 
@@ -105,3 +107,18 @@ protected:
         return false;
     }
 };
+
+/// Whether the base style paints it, or is what measures it.
+inline bool isLeftToBase(const StyleOptions::Element& element)
+{
+    const StyleOptions::Sample sample = StyleOptions::sampleNamed(element.name);
+    BRELK::BaseStyle style;
+    auto* base = new RecordingBase;
+    style.setBaseStyle(base);
+    QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&image);
+    const QByteArray measured = element.use(style, sample, &painter);
+    if (measured.isEmpty() || element.name.startsWith("CC_"))
+        return base->asked.contains(element.name);
+    return measured == element.use(*base, sample, &painter);
+}

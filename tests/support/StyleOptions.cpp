@@ -1,5 +1,7 @@
 #include "StyleOptions.h"
 
+#include "ProbeTheme.h"
+#include "StandIns.h"
 #include "Transcript.h"
 
 #include <QStandardItemModel>
@@ -11,20 +13,22 @@ namespace {
 
 constexpr QSize WidgetSize(120, 28);
 
-QIcon icon()
+/// Sets those of the `settings` that begin with `prefix`, which is to be without a point.
+void apply(const Settings& settings, const QByteArray& prefix, QObject& object)
 {
-    QPixmap pixmap(16, 16);
-    pixmap.fill(Qt::darkCyan);
-    return pixmap;
+    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
+        if (const QByteArray name = setting.key().mid(prefix.size());
+            setting.key().startsWith(prefix) && !name.contains('.'))
+            object.setProperty(name, setting.value());
 }
 
-/// Gives a widget what it can show: those of these properties that it has.
-void fill(QWidget& widget)
+/// Gives a widget what it can show: those of these properties that it has, and then the settings.
+void fill(QWidget& widget, const Settings& settings)
 {
     const std::pair<const char*, QVariant> properties[] = {
         {"frameShape", QFrame::StyledPanel},
         {"frameShadow", QFrame::Sunken},
-        {"icon", icon()},
+        {"icon", QIcon(ProbeTheme::pixmap())},
         {"orientation", Qt::Horizontal},
         {"popupMode", QToolButton::MenuButtonPopup},
         {"tabsClosable", true},
@@ -37,14 +41,17 @@ void fill(QWidget& widget)
     for (const auto& [name, value] : properties)
         if (widget.metaObject()->indexOfProperty(name) >= 0)
             widget.setProperty(name, value);
-    widget.resize(WidgetSize);
+    apply(settings, {}, widget);
+    const bool upright = widget.property("orientation").toInt() == Qt::Vertical;
+    widget.ensurePolished();
+    widget.resize(upright ? WidgetSize.transposed() : WidgetSize);
     if (auto* comboBox = qobject_cast<QComboBox*>(&widget))
-        comboBox->addItem(icon(), QStringLiteral("Text"));
+        comboBox->addItem(ProbeTheme::pixmap(), QStringLiteral("Text"));
     if (auto* groupBox = qobject_cast<QGroupBox*>(&widget))
         groupBox->setCheckable(true);
     if (auto* tabBar = qobject_cast<QTabBar*>(&widget))
         for (const char* tab : {"First", "Second"})
-            tabBar->addTab(icon(), QLatin1String(tab));
+            tabBar->addTab(ProbeTheme::pixmap(), QLatin1String(tab));
     if (auto* tabWidget = qobject_cast<QTabWidget*>(&widget))
         tabWidget->addTab(new QWidget, QStringLiteral("Page"));
     if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
@@ -58,42 +65,46 @@ template <class Option, class Widget>
 Sample sampleOf(const std::shared_ptr<Widget>& widget, const std::shared_ptr<Option>& option)
 {
     option->state |= QStyle::State_Enabled | QStyle::State_Active;
-    return {widget, option};
+    if constexpr (std::is_base_of_v<QStyleOptionComplex, Option>)
+        if (option->subControls == QStyle::SC_None)
+            option->subControls = QStyle::SC_All;
+    return {nullptr, widget, option};
 }
 
 /// A widget that fills its own option, for the `details` of it that the option is about.
 template <class Widget, class Option, class... Details>
-Sample filled(const std::shared_ptr<Open<Widget>>& widget, Details... details)
+Sample filled(const Settings& settings, const std::shared_ptr<Open<Widget>>& widget,
+              Details... details)
 {
-    fill(*widget);
+    fill(*widget, settings);
     auto option = std::make_shared<Option>();
     widget->initStyleOption(option.get(), details...);
-    option->rect = QRect(QPoint(), WidgetSize);
+    option->rect = QRect(QPoint(), widget->size());
     return sampleOf(widget, option);
 }
 
 template <class Widget, class Option>
-Sample filled()
+Sample filled(const Settings& settings)
 {
-    return filled<Widget, Option>(std::make_shared<Open<Widget>>());
+    return filled<Widget, Option>(settings, std::make_shared<Open<Widget>>());
 }
 
 /// A widget whose option is filled from outside.
 template <class Widget, class Option = QStyleOption>
-Sample plain()
+Sample plain(const Settings& settings)
 {
     auto widget = std::make_shared<Widget>();
-    fill(*widget);
+    fill(*widget, settings);
     auto option = std::make_shared<Option>();
     option->initFrom(widget.get());
     return sampleOf(widget, option);
 }
 
 /// One that is filled further by `complete`.
-template <class Widget, class Option, void (*complete)(const Widget&, Option&)>
-Sample completed()
+template <class Widget, class Option, auto complete>
+Sample completed(const Settings& settings)
 {
-    const Sample sample = plain<Widget, Option>();
+    const Sample sample = plain<Widget, Option>(settings);
     complete(static_cast<const Widget&>(*sample.widget), static_cast<Option&>(*sample.option));
     return sample;
 }
@@ -109,24 +120,25 @@ Sample partOf(const std::shared_ptr<QWidget>& whole, QWidget* part, const QRect&
     return sampleOf(std::shared_ptr<QWidget>(whole, part), option);
 }
 
-Sample tab()
+Sample tab(const Settings& settings)
 {
-    return filled<QTabBar, QStyleOptionTab>(std::make_shared<Open<QTabBar>>(), 0);
+    return filled<QTabBar, QStyleOptionTab>(settings, std::make_shared<Open<QTabBar>>(), 0);
 }
 
-Sample rubberBand()
+Sample rubberBand(const Settings& settings)
 {
     return filled<QRubberBand, QStyleOptionRubberBand>(
-        std::make_shared<Open<QRubberBand>>(QRubberBand::Rectangle));
+        settings, std::make_shared<Open<QRubberBand>>(QRubberBand::Rectangle));
 }
 
 template <class Menu>
-Sample menuItem()
+Sample menuItem(const Settings& settings)
 {
     auto widget = std::make_shared<Open<Menu>>();
     QAction* action = widget->addAction(QStringLiteral("&Open\tCtrl+O"));
-    action->setIcon(icon());
-    return filled<Menu, QStyleOptionMenuItem>(widget, action);
+    if (!settings.contains("option.checkType")) // the mark stands where the icon would
+        action->setIcon(ProbeTheme::pixmap());
+    return filled<Menu, QStyleOptionMenuItem>(settings, widget, action);
 }
 
 void completeBarBase(const QTabBar&, QStyleOptionTabBarBase& option)
@@ -135,14 +147,14 @@ void completeBarBase(const QTabBar&, QStyleOptionTabBarBase& option)
     option.selectedTabRect = QRect(0, 0, 40, 28);
 }
 
-void completeViewItem(const QTreeView& view, QStyleOptionViewItem& option)
+void completeViewItem(const QAbstractItemView& view, QStyleOptionViewItem& option)
 {
     option.widget = &view;
     option.index = view.model()->index(0, 0);
     option.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration
                       | QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::Alternate;
     option.text = QStringLiteral("Text");
-    option.icon = icon();
+    option.icon = ProbeTheme::pixmap();
     option.decorationSize = QSize(16, 16);
     option.showDecorationSelected = true;
 }
@@ -155,25 +167,25 @@ void completeToolBox(const QToolBox&, QStyleOptionToolBox& option)
 void completeTitleBar(const QMdiSubWindow&, QStyleOptionTitleBar& option)
 {
     option.text = QStringLiteral("Window");
-    option.icon = icon();
+    option.icon = ProbeTheme::pixmap();
     option.titleBarFlags = Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
                            | Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint
                            | Qt::WindowShadeButtonHint;
 }
 
-Sample header()
+Sample header(const Settings& settings)
 {
     auto view = std::make_shared<QTreeView>();
-    fill(*view);
+    fill(*view, settings);
     Sample sample = partOf<QStyleOptionHeader>(view, view->header(), QRect(QPoint(), WidgetSize));
     auto& option = static_cast<QStyleOptionHeader&>(*sample.option);
     option.text = QStringLiteral("Name");
-    option.icon = icon();
+    option.icon = ProbeTheme::pixmap();
     option.sortIndicator = QStyleOptionHeader::SortDown;
     return sample;
 }
 
-Sample splitterHandle()
+Sample splitterHandle(const Settings&)
 {
     auto splitter = std::make_shared<QSplitter>();
     splitter->addWidget(new QWidget);
@@ -181,7 +193,7 @@ Sample splitterHandle()
     return partOf<QStyleOption>(splitter, splitter->handle(1), QRect(0, 0, 6, 100));
 }
 
-Sample sizeGrip()
+Sample sizeGrip(const Settings&)
 {
     auto window = std::make_shared<QWidget>();
     return partOf<QStyleOptionSizeGrip>(window, new QSizeGrip(window.get()), QRect(0, 0, 13, 13));
@@ -191,7 +203,7 @@ Sample sizeGrip()
 /// prefix, in which "*" stands for any ending.
 struct Row
 {
-    Sample (*make)();
+    Sample (*make)(const Settings&);
     QByteArray elements;
 };
 
@@ -208,6 +220,7 @@ const Row Rows[] = {
     {filled<QLineEdit, QStyleOptionFrame>, "FrameLineEdit PanelLineEdit LineEdit*"},
     {filled<QSpinBox, QStyleOptionSpinBox>, "IndicatorSpin* SpinBox* DateTimeEditLayoutItem"},
     {filled<QScrollBar, QStyleOptionSlider>, "ScrollBar*"},
+    {filled<MinimizableScrollBar, QStyleOptionSlider>, "ScrollBar*"},
     {filled<QDial, QStyleOptionSlider>, "Dial"},
     {filled<QSlider, QStyleOptionSlider>, "Slider*"},
     {filled<QProgressBar, QStyleOptionProgressBar>, "IndicatorProgressChunk ProgressBar*"},
@@ -236,6 +249,8 @@ const Row Rows[] = {
     {completed<QTreeView, QStyleOptionViewItem, completeViewItem>,
      "IndicatorViewItemCheck IndicatorItemViewItemCheck IndicatorColumnViewArrow PanelItemView* "
      "ViewItem* ItemViewItem* TreeViewDisclosureItem"},
+    {completed<QListView, QStyleOptionViewItem, completeViewItem>, "PanelItemView* ItemViewItem"},
+    {completed<QTableView, QStyleOptionViewItem, completeViewItem>, "PanelItemView* ItemViewItem"},
     {plain<QTreeView>, "IndicatorBranch IndicatorItemViewItemDrop"},
     {header, "IndicatorHeaderArrow Header HeaderSection HeaderLabel HeaderArrow"},
     {plain<QScrollArea>, "PanelScrollAreaCorner"},
@@ -247,6 +262,30 @@ const Row Rows[] = {
     {completed<QMdiSubWindow, QStyleOptionTitleBar, completeTitleBar>, "TitleBar"},
     {plain<QWidget, QStyleOptionComplex>, "MdiControls"},
 };
+
+template <class Option, class Value>
+void setField(QStyleOption& option, Value Option::*field, int value)
+{
+    if (auto* own = qstyleoption_cast<Option*>(&option))
+        own->*field = Value(value);
+}
+
+/// Sets the field of the option that has this name.
+void setField(QStyleOption& option, const QByteArray& name, int value)
+{
+    const auto set = [&](const char* field, auto... members) {
+        if (name == field)
+            (setField(option, members, value), ...);
+    };
+    set("activeSubControls", &QStyleOptionComplex::activeSubControls);
+    set("checkType", &QStyleOptionMenuItem::checkType);
+    set("checked", &QStyleOptionMenuItem::checked);
+    set("features", &QStyleOptionButton::features, &QStyleOptionToolButton::features,
+        &QStyleOptionViewItem::features);
+    set("menuItemType", &QStyleOptionMenuItem::menuItemType);
+    set("position", &QStyleOptionTab::position);
+    set("titleBarState", &QStyleOptionTitleBar::titleBarState);
+}
 
 /// The last of the parts that `control` has a rectangle for; a dial has none.
 QStyle::SubControl lastPartOf(QStyle::ComplexControl control)
@@ -318,14 +357,40 @@ void appendAll(QVector<Element>& elements)
 
 } // namespace
 
-Sample sampleNamed(const QByteArray& element)
+Sample sampleNamed(const QByteArray& element, const Settings& settings)
 {
     const QByteArray name = element.mid(3);
-    for (const Row& row : Rows)
-        for (const QByteArray& pattern : row.elements.split(' '))
-            if (name == pattern || (pattern.endsWith('*') && name.startsWith(pattern.chopped(1))))
-                return row.make();
-    return plain<QWidget>();
+    const auto fits = [&](const QByteArray& pattern) {
+        return name == pattern || (pattern.endsWith('*') && name.startsWith(pattern.chopped(1)));
+    };
+    Sample sample;
+    for (const Row& row : Rows) {
+        const QByteArrayList patterns = row.elements.split(' ');
+        if (!std::any_of(patterns.cbegin(), patterns.cend(), fits))
+            continue;
+        sample = row.make(settings);
+        const QString widgetClass = QLatin1String(sample.widget->metaObject()->className());
+        if (settings.value("class", widgetClass) == widgetClass)
+            break;
+    }
+    if (!sample.widget)
+        sample = plain<QWidget>(settings);
+    const auto states = QMetaEnum::fromType<QStyle::StateFlag>();
+    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting) {
+        const QByteArray& key = setting.key();
+        if (key.startsWith("option."))
+            setField(*sample.option, key.mid(7), setting.value().toInt());
+        else if (key.startsWith("State_"))
+            sample.option->state.setFlag(QStyle::StateFlag(states.keyToValue(key)),
+                                         setting.value().toBool());
+    }
+    const auto ofParent = settings.lowerBound("parent.");
+    if (ofParent != settings.cend() && ofParent.key().startsWith("parent.")) {
+        sample.parent = std::make_shared<BRELK::Components::ButtonGroupWidget>();
+        apply(settings, "parent.", *sample.parent);
+        sample.widget->setParent(sample.parent.get());
+    }
+    return sample;
 }
 
 QByteArray nameOf(QStyle::ComplexControl control, QStyle::SubControl part)

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <QMap>
 #include <QMetaEnum>
 #include <QStyle>
+#include <QVariant>
 #include <QVector>
 #include <QWidget>
 
@@ -18,6 +20,7 @@ namespace StyleOptions {
 /// the element, filled from the widget; both live as long as a copy of the sample does.
 struct Sample
 {
+    std::shared_ptr<QWidget> parent; ///< null if nothing is set of it
     std::shared_ptr<QWidget> widget;
     std::shared_ptr<QStyleOption> option;
 };
@@ -30,8 +33,13 @@ struct Open : Widget
     using Widget::Widget;
 };
 
+/// What makes a sample a special one: properties of the widget, those of a group of buttons around
+/// it as "parent.name", fields of the option as "option.name" and "State_name", and as "class" that
+/// of the widget, where several paint with the element.
+using Settings = QMap<QByteArray, QVariant>;
+
 /// By the name of an element, as "CE_PushButton".
-Sample sampleNamed(const QByteArray& element);
+Sample sampleNamed(const QByteArray& element, const Settings& settings = {});
 
 /// Every value of one of QStyle's enums, without its aliases and without the custom base.
 template <class Enum>
