@@ -137,107 +137,87 @@ private Q_SLOTS:
         COMPARE_TRANSCRIPT("ButtonBrushes.names", text);
     }
 
-    void calendarButtonsLookHoveredUntilPressed()
+    void buttonsWithRulesOfTheirOwn()
     {
+        QByteArray text;
+        const auto add = [&text](const char* what, const QStyleOption& option,
+                                 const QWidget* widget) {
+            text += QByteArray(what) + ": " + brushesOf(option, widget) + '\n';
+        };
         QCalendarWidget calendar;
         const auto* next =
             calendar.findChild<QToolButton*>(QStringLiteral("qt_calendar_nextmonth"));
-        QVERIFY(next);
-        QCOMPARE(brushesOf(optionOf(Checked), next), "ButtonUncheckedHover");
-        QCOMPARE(brushesOf(optionOf(Pressed), next), "ButtonUncheckedPressed");
-    }
+        add("calendar, checked", optionOf(Checked), next);
+        add("calendar, pressed", optionOf(Pressed), next);
 
-    void pressingTheMenuPartLeavesTheMainPartHovered()
-    {
+        const QCommandLinkButton link(QStringLiteral("Link"));
+        auto option = optionOf(Enabled | QStyle::State_Active);
+        add("command link", option, &link);
+        option.features = QStyleOptionButton::DefaultButton | QStyleOptionButton::CommandLinkButton;
+        add("default command link", option, &link);
+        option.state |= QStyle::State_MouseOver;
+        add("default command link, hovered", option, &link);
+
+        QTabBar tabBar;
+        const QToolButton tabButton(&tabBar);
+        add("tab bar, hovered", optionOf(Hovered), &tabButton);
+
         QToolButton button;
         button.setPopupMode(QToolButton::MenuButtonPopup);
         button.resize(80, 28);
         button.show();
-        auto option = optionOf<QStyleOptionToolButton>(Pressed, &button);
-        option.subControls = QStyle::SC_ToolButton | QStyle::SC_ToolButtonMenu;
-        option.features = QStyleOptionToolButton::MenuButtonPopup;
-        const auto pointAt = [&](QStyle::SubControl part) {
+        auto parts = optionOf<QStyleOptionToolButton>(Pressed, &button);
+        parts.subControls = QStyle::SC_ToolButton | QStyle::SC_ToolButtonMenu;
+        parts.features = QStyleOptionToolButton::MenuButtonPopup;
+        for (const auto part : {QStyle::SC_ToolButtonMenu, QStyle::SC_ToolButton}) {
             const QRect rect =
-                button.style()->subControlRect(QStyle::CC_ToolButton, &option, part, &button);
+                button.style()->subControlRect(QStyle::CC_ToolButton, &parts, part, &button);
             QCursor::setPos(button.mapToGlobal(rect.center()));
-        };
-
-        pointAt(QStyle::SC_ToolButtonMenu);
-        QCOMPARE(brushesOf(option, &button), "ButtonUncheckedHover");
-        option.state |= QStyle::State_On;
-        QCOMPARE(brushesOf(option, &button), "ButtonCheckedPressed");
-        option.state = Pressed;
-        pointAt(QStyle::SC_ToolButton);
-        QCOMPARE(brushesOf(option, &button), "ButtonUncheckedPressed");
+            for (const State state : {Pressed, Pressed | QStyle::State_On}) {
+                parts.state = state;
+                add(part == QStyle::SC_ToolButton ? "main part pressed" : "menu part pressed",
+                    parts, &button);
+            }
+        }
+        COMPARE_TRANSCRIPT("ButtonBrushes.rules", text);
     }
 
-    void calendarPopupEditorsLookLikeInputs()
+    void inputsShowFocusAndPopupInTheirBorder()
     {
         QWidget window;
         auto* layout = new QVBoxLayout(&window);
-        auto* other = new QPushButton;
         auto* editor = new QDateEdit;
-        layout->addWidget(other);
-        layout->addWidget(editor);
-        editor->setCalendarPopup(true);
-        showFocused(*other);
-        const auto option = optionOf<QStyleOptionSpinBox>(Hovered);
-
-        QCOMPARE(brushesOf(option, editor),
-                 "InputUncheckedHover InputUncheckedHover ButtonUncheckedHover");
-        showFocused(*editor);
-        QCOMPARE(brushesOf(option, editor), "InputUncheckedHover MainBrush ButtonUncheckedHover");
-        editor->setFrame(false);
-        QCOMPARE(brushesOf(option, editor),
-                 "InputUncheckedHover InputUncheckedHoverBackgroundBrush ButtonUncheckedHover");
-    }
-
-    void comboBoxesShowFocusAndPopupInTheirBorder()
-    {
-        QWidget window;
-        auto* layout = new QVBoxLayout(&window);
         auto* comboBox = new QComboBox;
         layout->addWidget(comboBox);
+        layout->addWidget(editor);
+        editor->setCalendarPopup(true);
         comboBox->addItems({QStringLiteral("One"), QStringLiteral("Two")});
-        const auto option = optionOf<QStyleOptionComboBox>(Hovered);
-
+        QByteArray text;
+        const auto add = [&](const char* what) {
+            text += QByteArray("# ") + what + '\n'
+                    + brushesOf(optionOf<QStyleOptionComboBox>(Hovered), comboBox) + '\n'
+                    + brushesOf(optionOf<QStyleOptionSpinBox>(Hovered), editor) + '\n';
+        };
+        add("not shown");
         // Asking does not build the popup.
-        QCOMPARE(brushesOf(option, comboBox), "InputUncheckedHover");
         QVERIFY(comboBox->findChildren<QAbstractItemView*>().isEmpty());
         showFocused(*comboBox);
-        QCOMPARE(brushesOf(option, comboBox), "InputUncheckedHover");
+        add("combo box in focus");
+        showFocused(*editor);
+        add("editor in focus");
+        editor->setFrame(false);
         comboBox->setEditable(true);
         comboBox->lineEdit()->setFocus();
         QVERIFY(comboBox->lineEdit()->hasFocus());
-        QCOMPARE(brushesOf(option, comboBox), "InputUncheckedHover MainBrush InputUncheckedHover");
-
+        add("editable combo box in focus, editor without frame");
         comboBox->showPopup();
         QTRY_VERIFY(comboBox->view()->isVisible());
         comboBox->lineEdit()->setFocus();
-        QCOMPARE(brushesOf(option, comboBox), "InputUncheckedHover Card InputUncheckedHover");
+        add("with popup");
         comboBox->setFrame(false);
-        QCOMPARE(brushesOf(option, comboBox),
-                 "InputUncheckedHover InputUncheckedHoverBackgroundBrush InputUncheckedHover");
+        add("with popup, without frame");
         comboBox->hidePopup();
-    }
-
-    void defaultCommandLinksAreQuietAtRest()
-    {
-        const QCommandLinkButton button(QStringLiteral("Link"));
-        auto option = optionOf(Enabled | QStyle::State_Active);
-        QCOMPARE(brushesOf(option, &button), "ButtonUnchecked");
-        option.features = QStyleOptionButton::DefaultButton | QStyleOptionButton::CommandLinkButton;
-        QCOMPARE(brushesOf(option, &button), "ButtonDefault ButtonDefault none");
-        option.state |= QStyle::State_MouseOver;
-        QCOMPARE(brushesOf(option, &button), "ButtonDefaultHover");
-    }
-
-    void tabBarButtonsHaveTheCardBorder()
-    {
-        QTabBar tabBar;
-        const QToolButton button(&tabBar);
-        QCOMPARE(brushesOf(optionOf(Hovered), &button),
-                 "ButtonUncheckedHover Card ButtonUncheckedHover");
+        COMPARE_TRANSCRIPT("ButtonBrushes.inputs", text);
     }
 };
 

@@ -1,3 +1,4 @@
+#include "Pictures.h"
 #include "StateSheet.h"
 
 #include <QPicture>
@@ -108,21 +109,6 @@ private Q_SLOTS:
                     QVERIFY2(largestDifference(drawn(false, scale, shift), expected) <= Rounding,
                              qPrintable(QStringLiteral("at scale %1").arg(scale)));
             }
-    }
-
-private:
-    static int largestDifference(const QImage& one, const QImage& other)
-    {
-        int largest = 0;
-        for (int y = 0; y < one.height(); ++y)
-            for (int x = 0; x < one.width(); ++x) {
-                const QColor a = one.pixelColor(x, y);
-                const QColor b = other.pixelColor(x, y);
-                largest =
-                    std::max({largest, std::abs(a.red() - b.red()), std::abs(a.green() - b.green()),
-                              std::abs(a.blue() - b.blue())});
-            }
-        return largest;
     }
 };
 

@@ -3,10 +3,9 @@
 #include "ProbeTheme.h"
 
 #include <QFile>
-#include <QPaintDevice>
+#include <QImage>
 #include <QPaintEngine>
 #include <QPainterPath>
-#include <QScreen>
 #include <QSet>
 
 #include <cmath>
@@ -216,30 +215,15 @@ private:
     }
 };
 
-class Paper : public QPaintDevice
+/// Large enough for what is painted; its pixels are never touched.
+class Paper : public QImage
 {
 public:
+    Paper() : QImage(4096, 4096, Format_Alpha8) { }
+
     mutable Engine engine;
 
     QPaintEngine* paintEngine() const override { return &engine; }
-
-protected:
-    int metric(PaintDeviceMetric metric) const override
-    {
-        constexpr int Side = 4096;
-        switch (metric) {
-        case PdmWidth:
-        case PdmHeight: return Side;
-        case PdmDpiX:
-        case PdmDpiY:
-        case PdmPhysicalDpiX:
-        case PdmPhysicalDpiY: return qRound(qApp->primaryScreen()->logicalDotsPerInch());
-        case PdmDevicePixelRatio: return 1;
-        case PdmDevicePixelRatioScaled: return int(devicePixelRatioFScale());
-        case PdmDepth: return 32;
-        default: return 0;
-        }
-    }
 };
 
 } // namespace

@@ -1,10 +1,9 @@
 #include "Helpers.h"
+#include "Pictures.h"
 
-#include <QDir>
 #include <QIconEngine>
 #include <QImage>
 #include <QPainter>
-#include <QTemporaryDir>
 #include <QtTest>
 
 #include <functional>
@@ -88,24 +87,7 @@ QIcon recolored(const QIcon& icon, const QBrush& brush = Replacement, bool disab
 
 QImage imageOf(const QIcon& icon, int size, QIcon::State state = QIcon::Off)
 {
-    return icon.pixmap(QSize(size, size), QIcon::Normal, state)
-        .toImage()
-        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-int difference(const QImage& one, const QImage& other)
-{
-    int largest = one.size() == other.size() ? 0 : 255;
-    for (int y = 0; y < one.height() && largest < 255; ++y)
-        for (int x = 0; x < one.width(); ++x) {
-            const QRgb a = one.pixel(x, y);
-            const QRgb b = other.pixel(x, y);
-            largest = std::max({largest, std::abs(qAlpha(a) - qAlpha(b)),
-                                std::abs(qRed(a) - qRed(b)) * qAlpha(a) / 255,
-                                std::abs(qGreen(a) - qGreen(b)) * qAlpha(a) / 255,
-                                std::abs(qBlue(a) - qBlue(b)) * qAlpha(a) / 255});
-        }
-    return largest;
+    return icon.pixmap(QSize(size, size), QIcon::Normal, state).toImage();
 }
 
 QPixmap filled(const QColor& color, int side = 16)
@@ -130,7 +112,8 @@ private Q_SLOTS:
             const QIcon expected = drawnIcon(ringOn(replacement, other));
             int largest = 0;
             for (const int size : {16, 20, 24, 33, 64})
-                largest = qMax(largest, difference(imageOf(actual, size), imageOf(expected, size)));
+                largest = qMax(largest,
+                               largestDifference(imageOf(actual, size), imageOf(expected, size)));
             return largest;
         };
         QVERIFY(furthest(Qt::transparent, Replacement) <= 2);
@@ -144,7 +127,8 @@ private Q_SLOTS:
         // White fades into this blue by way of colors close to the reference.
         const QIcon blueAndWhite = drawnIcon(ringOn(Qt::white, Other));
         for (const int size : {16, 24, 64})
-            QVERIFY(difference(imageOf(recolored(blueAndWhite), size), imageOf(blueAndWhite, size))
+            QVERIFY(largestDifference(imageOf(recolored(blueAndWhite), size),
+                                      imageOf(blueAndWhite, size))
                     <= 1);
 
         // The reference is one of the shades of this picture.
@@ -155,13 +139,13 @@ private Q_SLOTS:
             sky.setColorAt(1, Qt::white);
             painter.fillRect(0, 0, 16, 16, sky);
         });
-        QVERIFY(difference(imageOf(recolored(shades), 64), imageOf(shades, 64)) <= 1);
+        QVERIFY(largestDifference(imageOf(recolored(shades), 64), imageOf(shades, 64)) <= 1);
 
         const QIcon same[] = {
             recolored(shades, QBrush()),
             Helpers::getModifiedIconWithForegroundBrush(shades, Qt::NoBrush, Replacement, false)};
         for (const QIcon& unchanged : same)
-            QVERIFY(difference(imageOf(unchanged, 64), imageOf(shades, 64)) <= 1);
+            QVERIFY(largestDifference(imageOf(unchanged, 64), imageOf(shades, 64)) <= 1);
 
         // A gray between the reference and black, next to both, is no blend of them.
         const QColor gray(115, 119, 122);
@@ -250,28 +234,6 @@ private Q_SLOTS:
         imageOf(recolored(icon), 16);
         QVERIFY2(request.size.isEmpty(), "the pixmap was drawn again");
         QVERIFY(recolored(QIcon()).isNull());
-    }
-
-    void iconsOfTheThemeFollowIt()
-    {
-        QTemporaryDir folder;
-        const auto addTheme = [&](const char* name, const QColor& color) {
-            const QString path = folder.filePath(QLatin1String(name));
-            QVERIFY(QDir().mkpath(path + QStringLiteral("/16")));
-            QFile index(path + QStringLiteral("/index.theme"));
-            QVERIFY(index.open(QIODevice::WriteOnly));
-            index.write("[Icon Theme]\nName=x\nDirectories=16\n[16]\nSize=16\n");
-            QVERIFY(filled(color).save(path + QStringLiteral("/16/mark.png")));
-        };
-        addTheme("one", Reference);
-        addTheme("two", Other);
-        QIcon::setThemeSearchPaths({folder.path()});
-        QIcon::setThemeName(QStringLiteral("one"));
-        const QIcon icon = recolored(QIcon::fromTheme(QStringLiteral("mark")));
-        QCOMPARE(icon.name(), QStringLiteral("mark"));
-        QCOMPARE(imageOf(icon, 16).pixelColor(8, 8), Replacement);
-        QIcon::setThemeName(QStringLiteral("two"));
-        QCOMPARE(imageOf(icon, 16).pixelColor(8, 8), Other);
     }
 };
 

@@ -41,9 +41,10 @@ private Q_SLOTS:
                                   {QStringLiteral("DarkForegroundDisableFactor"), 150}};
         qApp->setProperty("theme_var_internal", QVariantMap{{QStringLiteral("factors"), factors}});
 
-        m_files.write(QStringLiteral("a/index.theme"),
-                      "[Icon Theme]\nName=x\n[i]\nSize=16\nType=Scalable\nMinSize=1\n"
-                      "MaxSize=512\n");
+        for (const char* index : {"a/index.theme", "b/index.theme"})
+            m_files.write(QLatin1String(index), "[Icon Theme]\nName=x\n[i]\nSize=16\n"
+                                                "Type=Scalable\nMinSize=1\nMaxSize=512\n");
+        m_files.write(QStringLiteral("b/i/plain.svg"), svgSquare("#123456"));
         const auto draw = [this](const char* name, const char* color) {
             m_files.write(QStringLiteral("a/i/%1.svg").arg(QLatin1String(name)), svgSquare(color));
         };
@@ -110,6 +111,13 @@ private Q_SLOTS:
         // Blue becomes a name that the icon theme has a drawing for.
         publish({{QStringLiteral("MainBrush"), QBrush(Qt::blue)}});
         QCOMPARE(name(), QStringLiteral("made.MainBrush"));
+
+        // An icon that was recolored before shows what the icon theme has now.
+        const QIcon plain = getModifiedIconWithForegroundBrush(themed("plain"), QBrush(Qt::red));
+        QCOMPARE(colorOf(plain), QColor(Qt::red));
+        QIcon::setThemeName(QStringLiteral("b"));
+        QCOMPARE(colorOf(plain), QColor(0x123456));
+        QIcon::setThemeName(QStringLiteral("a"));
     }
 };
 
