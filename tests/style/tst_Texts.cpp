@@ -1,4 +1,4 @@
-#include "Pictures.h"
+#include "PictureDifference.h"
 #include "StateSheet.h"
 
 #include <QPicture>

@@ -1,5 +1,5 @@
 #include "Helpers.h"
-#include "Pictures.h"
+#include "PictureDifference.h"
 
 #include <QIconEngine>
 #include <QImage>

@@ -30,12 +30,13 @@ QVariantMap group(const char* name)
 /// The theme's color or brush `name`; with a dot, that of a palette: "Inactive.Text".
 QColor themed(const QString& name)
 {
-    const QStringList parts = name.split(QLatin1Char('.'));
+    const QList<QByteArray> parts = name.toLatin1().split('.');
+    const auto groups = QMetaEnum::fromType<QPalette::ColorGroup>();
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
     if (parts.size() == 2)
         return qApp->style()->standardPalette().color(
-            parts.first() == QLatin1String("Active") ? QPalette::Active : QPalette::Inactive,
-            QPalette::ColorRole(
-                QMetaEnum::fromType<QPalette::ColorRole>().keyToValue(parts.last().toLatin1())));
+            QPalette::ColorGroup(groups.keyToValue(parts.first())),
+            QPalette::ColorRole(roles.keyToValue(parts.last())));
     const QVariant brush = group("brushes").value(name);
     return brush.isValid() ? brush.value<QBrush>().color()
                            : group("colors").value(name).value<QColor>();
