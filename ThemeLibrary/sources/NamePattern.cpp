@@ -44,7 +44,9 @@ Segments readSegments(const QString& pattern)
 QStringList expandNamePattern(const QString& pattern, int most)
 {
     const Segments segments = readSegments(pattern);
-    int count = segments.isEmpty() ? 0 : 1;
+    if (segments.isEmpty())
+        return {};
+    int count = 1;
     for (const QStringList& alternatives : segments) {
         if (alternatives.size() > most / count)
             return {};
