@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QStyleOption>
 
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -28,7 +29,7 @@ enum class CheckWord { Default, Checked, Unchecked };
 enum class PointerWord { None, Pressed, Hover };
 enum class Part { Background, Border, Foreground };
 
-constexpr int Count = 3; ///< of each of these
+constexpr size_t Count = 3; ///< of each of these
 
 /// The words of a composed name, but for the kind.
 struct Words
@@ -88,11 +89,11 @@ KindBrushes& brushesOf(const QString& kind)
 /// until the next call.
 const QBrush& composedBrush(const Words& words, const QString& kind, bool enabled)
 {
-    int place = enabled ? 1 : 0;
-    for (const int word :
-         {int(words.family), int(words.check), int(words.pointer), int(words.part)})
+    size_t place = enabled ? 1 : 0;
+    for (const size_t word :
+         {size_t(words.family), size_t(words.check), size_t(words.pointer), size_t(words.part)})
         place = place * Count + word;
-    std::optional<QBrush>& brush = brushesOf(kind).at(size_t(place));
+    std::optional<QBrush>& brush = brushesOf(kind).at(place);
     if (!brush)
         brush = BaseStyle::getBrush(
             familyName(words.family) + kind + stateName(words) + partName(words.part), enabled);
@@ -245,14 +246,12 @@ void dressAsInput(ButtonLook& look)
 /// Asking the combo box for its view would build the popup.
 bool isPopupVisible(const QComboBox& comboBox)
 {
-    for (const QObject* child : comboBox.children()) {
-        if (!child->isWidgetType())
-            continue;
-        const auto* widget = static_cast<const QWidget*>(child);
-        if (widget->isWindow() && widget->isVisible() && WidgetTraits::isComboBoxPopup(widget))
-            return true;
-    }
-    return false;
+    const QObjectList& children = comboBox.children();
+    return std::any_of(children.begin(), children.end(), [](const QObject* child) {
+        const auto* widget = qobject_cast<const QWidget*>(child);
+        return widget && widget->isWindow() && widget->isVisible()
+               && WidgetTraits::isComboBoxPopup(widget);
+    });
 }
 
 /// Quicker than looking for the editor of each combo box.

@@ -20,9 +20,21 @@ Helpers::StraightCornerFlags segmentCorners(int index, int count, bool horizonta
     return Helpers::AllCorners;
 }
 
+/// Which neighbours a step of a workflow is linked to.
+struct Links
+{
+    bool toFormer;
+    bool toNext;
+};
+
+Links linksOf(int index, int count)
+{
+    return {index > 0, index == 0 || (index > 0 && index != count - 1)};
+}
+
 /// A pill with the dots of the links to its neighbours at its ends.
 void drawWorkflowStep(const QRectF& rect, QPainter& painter, int diameter, const QBrush& dotBrush,
-                      int index, int count, bool horizontal)
+                      Links links, bool horizontal)
 {
     const qreal inset = diameter / 2.0;
     painter.setBrush(Qt::NoBrush);
@@ -30,8 +42,6 @@ void drawWorkflowStep(const QRectF& rect, QPainter& painter, int diameter, const
                                   int((rect.height() - diameter) / 2), Helpers::None, &painter);
     painter.setBrush(dotBrush);
     painter.setPen(ThemeResources::getBrush(ThemeNames::listBackgroundBrush()).color());
-    if (index < 0)
-        return;
     QRectF first(0, 0, diameter, diameter);
     first.moveCenter(rect.center());
     QRectF second = first;
@@ -42,9 +52,9 @@ void drawWorkflowStep(const QRectF& rect, QPainter& painter, int diameter, const
         first.moveTop(rect.top());
         second.moveTop(rect.bottom() - diameter);
     }
-    if (index != 0)
+    if (links.toFormer)
         painter.drawEllipse(first);
-    if (index == 0 || index != count - 1)
+    if (links.toNext)
         painter.drawEllipse(second);
 }
 
@@ -67,7 +77,8 @@ void BaseStyle::drawButtonGroup(const QRectF& rect, QPainter* painter, const QSt
     // Deliberate: the painter keeps the pen and brush that are set here.
     if (WidgetProperties::flag(group, WidgetProperties::ButtonGroupWorkflow)) {
         const int diameter = proxy()->pixelMetric(PM_RadioButtonLabelSpacing, option, widget);
-        drawWorkflowStep(rect, *painter, diameter, brushes.borderBrush, index, count, horizontal);
+        drawWorkflowStep(rect, *painter, diameter, brushes.borderBrush, linksOf(index, count),
+                         horizontal);
     } else if (index >= 0) {
         Helpers::drawRoundedRectShape(rect, radius, segmentCorners(index, count, horizontal),
                                       painter);

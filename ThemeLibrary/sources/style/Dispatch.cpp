@@ -150,6 +150,7 @@ SizeRule ruleOf(QStyle::ContentsType type)
     }
 }
 
+// NOLINTNEXTLINE(readability-function-size): a table
 MetricRule ruleOf(QStyle::PixelMetric metric)
 {
     switch (unsigned(metric)) {

@@ -50,8 +50,7 @@ void applyIcon(QAbstractButton& button, const QIcon& source, const QBrush& brush
 /// The button's own icon: the one it had, or was given since, before the style recolored it.
 QIcon originalIcon(QAbstractButton& button)
 {
-    QIcon original =
-        WidgetProperties::value(&button, WidgetProperties::OriginalIcon).value<QIcon>();
+    auto original = WidgetProperties::value(&button, WidgetProperties::OriginalIcon).value<QIcon>();
     const bool isOurs = button.icon().cacheKey() == appliedIcon(button).result;
     if (original.isNull() || !isOurs) {
         original = button.icon();
@@ -125,11 +124,12 @@ bool BaseStyle::eventFilter(QObject* watched, QEvent* event)
     case QEvent::Paint: colorIconBeforePaint(*widget); break;
     case QEvent::KeyPress:
         if (isAlt(*event)) {
+            const QWidget* window = widget->window();
             // A window that is deleted unclosed must not speak for the next one at its address.
-            if (const QWidget* window = widget->window(); !m_seenAlt.contains(window))
-                connect(window, &QObject::destroyed, this,
-                        [this, window] { m_seenAlt.removeAll(window); });
-            m_seenAlt.append(widget->window());
+            const auto forget = [this, window] { m_seenAlt.removeAll(window); };
+            if (!m_seenAlt.contains(window))
+                connect(window, &QObject::destroyed, this, forget);
+            m_seenAlt.append(window);
             m_alt_down = true;
             updateMnemonics(*widget->window());
         }

@@ -130,14 +130,13 @@ void drawKept(QPainter& painter, Kind kind, const QRect& rect, const QBrush& bru
                   transform.m22(),
                   ((device.topLeft() - first) * Subpixels).toPoint(),
                   painter.testRenderHint(QPainter::Antialiasing)};
-    const Picture* picture = sPictures.object(key);
-    if (!picture) {
-        auto* added =
-            new Picture(painted(device.toAlignedRect(), transform, key.antialiased, call, paint));
-        sPictures.insert(key, added, int(added->image.sizeInBytes()) + int(sizeof(Picture)));
-        picture = added; // far smaller than all that is kept
+    if (const Picture* known = sPictures.object(key)) {
+        copy(painter, transform, first + known->offset, known->image);
+        return;
     }
-    copy(painter, transform, first + picture->offset, picture->image);
+    const Picture added = painted(device.toAlignedRect(), transform, key.antialiased, call, paint);
+    copy(painter, transform, first + added.offset, added.image);
+    sPictures.insert(key, new Picture(added), int(added.image.sizeInBytes()) + int(sizeof(added)));
 }
 
 } // namespace BRELK::Pictures

@@ -30,7 +30,7 @@ PlacedBox placed(const QPainter& painter, const QRectF& rect)
 {
     if (!isBetweenPixels(painter))
         return {rect, 1};
-    const QTransform transform = painter.deviceTransform();
+    const QTransform& transform = painter.deviceTransform();
     if (transform.type() > QTransform::TxScale)
         return {rect, 1};
     const QRectF covered = transform.mapRect(rect);
@@ -59,8 +59,8 @@ QRectF middleOfBorder(const QPainter& painter, const QRectF& rect, QPen& pen)
 QPen borderPen(const QBrush& border)
 {
     if (border.style() == Qt::NoBrush)
-        return QPen(Qt::NoPen);
-    return QPen(border, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+        return {Qt::NoPen};
+    return {border, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
 int cornerRadius(const QString& name)
@@ -170,6 +170,7 @@ void drawGrips(const PaintContext& context, Qt::Orientation orientation, int fro
 
 namespace BRELK {
 
+// NOLINTNEXTLINE(readability-function-size): Qt's
 void BaseStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
                              const QPalette& palette, bool, const QString& text,
                              QPalette::ColorRole role) const

@@ -9,7 +9,7 @@ int BaseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
 {
     switch (hint) {
     case SH_ComboBox_Popup: return false; // a list below the box, painted by its delegate
-    case SH_ComboBox_PopupFrameStyle: return QFrame::StyledPanel | QFrame::Plain;
+    case SH_ComboBox_PopupFrameStyle: return int(QFrame::StyledPanel) | int(QFrame::Plain);
     case SH_DialogButtonBox_ButtonsHaveIcons:
         return false; // Qt's own icons do not follow the theme
     case SH_EtchDisabledText:

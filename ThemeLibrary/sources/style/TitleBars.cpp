@@ -46,8 +46,8 @@ constexpr int MenuIconSize = 16;
 struct TitleButton
 {
     QStyle::SubControl part;
-    bool (*isShown)(const QStyleOptionTitleBar&);
     QStyle::StandardPixmap icon;
+    bool (*isShown)(const QStyleOptionTitleBar&);
 };
 
 template <Qt::WindowType Flag>
@@ -80,16 +80,16 @@ bool canRestore(const QStyleOptionTitleBar& bar)
 
 // Deliberate: shade and unshade are both shown whenever both are asked for.
 constexpr TitleButton TitleButtons[] = {
-    {QStyle::SC_TitleBarMinButton, canMinimize, QStyle::SP_TitleBarMinButton},
-    {QStyle::SC_TitleBarMaxButton, canMaximize, QStyle::SP_TitleBarMaxButton},
-    {QStyle::SC_TitleBarCloseButton, has<Qt::WindowSystemMenuHint>, QStyle::SP_TitleBarCloseButton},
-    {QStyle::SC_TitleBarNormalButton, canRestore, QStyle::SP_TitleBarNormalButton},
-    {QStyle::SC_TitleBarContextHelpButton, has<Qt::WindowContextHelpButtonHint>,
-     QStyle::SP_TitleBarContextHelpButton},
-    {QStyle::SC_TitleBarShadeButton, has<Qt::WindowShadeButtonHint>,
-     QStyle::SP_TitleBarShadeButton},
-    {QStyle::SC_TitleBarUnshadeButton, has<Qt::WindowShadeButtonHint>,
-     QStyle::SP_TitleBarUnshadeButton},
+    {QStyle::SC_TitleBarMinButton, QStyle::SP_TitleBarMinButton, canMinimize},
+    {QStyle::SC_TitleBarMaxButton, QStyle::SP_TitleBarMaxButton, canMaximize},
+    {QStyle::SC_TitleBarCloseButton, QStyle::SP_TitleBarCloseButton, has<Qt::WindowSystemMenuHint>},
+    {QStyle::SC_TitleBarNormalButton, QStyle::SP_TitleBarNormalButton, canRestore},
+    {QStyle::SC_TitleBarContextHelpButton, QStyle::SP_TitleBarContextHelpButton,
+     has<Qt::WindowContextHelpButtonHint>},
+    {QStyle::SC_TitleBarShadeButton, QStyle::SP_TitleBarShadeButton,
+     has<Qt::WindowShadeButtonHint>},
+    {QStyle::SC_TitleBarUnshadeButton, QStyle::SP_TitleBarUnshadeButton,
+     has<Qt::WindowShadeButtonHint>},
 };
 
 QRect partRect(const PaintContext& context, const QStyleOptionTitleBar& bar,

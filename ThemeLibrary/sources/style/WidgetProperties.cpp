@@ -44,7 +44,7 @@ int declaredIndex(const QMetaObject* meta, const char* property)
 
 } // namespace
 
-Reader::Reader(const QObject* object) : m_object(object), m_class(nullptr)
+Reader::Reader(const QObject* object) : m_object(object)
 {
     if (!object)
         return;

@@ -145,7 +145,7 @@ public:
 
 private:
     const QObject* m_object;
-    const QMetaObject* m_class;
+    const QMetaObject* m_class = nullptr;
     QList<QByteArray> m_ownNames;
 };
 
