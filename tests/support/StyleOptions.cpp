@@ -376,6 +376,7 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings)
     if (!sample.widget)
         sample = plain<QWidget>(settings);
     const auto states = QMetaEnum::fromType<QStyle::StateFlag>();
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting) {
         const QByteArray& key = setting.key();
         if (key.startsWith("option."))
@@ -383,6 +384,9 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings)
         else if (key.startsWith("State_"))
             sample.option->state.setFlag(QStyle::StateFlag(states.keyToValue(key)),
                                          setting.value().toBool());
+        else if (key.startsWith("palette."))
+            sample.option->palette.setColor(QPalette::ColorRole(roles.keyToValue(key.mid(8))),
+                                            setting.value().toString());
     }
     const auto ofParent = settings.lowerBound("parent.");
     if (ofParent != settings.cend() && ofParent.key().startsWith("parent.")) {
