@@ -21,19 +21,12 @@ QStringList kinds()
     return {QString(), VARN_THEME_KINDS(VARN_THEME_TEXT)};
 }
 
-QStringList statesOf(const QString& checkState)
-{
-    QStringList states;
-    for (const QString& pointer : {QString(), VARN_THEME_POINTER_STATES(VARN_THEME_TEXT)})
-        states.append(checkState + pointer);
-    return states;
-}
-
 QStringList states()
 {
     QStringList states;
     for (const QString& checkState : {VARN_THEME_CHECK_STATES(VARN_THEME_TEXT)})
-        states += statesOf(checkState);
+        for (const QString& pointer : {QString(), VARN_THEME_POINTER_STATES(VARN_THEME_TEXT)})
+            states.append(checkState + pointer);
     return states;
 }
 

@@ -19,7 +19,4 @@ QStringList kinds();
 /// The nine state words, as "UncheckedHover".
 QStringList states();
 
-/// The state words of `checkState`, as "Unchecked" with "", "Pressed" and "Hover".
-QStringList statesOf(const QString& checkState);
-
 } // namespace AllThemeNames

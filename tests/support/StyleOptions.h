@@ -33,9 +33,9 @@ struct Open : Widget
     using Widget::Widget;
 };
 
-/// What makes a sample a special one: properties of the widget, those of a group of buttons around
-/// it as "parent.name", fields of the option as "option.name", "State_name" and "palette.role", and
-/// as "class" that of the widget, where several paint with the element.
+/// What makes a sample a special one: properties of the widget by their names, those of a group of
+/// buttons around it as "parent.name", fields of the option as "option.name", "State_name" and
+/// "palette.role", and as "class" that of the widget, where several kinds paint with the element.
 using Settings = QMap<QByteArray, QVariant>;
 
 /// By the name of an element, as "CE_PushButton".
