@@ -44,6 +44,7 @@ void fill(QWidget& widget, const Settings& settings)
     apply(settings, {}, widget);
     const bool upright = widget.property("orientation").toInt() == Qt::Vertical;
     widget.ensurePolished();
+    apply(settings, {}, widget); // again, as polishing sets some
     widget.resize(upright ? WidgetSize.transposed() : WidgetSize);
     if (auto* comboBox = qobject_cast<QComboBox*>(&widget))
         comboBox->addItem(ProbeTheme::pixmap(), QStringLiteral("Text"));
