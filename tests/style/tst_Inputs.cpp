@@ -103,15 +103,6 @@ private Q_SLOTS:
         QCOMPARE(drawn(QStyle::PE_IndicatorArrowDown, option, &widget), "");
     }
 
-    void ticksHaveRoomBesideTheHandle()
-    {
-        for (const Qt::Orientation orientation : {Qt::Horizontal, Qt::Vertical}) {
-            QSlider slider(orientation);
-            slider.setTickPosition(QSlider::TicksBothSides);
-            QCOMPARE(qMin(slider.sizeHint().width(), slider.sizeHint().height()), 28);
-        }
-    }
-
     void rangesHaveNoLimits()
     {
         constexpr int Huge = std::numeric_limits<int>::max();

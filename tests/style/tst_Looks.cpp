@@ -85,7 +85,7 @@ private Q_SLOTS:
     void ofElements_data()
     {
         QTest::addColumn<QByteArray>("prefix");
-        for (const char* prefix : {"PE", "CE", "CC", "SE"})
+        for (const char* prefix : {"PE", "CE", "CC", "SE", "CT"})
             QTest::newRow(prefix) << QByteArray(prefix);
     }
 
