@@ -40,7 +40,6 @@ constexpr State AtRest{"at rest"};
 constexpr State Hovered{"hovered", QStyle::State_MouseOver};
 constexpr State Pressed{"pressed", QStyle::State_MouseOver | QStyle::State_Sunken};
 constexpr State Checked{"checked", QStyle::State_On};
-constexpr State Partly{"partly checked", QStyle::State_NoChange};
 constexpr State Focused{"focused", QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange};
 constexpr State Disabled{"disabled", {}, QStyle::State_Enabled};
 

@@ -16,7 +16,7 @@
 /// Look into it for the one fact that a test is about. What matters as a whole is kept as a file
 /// under tests/style/transcripts:
 /// \code
-/// COMPARE_TRANSCRIPT("CheckBoxes.plain", drawn(QStyle::PE_IndicatorCheckBox, option, &checkBox));
+/// COMPARE_TRANSCRIPT("CheckBoxes", drawn(QStyle::PE_IndicatorCheckBox, option, &checkBox));
 /// \endcode
 QByteArray drawn(const std::function<void(QPainter*)>& paint);
 
