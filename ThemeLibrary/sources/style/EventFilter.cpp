@@ -120,15 +120,17 @@ bool BaseStyle::eventFilter(QObject* watched, QEvent* event)
     if (!widget || !event)
         return QObject::eventFilter(watched, event);
 
+    // A window that is deleted unclosed must not speak for the next one at its address.
+    const auto forgetWhenDeleted = [this](const QWidget* window) {
+        connect(window, &QObject::destroyed, this, [this, window] { m_seenAlt.removeAll(window); });
+    };
     switch (event->type()) {
     case QEvent::Paint: colorIconBeforePaint(*widget); break;
     case QEvent::KeyPress:
         if (isAlt(*event)) {
             const QWidget* window = widget->window();
-            // A window that is deleted unclosed must not speak for the next one at its address.
-            const auto forget = [this, window] { m_seenAlt.removeAll(window); };
             if (!m_seenAlt.contains(window))
-                connect(window, &QObject::destroyed, this, forget);
+                forgetWhenDeleted(window);
             m_seenAlt.append(window);
             m_alt_down = true;
             updateMnemonics(*widget->window());
