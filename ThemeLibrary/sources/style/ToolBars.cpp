@@ -2,8 +2,6 @@
 #include "Shapes.h"
 #include "ThemeNames.h"
 
-#include <qdrawutil.h>
-
 // Tool bars, their handles and separators.
 
 namespace BRELK::ToolBars {
@@ -90,7 +88,7 @@ void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBa
     case Qt::RightToolBarArea:
         Shapes::drawLine(context, rect.topLeft(), rect.bottomLeft(), context.borderBrush());
         break;
-    default: qDrawPlainRect(&context.painter, rect, context.borderBrush().color()); break;
+    default: Shapes::drawBox(context, rect, 0, Qt::NoBrush, context.borderBrush()); break;
     }
 }
 
