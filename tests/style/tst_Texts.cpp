@@ -73,6 +73,8 @@ private Q_SLOTS:
         const auto& style = *qobject_cast<const BRELK::BaseStyle*>(QApplication::style());
         const auto drawMarks = [&](QPainter& painter) {
             style.drawCheckMark(&painter, {5, 7, 16, 16}, QColor(20, 40, 160));
+            style.drawCheckMark(&painter, {5, 30, 5, 4}, QColor(20, 40, 160));
+            style.drawCheckMark(&painter, {5, 30, -5, 0}, QColor(20, 40, 160));
             style.drawRadioMark(&painter, {25, 7, 12, 13}, QColor(0, 90, 0, 200));
         };
         const auto drawArrows = [](QPainter& painter, const QStyle& by) {

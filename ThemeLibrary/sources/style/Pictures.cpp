@@ -76,7 +76,7 @@ QRect visibleRect(const QImage& image)
 Picture painted(const QRect& rect, const QTransform& transform, bool antialiased, Call call,
                 const void* paint)
 {
-    constexpr int Margin = 1;
+    constexpr int Margin = 8; ///< for what reaches out of a small rectangle
     const QRect around = rect.adjusted(-Margin, -Margin, Margin, Margin);
     QImage image(around.size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -118,7 +118,8 @@ void drawKept(QPainter& painter, Kind kind, const QRect& rect, const QBrush& bru
 
     const QTransform transform = painter.deviceTransform();
     const QRectF device = transform.mapRect(QRectF(rect));
-    if (!canCopy(painter, transform, brush) || device.width() * device.height() > LargestArea) {
+    if (!rect.isValid() || !canCopy(painter, transform, brush)
+        || device.width() * device.height() > LargestArea) {
         call(paint, painter);
         return;
     }

@@ -10,7 +10,7 @@ class QPainter;
 namespace BRELK::Pictures {
 
 /// Each drawing that is kept. What it looks like may depend on its kind, its brush, the size and
-/// place of its rectangle, and on nothing else; it stays inside that rectangle, or a pixel around.
+/// place of its rectangle, and on nothing else; it stays inside that rectangle, or close by.
 enum class Kind { CheckMark, RadioMark, SpinUp, SpinDown, SpinUpPressed, SpinDownPressed };
 
 /// Calls `paint(painter)`, if the drawing has to be painted, with a painter whose coordinates are
