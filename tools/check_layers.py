@@ -20,7 +20,7 @@ LAYERS = (
     (6, "theme application", [LIBRARY + name for name in ("BaseTheme.*", "ThemeFactory.*", "ThemeQApplication.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
         "ButtonContent.*", "FrozenTheme.*", "PainterSaver.*", "Pictures.*", "Shapes.*", "StyleContext.*", "Texts.*",
-        "ThemeNames.*", "WidgetProperties.*", "WidgetTraits.*")]),
+        "WidgetProperties.*", "WidgetTraits.*")]),
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",
                                                      "ProxyStyle_p.*")]

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Checks that the style writes each theme variable, property and class name in one place, that the properties are
+"""Checks that the library writes each theme variable, property and class name in one place, that the properties are
 documented, and that no source holds words that do not belong there.
 """
 
@@ -9,11 +9,14 @@ import sys
 import sourcetree
 
 STYLE = "ThemeLibrary/sources/style/"
-NAMES = STYLE + "ThemeNames.h"
+LIBRARY = "ThemeLibrary/"
+NAMES = LIBRARY + "sources/ThemeNames.h"
 PROPERTIES = STYLE + "WidgetProperties.h"
 PROPERTY_PAGE = "docs/properties.md"
 TRAITS = STYLE + "WidgetTraits.cpp"
 
+# Names that are also the constants' names, and names that stand beside theirs.
+NAME = re.compile(r'^    X\((?:(\w+)|\w+, \w+, "(\w+)")\)', re.MULTILINE)
 LITERAL = re.compile(r'"((?:[^"\\]|\\.)*)"')
 # Theme variables by their endings; the lists of the vocabulary name the rest.
 VARIABLE = re.compile(r"^\w+(Brush|Color|Opacity)(Disabled)?$")
@@ -33,28 +36,41 @@ def literals(name):
     return set(LITERAL.findall(path.read_text(encoding="utf-8"))) if path.exists() else set()
 
 
-def style_faults(name, line, variables, properties):
+def theme_names():
+    text = (sourcetree.ROOT / NAMES).read_text(encoding="utf-8")
+    return {plain or worded for plain, worded in NAME.findall(text)}
+
+
+def name_faults(name, line, variables):
+    for text in LITERAL.findall(line):
+        if text in variables or (name.startswith(STYLE) and VARIABLE.match(text)):
+            yield f'"{text}": theme variables are named in {NAMES}'
+
+
+def style_faults(name, line, properties):
     if name != TRAITS and CLASS_CALL.search(line):
         yield f"class names are tested in {TRAITS}"
     if name not in (PROPERTIES, TRAITS) and PROPERTY_CALL.search(line):
         yield f"properties are named in {PROPERTIES}"
     for text in LITERAL.findall(line):
-        if name not in (NAMES, PROPERTIES) and (VARIABLE.match(text) or text in variables):
-            yield f'"{text}": theme variables are named in {NAMES}'
-        elif name not in (PROPERTIES, NAMES, TRAITS) and text in properties:
+        if name not in (PROPERTIES, TRAITS) and text in properties:
             yield f'"{text}": properties are named in {PROPERTIES}'
 
 
 def faults(path, variables, properties):
     name = sourcetree.name(path)
-    style = name.startswith(STYLE)
+    library = name.startswith(LIBRARY) and name not in (NAMES, PROPERTIES)
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
         for pattern, reason in BANNED:
             if name != "tools/check_names.py" and pattern.search(line):
                 yield f"{name}:{number}: {pattern.search(line).group()}: {reason}"
-        if style and not line.lstrip().startswith(("#include", "//")):
-            for reason in style_faults(name, line, variables, properties):
-                yield f"{name}:{number}: {reason}"
+        if line.lstrip().startswith(("#include", "//")):
+            continue
+        reasons = list(name_faults(name, line, variables)) if library else []
+        if name.startswith(STYLE):
+            reasons += style_faults(name, line, properties)
+        for reason in reasons:
+            yield f"{name}:{number}: {reason}"
 
 
 def undocumented(properties):
@@ -66,7 +82,7 @@ def undocumented(properties):
 
 
 def main():
-    variables, properties = literals(NAMES), literals(PROPERTIES)
+    variables, properties = theme_names(), literals(PROPERTIES)
     sources = sourcetree.files(".cpp", ".h", ".py", ".md", ".qss", ".sh", ".cmake", ".txt")
     found = [line for path in sources for line in faults(path, variables, properties)]
     found += undocumented(properties)

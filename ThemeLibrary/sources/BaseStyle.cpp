@@ -1,5 +1,6 @@
 #include "BaseStyle.h"
 
+#include "ThemeNames.h"
 #include "ThemeResources.h"
 
 #include <QPainter>
@@ -7,20 +8,11 @@
 
 namespace BRELK {
 
-namespace {
-
-QString variantName(const QString& name, bool enabled)
-{
-    return enabled ? name : QString(name + QLatin1String("Disabled"));
-}
-
-} // namespace
-
 BaseStyle::BaseStyle() : QProxyStyle(QStringLiteral("fusion"))
 {
     m_palette = baseStyle()->standardPalette();
-    m_expanderHeaderBrush = getBrush(QStringLiteral("ExpanderHeaderBrush"), true);
-    m_windowBackgroundBrush = getBrush(QStringLiteral("BackgroundBrush"), true);
+    m_expanderHeaderBrush = getBrush(ThemeNames::ExpanderHeaderBrush, true);
+    m_windowBackgroundBrush = getBrush(ThemeNames::BackgroundBrush, true);
 }
 
 BaseStyle::~BaseStyle() = default;
@@ -50,27 +42,26 @@ const QBrush& BaseStyle::lightOutlineBrush(const QPalette& palette) const
 
 const QBrush& BaseStyle::grooveBackgroundBrush(bool enabled) const
 {
-    static const QBrush sGrooveBrush = getBrush(QStringLiteral("GrooveBackgroundBrush"), true);
-    static const QBrush sGrooveBrushDisabled =
-        getBrush(QStringLiteral("GrooveBackgroundBrush"), false);
+    static const QBrush sGrooveBrush = getBrush(ThemeNames::GrooveBackgroundBrush, true);
+    static const QBrush sGrooveBrushDisabled = getBrush(ThemeNames::GrooveBackgroundBrush, false);
     return enabled ? sGrooveBrush : sGrooveBrushDisabled;
 }
 
 const QBrush& BaseStyle::getBorderBrush(bool enabled)
 {
-    static const QBrush sBorderBrush = getBrush(QStringLiteral("CardBorderBrush"), true);
-    static const QBrush sBorderBrushDisabled = getBrush(QStringLiteral("CardBorderBrush"), false);
+    static const QBrush sBorderBrush = getBrush(ThemeNames::CardBorderBrush, true);
+    static const QBrush sBorderBrushDisabled = getBrush(ThemeNames::CardBorderBrush, false);
     return enabled ? sBorderBrush : sBorderBrushDisabled;
 }
 
 QBrush BaseStyle::getBrush(QString name, bool enabled)
 {
-    return ThemeResources::getBrush(variantName(name, enabled));
+    return ThemeResources::getBrush(enabled ? name : ThemeNames::twin(name));
 }
 
 QColor BaseStyle::getColor(QString name, bool enabled)
 {
-    return ThemeResources::getColor(variantName(name, enabled));
+    return ThemeResources::getColor(enabled ? name : ThemeNames::twin(name));
 }
 
 BaseStyle::ButtonBackgroundState

@@ -1,6 +1,7 @@
 #include "ThemeColorHelper.h"
 
 #include "Helpers.h"
+#include "ThemeNames.h"
 #include "ThemeResources.h"
 #include "ThemeResources_p.h"
 
@@ -29,7 +30,7 @@ QIcon themedOrRecolored(const QIcon& icon, const QBrush& brush)
 
     const QColor reference(0xE5, 0xEE, 0xF4);
     return Helpers::getModifiedIconWithForegroundBrush(
-        icon, reference, brush, brushName.contains(QLatin1String("Disabled")));
+        icon, reference, brush, brushName.contains(ThemeNames::Disabled.text));
 }
 
 struct IconInBrush
@@ -88,13 +89,13 @@ private:
 QColor disabled(const QColor& color, bool foreground)
 {
     static const int sLightForegroundFactor =
-        ThemeResources::getDisabledFactor(QStringLiteral("LightForegroundDisableFactor"));
+        ThemeResources::getDisabledFactor(ThemeNames::LightForegroundFactor);
     static const int sLightBackgroundFactor =
-        ThemeResources::getDisabledFactor(QStringLiteral("LightBackgroundDisableFactor"));
+        ThemeResources::getDisabledFactor(ThemeNames::LightBackgroundFactor);
     static const int sDarkForegroundFactor =
-        ThemeResources::getDisabledFactor(QStringLiteral("DarkForegroundDisableFactor"));
+        ThemeResources::getDisabledFactor(ThemeNames::DarkForegroundFactor);
     static const int sDarkBackgroundFactor =
-        ThemeResources::getDisabledFactor(QStringLiteral("DarkBackgroundDisableFactor"));
+        ThemeResources::getDisabledFactor(ThemeNames::DarkBackgroundFactor);
 
     if (Helpers::getPerceivedBrightness(color) > LargestDarkBrightness)
         return color.darker(foreground ? sLightForegroundFactor : sLightBackgroundFactor);

@@ -2,6 +2,7 @@
 
 #include "NamePattern.h"
 #include "ThemeConfigurationReader_p.h"
+#include "ThemeNames.h"
 #include "ThemeResources.h"
 
 #include <QFontDatabase>
@@ -28,19 +29,19 @@ constexpr double DefaultRubberBandOpacity = 0.25;
 struct Size
 {
     double defaultFontScale;
-    const char* tag;
+    QLatin1String tag;
     ThemeFont::ThemeFontId font;
     int defaultRadius;
 };
 
-constexpr Size Sizes[] = {{0.9, "SmallSize", ThemeFont::SMALL_FONT, 2},
-                          {1.0, "BaseSize", ThemeFont::BASE_FONT, 4},
-                          {1.2, "MediumSize", ThemeFont::MEDIUM_FONT, 6},
-                          {1.5, "LargeSize", ThemeFont::LARGE_FONT, 8}};
+constexpr Size Sizes[] = {{0.9, ThemeNames::SmallSize.text, ThemeFont::SMALL_FONT, 2},
+                          {1.0, ThemeNames::BaseSize.text, ThemeFont::BASE_FONT, 4},
+                          {1.2, ThemeNames::MediumSize.text, ThemeFont::MEDIUM_FONT, 6},
+                          {1.5, ThemeNames::LargeSize.text, ThemeFont::LARGE_FONT, 8}};
 
 bool isSize(const QString& tag)
 {
-    const auto hasTag = [&tag](const Size& size) { return tag == QLatin1String(size.tag); };
+    const auto hasTag = [&tag](const Size& size) { return tag == size.tag; };
     return std::any_of(std::begin(Sizes), std::end(Sizes), hasTag);
 }
 
@@ -290,7 +291,7 @@ void ThemeConfigurationReader::readOpacities(const ThemeEntries& entries)
         element.checkTextElement({"name"});
         return element.readNumber(element.getText(), 0, 1, ok);
     };
-    m_opacities.insert(QStringLiteral("RubberBandOpacity"), DefaultRubberBandOpacity);
+    m_opacities.insert(ThemeNames::RubberBandOpacity, DefaultRubberBandOpacity);
     for (const QString& name : entries.getNames()) {
         const double opacity = evaluate(entries, name, -1.0, read);
         if (opacity >= 0)
@@ -304,7 +305,7 @@ void ThemeConfigurationReader::readCornerRadius(const ThemeEntries& entries)
         return element.readInteger(element.getText(), 0, LargestRadius, ok);
     };
     for (const Size& size : Sizes) {
-        const QString name = QLatin1String(size.tag);
+        const QString name = size.tag;
         m_cornerRadius.insert(name, evaluate(entries, name, size.defaultRadius, read));
     }
 }
@@ -316,13 +317,13 @@ void ThemeConfigurationReader::readFont(const ThemeEntries& settings, const QStr
     const auto read = [](const ThemeElement& element, bool& ok) {
         return element.readNumber(element.getText(), SmallestFontSize, LargestFontSize, ok);
     };
-    const auto readSize = [&settings, &read](const char* tag, double missing) {
-        return evaluate(settings, QLatin1String(tag), missing, read);
+    const auto readSize = [&settings, &read](QLatin1String tag, double missing) {
+        return evaluate(settings, tag, missing, read);
     };
     // The platform's font may be sized in pixels.
     const double platformSize =
         font.pointSizeF() > 0 ? font.pointSizeF() : QFontInfo(font).pointSizeF();
-    const double baseSize = readSize("BaseSize", platformSize);
+    const double baseSize = readSize(ThemeNames::BaseSize.text, platformSize);
     for (const Size& size : Sizes) {
         const bool isBase = size.font == ThemeFont::BASE_FONT;
         font.setPointSizeF(

@@ -1,6 +1,7 @@
 #include "ThemeConfigurationReader_p.h"
 
 #include "ThemeColorHelper.h"
+#include "ThemeNames.h"
 
 #include <QGradient>
 
@@ -184,9 +185,10 @@ QString ThemeBrushResolver::findTwin(const ThemeEntry& entry) const
 {
     for (QString named = m_namedBrushes.value(entry.twinOf); !named.isEmpty();
          named = m_namedBrushes.value(named)) {
-        const ThemeEntries::Definitions twins = getEntries().getDefinitions(disabledName(named));
+        const ThemeEntries::Definitions twins =
+            getEntries().getDefinitions(ThemeNames::twin(named));
         if (!twins.isEmpty() && twins.first().twinOf.isEmpty())
-            return disabledName(named);
+            return ThemeNames::twin(named);
     }
     return {};
 }

@@ -1,13 +1,10 @@
 #include "ThemeEntries.h"
 
+#include "ThemeNames.h"
+
 #include <limits>
 
 namespace BRELK {
-
-QString disabledName(const QString& name)
-{
-    return name + QLatin1String("Disabled");
-}
 
 const ThemeEntries::Definitions& ThemeEntries::getDefinitions(const QString& name) const
 {
@@ -30,8 +27,8 @@ void ThemeEntries::addTwins()
     constexpr int LastLevel = std::numeric_limits<int>::max();
     const QStringList originals = m_names;
     for (const QString& name : originals) {
-        if (!name.endsWith(QLatin1String("Disabled")))
-            append(disabledName(name),
+        if (!name.endsWith(ThemeNames::Disabled.text))
+            append(ThemeNames::twin(name),
                    {getDefinitions(name).first().element, LastLevel, false, name});
     }
 }

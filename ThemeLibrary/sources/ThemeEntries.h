@@ -8,9 +8,6 @@
 
 namespace BRELK {
 
-/// `name` with "Disabled" at its end.
-QString disabledName(const QString& name);
-
 /// One definition of a name.
 struct ThemeEntry
 {

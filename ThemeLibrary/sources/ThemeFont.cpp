@@ -1,5 +1,7 @@
 #include "ThemeFont.h"
 
+#include "ThemeNames.h"
+
 namespace BRELK {
 
 QFont ThemeFont::getFont(ThemeFontId id) const
@@ -20,8 +22,8 @@ QString ThemeFont::getFontName(ThemeFontId id)
 
 const QStringList& ThemeFont::getFontsLabels()
 {
-    static const QStringList sLabels{QStringLiteral("small"), QStringLiteral("base"),
-                                     QStringLiteral("medium"), QStringLiteral("large")};
+    static const QStringList sLabels{ThemeNames::SmallFont, ThemeNames::BaseFont,
+                                     ThemeNames::MediumFont, ThemeNames::LargeFont};
     return sLabels;
 }
 

@@ -1,49 +1,72 @@
 #include "AllThemeNames.h"
 
-#include "style/ThemeNames.h"
+#include "ThemeNames.h"
 
-#define VARN_THEME_TEXT(function, text) QStringLiteral(text),
+using namespace BRELK;
+using ThemeNames::Group;
+
+namespace {
+
+QStringList words(Group group)
+{
+    QStringList texts;
+    for (const ThemeNames::Word& word : ThemeNames::Words) {
+        if (word.group == group)
+            texts.append(word.text);
+    }
+    return texts;
+}
+
+QStringList composedBrushes()
+{
+    QStringList families = words(Group::Family);
+    families.append(ThemeNames::Toggle.text + ThemeNames::Button.text);
+    QStringList names;
+    for (const QString& family : families)
+        for (const QString& kind : AllThemeNames::kinds())
+            for (const QString& state : AllThemeNames::states())
+                for (const QString& part : words(Group::Part))
+                    names.append(QString(family + kind + state + part));
+    return names;
+}
+
+} // namespace
 
 namespace AllThemeNames {
 
 QStringList colors()
 {
-    return {VARN_THEME_COLORS(VARN_THEME_TEXT)};
+    return {std::begin(ThemeNames::Colors), std::end(ThemeNames::Colors)};
 }
 
 QStringList plainBrushes()
 {
-    return {VARN_THEME_BRUSHES(VARN_THEME_TEXT)};
+    const QStringList composed = composedBrushes();
+    QStringList names;
+    for (const QLatin1String name : ThemeNames::Brushes) {
+        if (!composed.contains(name))
+            names.append(name);
+    }
+    return names;
 }
 
 QStringList kinds()
 {
-    return {QString(), VARN_THEME_KINDS(VARN_THEME_TEXT)};
+    return QStringList{QString()} + words(Group::Kind);
 }
 
 QStringList states()
 {
     QStringList states;
-    for (const QString& checkState : {VARN_THEME_CHECK_STATES(VARN_THEME_TEXT)})
-        for (const QString& pointer : {QString(), VARN_THEME_POINTER_STATES(VARN_THEME_TEXT)})
+    for (const QString& checkState : words(Group::CheckState))
+        for (const QString& pointer : QStringList{QString()} + words(Group::PointerState))
             states.append(checkState + pointer);
     return states;
 }
 
 QStringList brushes()
 {
-    QStringList names = plainBrushes() << QStringList{VARN_THEME_COMPOSED_BRUSHES(VARN_THEME_TEXT)};
-    for (const QString& family :
-         {QStringLiteral("Button"), QStringLiteral("ToggleButton"), QStringLiteral("Input")}) {
-        for (const QString& kind : kinds()) {
-            for (const QString& state : states()) {
-                for (const QString& part : {VARN_THEME_PARTS(VARN_THEME_TEXT)})
-                    names.append(QString(family + kind + state + part));
-            }
-        }
-    }
-    names.removeDuplicates();
-    return names;
+    return plainBrushes() + composedBrushes();
 }
 
 } // namespace AllThemeNames

@@ -43,19 +43,19 @@ struct Words
 QString familyName(Family family)
 {
     switch (family) {
-    case Family::Input: return ThemeNames::input();
-    case Family::ToggleButton: return ThemeNames::toggle() + ThemeNames::button();
-    default: return ThemeNames::button();
+    case Family::Input: return ThemeNames::Input;
+    case Family::ToggleButton: return ThemeNames::Toggle.text + ThemeNames::Button.text;
+    default: return ThemeNames::Button;
     }
 }
 
 QString stateName(const Words& words)
 {
-    const QString check = words.check == CheckWord::Default   ? ThemeNames::byDefault()
-                          : words.check == CheckWord::Checked ? ThemeNames::checked()
-                                                              : ThemeNames::unchecked();
-    const QString pointer = words.pointer == PointerWord::Pressed ? ThemeNames::pressed()
-                            : words.pointer == PointerWord::Hover ? ThemeNames::hover()
+    const QString check = words.check == CheckWord::Default   ? ThemeNames::Default
+                          : words.check == CheckWord::Checked ? ThemeNames::Checked
+                                                              : ThemeNames::Unchecked;
+    const QString pointer = words.pointer == PointerWord::Pressed ? ThemeNames::Pressed
+                            : words.pointer == PointerWord::Hover ? ThemeNames::Hover
                                                                   : QString();
     return check + pointer;
 }
@@ -63,9 +63,9 @@ QString stateName(const Words& words)
 QString partName(Part part)
 {
     switch (part) {
-    case Part::Background: return ThemeNames::backgroundPart();
-    case Part::Border: return ThemeNames::borderPart();
-    default: return ThemeNames::foregroundPart();
+    case Part::Background: return ThemeNames::BackgroundPart;
+    case Part::Border: return ThemeNames::BorderPart;
+    default: return ThemeNames::ForegroundPart;
     }
 }
 
@@ -114,7 +114,7 @@ struct ButtonLook
     CheckWord check = CheckWord::Unchecked;
     PointerWord pointer = PointerWord::None;
 
-    const QBrush& brush(ThemeNames::Name<QBrush> name) const
+    const QBrush& brush(ThemeNames::BrushName name) const
     {
         return FrozenTheme::brush(name, enabled);
     }
@@ -199,10 +199,11 @@ void flattenBorder(ButtonLook& look)
     if (!BaseStyle::isFlatButton(&look.option))
         return;
     look.brushes.borderBrush = look.brushes.backgroundBrush;
-    if ((look.properties.flag(WidgetProperties::Highlighted) || look.kind == ThemeNames::tarrin())
+    if ((look.properties.flag(WidgetProperties::Highlighted)
+         || look.kind == ThemeNames::Tarrin.text)
         && look.isPressed())
         look.brushes.foregroundBrush =
-            look.brush(ThemeNames::buttonHighlightedUncheckedHoverForegroundBrush());
+            look.brush(ThemeNames::ButtonHighlightedUncheckedHoverForegroundBrush);
 }
 
 void outline(ButtonLook& look)
@@ -232,12 +233,12 @@ void dressAsInput(ButtonLook& look)
         if (!static_cast<const QDateTimeEdit*>(look.widget)->hasFrame())
             brushes.borderBrush = brushes.backgroundBrush;
         else if (look.widget->hasFocus())
-            brushes.borderBrush = look.brush(ThemeNames::mainBrush());
+            brushes.borderBrush = look.brush(ThemeNames::MainBrush);
         else
             brushes.borderBrush = look.inputBrush(Part::Border);
     } else {
         brushes.backgroundBrush = look.isHovered()
-                                      ? look.brush(ThemeNames::inputUncheckedBackgroundBrush())
+                                      ? look.brush(ThemeNames::InputUncheckedBackgroundBrush)
                                       : look.inputBrush(Part::Background);
         brushes.borderBrush = brushes.backgroundBrush;
     }
@@ -276,7 +277,7 @@ void dressAsComboBox(ButtonLook& look)
     } else if (comboBox->isEditable() && isFocusWithin(*comboBox)) {
         const auto* editor = comboBox->findChild<QLineEdit*>();
         if (editor && editor->hasFocus())
-            look.brushes.borderBrush = look.brush(ThemeNames::mainBrush());
+            look.brushes.borderBrush = look.brush(ThemeNames::MainBrush);
     }
 }
 
@@ -300,7 +301,7 @@ void colorWorkflowGroup(ButtonLook& look)
         return;
     if (WidgetProperties::flag(group, WidgetProperties::ButtonGroupExclusive)) {
         if (look.properties.flag(WidgetProperties::Checked)) {
-            look.brushes.foregroundBrush = look.brush(ThemeNames::foregroundBrush());
+            look.brushes.foregroundBrush = look.brush(ThemeNames::ForegroundBrush);
             look.brushes.borderBrush = look.brushes.foregroundBrush;
         } else {
             // Deliberate: the name of a border brush for the foreground.
@@ -309,7 +310,7 @@ void colorWorkflowGroup(ButtonLook& look)
         }
     }
     if (look.option.state & QStyle::State_MouseOver && !look.isPressed()) {
-        look.brushes.borderBrush = look.brush(ThemeNames::mainBrush());
+        look.brushes.borderBrush = look.brush(ThemeNames::MainBrush);
         if (look.checkable)
             look.brushes.foregroundBrush = look.brushes.borderBrush;
     }

@@ -41,7 +41,7 @@ void drawWorkflowStep(const QRectF& rect, QPainter& painter, int diameter, const
     Helpers::drawRoundedRectShape(rect.adjusted(inset, inset, -inset, -inset),
                                   int((rect.height() - diameter) / 2), Helpers::None, &painter);
     painter.setBrush(dotBrush);
-    painter.setPen(ThemeResources::getBrush(ThemeNames::listBackgroundBrush()).color());
+    painter.setPen(ThemeResources::getBrush(ThemeNames::ListBackgroundBrush).color());
     QRectF first(0, 0, diameter, diameter);
     first.moveCenter(rect.center());
     QRectF second = first;

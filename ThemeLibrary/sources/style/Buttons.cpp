@@ -32,7 +32,7 @@ int panelRadius(const StyleContext& context, const QRect& rect)
 {
     if (context.flag(WidgetProperties::Circular))
         return qMin(rect.width(), rect.height()) / 2;
-    return Shapes::cornerRadius(ThemeNames::baseSize());
+    return Shapes::cornerRadius(ThemeNames::BaseSize);
 }
 
 } // namespace
@@ -187,7 +187,7 @@ void paintSegment(const PaintContext& context, const BaseStyle::ButtonBrushes& b
     const QRectF rect = Shapes::middleOfBorder(context.painter, segmentRect(context), pen);
     context.painter.setPen(pen);
     context.style.drawButtonGroup(rect, &context.painter, &context.option,
-                                  Shapes::cornerRadius(ThemeNames::baseSize()), brushes,
+                                  Shapes::cornerRadius(ThemeNames::BaseSize), brushes,
                                   context.widget);
 }
 
@@ -245,7 +245,7 @@ void paintPanel(const PaintContext& context)
     const bool hasError = showsError(context);
     if (!filled && !hasError && BaseStyle::isFlatButton(&context.option))
         return;
-    const QColor errorColor = context.color(ThemeNames::statusDangerColor());
+    const QColor errorColor = context.color(ThemeNames::StatusDangerColor);
     if (hasError)
         brushes.borderBrush = errorColor;
     else if (context.flag(WidgetProperties::Frameless))
@@ -297,9 +297,9 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
     const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&button, context.widget);
     QBrush themed = brushes.foregroundBrush;
     if (isMeantForFilling(context, brushes.backgroundBrush))
-        themed = context.brush(ThemeNames::buttonUncheckedForegroundBrush());
+        themed = context.brush(ThemeNames::ButtonUncheckedForegroundBrush);
     if (themed.style() == Qt::NoBrush)
-        themed = context.color(ThemeNames::foregroundColor());
+        themed = context.color(ThemeNames::ForegroundColor);
     const QBrush foreground =
         ButtonContent::textBrush(button, context.widget, QPalette::ButtonText, themed);
 

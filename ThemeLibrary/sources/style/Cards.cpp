@@ -34,7 +34,7 @@ int partRadius(const StyleContext& context)
 {
     return isFrameless(context) || cardFlag(context, WidgetProperties::CardNoCornerRadius)
                ? 0
-               : Shapes::cornerRadius(ThemeNames::mediumSize());
+               : Shapes::cornerRadius(ThemeNames::MediumSize);
 }
 
 /// The parts share the border of the card: it is left out, beyond the part's end, where the next
@@ -57,12 +57,12 @@ void paintEnd(const PaintContext& context, bool isUpper)
     const Corners joined = alone     ? Helpers::None
                            : isUpper ? Helpers::BottomCorners
                                      : Helpers::TopCorners;
-    paintPart(context, context.brush(ThemeNames::backgroundUpLevel1Brush()), joined);
+    paintPart(context, context.brush(ThemeNames::BackgroundUpLevel1Brush), joined);
     if (alone)
         return;
     const QRect& rect = context.option.rect;
     const QBrush line = cardFlag(context, WidgetProperties::Expandable)
-                            ? QBrush(context.color(ThemeNames::backgroundUpLevel2Color()))
+                            ? QBrush(context.color(ThemeNames::BackgroundUpLevel2Color))
                             : context.borderBrush();
     if (isUpper)
         Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), line);

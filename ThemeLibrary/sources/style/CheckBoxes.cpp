@@ -97,15 +97,15 @@ struct IndicatorBrushes
 IndicatorBrushes indicatorBrushes(const PaintContext& context)
 {
     const bool hovered = BaseStyle::isHovered(&context.option);
-    IndicatorBrushes brushes{context.brush(ThemeNames::controlBackgroundBrush()),
-                             context.brush(ThemeNames::controlBorderBrush()),
-                             context.brush(ThemeNames::foregroundMouseOverBrush())};
+    IndicatorBrushes brushes{context.brush(ThemeNames::ControlBackgroundBrush),
+                             context.brush(ThemeNames::ControlBorderBrush),
+                             context.brush(ThemeNames::ForegroundMouseOverBrush)};
     if (hovered || BaseStyle::isPressed(context.option))
         brushes.border = brushes.mark;
     if (context.has(QStyle::State_Selected)) // in a row of a view
         brushes.border = context.option.palette.brush(QPalette::HighlightedText);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
-        brushes.border = context.color(ThemeNames::statusDangerColor());
+        brushes.border = context.color(ThemeNames::StatusDangerColor);
     return brushes;
 }
 
@@ -122,8 +122,8 @@ void paintKnob(const PaintContext& context)
     const PainterSaver saver(context.painter);
     context.painter.setRenderHint(QPainter::Antialiasing);
     context.painter.setPen(Qt::NoPen);
-    context.painter.setBrush(context.brush(on ? ThemeNames::switchForegroundCheckedEllipseBrush()
-                                              : ThemeNames::switchEllipseBrush()));
+    context.painter.setBrush(context.brush(on ? ThemeNames::SwitchForegroundCheckedEllipseBrush
+                                              : ThemeNames::SwitchEllipseBrush));
     context.painter.drawEllipse(context.visual(knob));
 }
 
@@ -144,7 +144,7 @@ void paintIndicator(const PaintContext& context)
     const IndicatorBrushes brushes = indicatorBrushes(context);
     const QRect& rect = context.option.rect;
     const bool isSwitch = context.flag(WidgetProperties::Switch);
-    const int radius = isSwitch ? rect.height() / 2 : Shapes::cornerRadius(ThemeNames::baseSize());
+    const int radius = isSwitch ? rect.height() / 2 : Shapes::cornerRadius(ThemeNames::BaseSize);
     Shapes::drawBox(context, rect, radius, brushes.background, brushes.border);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
         Helpers::drawInputStatusIndicator(rect, radius, brushes.border.color(), &context.painter);

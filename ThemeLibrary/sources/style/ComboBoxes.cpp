@@ -109,9 +109,9 @@ void paintQuietBackground(const PaintContext& context, const QStyleOptionComboBo
 {
     if (!BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
         return;
-    const auto name = BaseStyle::isDown(comboBox) ? ThemeNames::backgroundSubLevel2Brush()
-                                                  : ThemeNames::backgroundUpLevel1Brush();
-    Shapes::drawBox(context, comboBox.rect, Shapes::cornerRadius(ThemeNames::smallSize()),
+    const auto name = BaseStyle::isDown(comboBox) ? ThemeNames::BackgroundSubLevel2Brush
+                                                  : ThemeNames::BackgroundUpLevel1Brush;
+    Shapes::drawBox(context, comboBox.rect, Shapes::cornerRadius(ThemeNames::SmallSize),
                     context.brush(name), Qt::NoBrush);
     if (comboBox.subControls & QStyle::SC_ComboBoxArrow)
         paintArrow(context, comboBox,
@@ -124,7 +124,7 @@ QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& combo
         return comboBox.palette.brush(QPalette::PlaceholderText);
     const QBrush themed = comboBox.frame
                               ? BaseStyle::buttonBrushes(&comboBox, context.widget).foregroundBrush
-                              : context.brush(ThemeNames::foregroundBrush());
+                              : context.brush(ThemeNames::ForegroundBrush);
     return ButtonContent::textBrush(comboBox, context.widget, QPalette::ButtonText, themed);
 }
 
@@ -155,7 +155,7 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
     // The line edit leaves this place open; a box that is pointed at shows its own ground there.
     if (comboBox.editable && !BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
         context.painter.fillRect(iconRect,
-                                 context.brush(ThemeNames::inputUncheckedBackgroundBrush()));
+                                 context.brush(ThemeNames::InputUncheckedBackgroundBrush));
     const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(comboBox.currentIcon, brush);
     context.proxy().drawItemPixmap(&context.painter, iconRect, Qt::AlignCenter,
                                    Shapes::iconPixmap(context.painter, icon, size));

@@ -62,7 +62,7 @@ QIcon originalIcon(QAbstractButton& button)
 void colorLineEditButton(QToolButton& button)
 {
     const bool pointedAt = button.underMouse() && button.isEnabled();
-    const QBrush brush = pointedAt ? QBrush(BaseStyle::getColor(ThemeNames::mainColor(), true))
+    const QBrush brush = pointedAt ? QBrush(BaseStyle::getColor(ThemeNames::MainColor, true))
                                    : QBrush(button.palette().color(QPalette::WindowText));
     const bool keepsIcon =
         WidgetProperties::flag(button.parent(), WidgetProperties::CustomActionIcons)
@@ -79,7 +79,7 @@ void colorCommandLink(QCommandLinkButton& button)
     const bool pointedAt =
         !button.isChecked() && !button.isDown() && button.underMouse() && button.isEnabled();
     const QBrush brush = pointedAt ? BaseStyle::getBrush(
-                             ThemeNames::buttonUncheckedHoverForegroundBrush(), button.isEnabled())
+                             ThemeNames::ButtonUncheckedHoverForegroundBrush, button.isEnabled())
                                    : button.palette().brush(QPalette::ButtonText);
     applyIcon(button, originalIcon(button), brush);
 }

@@ -113,9 +113,8 @@ void paintToolTip(const PaintContext& context)
 {
     const QPalette& palette = context.option.palette;
     const bool isError = QToolTip::text().contains(QLatin1String("errorTooltip"));
-    const QBrush border = isError
-                              ? QBrush(ThemeResources::getColor(ThemeNames::statusDangerColor()))
-                              : palette.brush(QPalette::Shadow);
+    const QBrush border = isError ? QBrush(ThemeResources::getColor(ThemeNames::StatusDangerColor))
+                                  : palette.brush(QPalette::Shadow);
     const QPen pen = context.painter.pen();
     const QBrush brush = context.painter.brush();
     context.painter.setPen(QPen(border, 0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));

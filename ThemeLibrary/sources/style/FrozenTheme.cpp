@@ -9,13 +9,12 @@ namespace BRELK::FrozenTheme {
 
 namespace {
 
-/// A value for each name and for its "Disabled" twin.
-template <class Value, auto Count>
-using Values = std::array<std::optional<Value>, 2 * size_t(Count)>;
+/// A value for each name of a list and for its twin.
+template <class Value, size_t Count>
+using Values = std::array<std::optional<Value>, 2 * Count>;
 
-template <class Values, class Value>
-const Value& find(Values& values, ThemeNames::Name<Value> name, bool enabled,
-                  Value (*lookUp)(QString, bool))
+template <class Values, class Name, class Value>
+const Value& find(Values& values, Name name, bool enabled, Value (*lookUp)(QString, bool))
 {
     auto& value = values.at(2 * size_t(name.place) + (enabled ? 1 : 0));
     if (!value)
@@ -25,15 +24,15 @@ const Value& find(Values& values, ThemeNames::Name<Value> name, bool enabled,
 
 } // namespace
 
-const QBrush& brush(ThemeNames::Name<QBrush> name, bool enabled)
+const QBrush& brush(ThemeNames::BrushName name, bool enabled)
 {
-    static Values<QBrush, ThemeNames::BrushPlace::Count> sBrushes;
+    static Values<QBrush, std::size(ThemeNames::Brushes)> sBrushes;
     return find(sBrushes, name, enabled, &BaseStyle::getBrush);
 }
 
-const QColor& color(ThemeNames::Name<QColor> name, bool enabled)
+const QColor& color(ThemeNames::ColorName name, bool enabled)
 {
-    static Values<QColor, ThemeNames::ColorPlace::Count> sColors;
+    static Values<QColor, std::size(ThemeNames::Colors)> sColors;
     return find(sColors, name, enabled, &BaseStyle::getColor);
 }
 

@@ -9,7 +9,7 @@
 /// over, each looked up once: the theme is frozen at its first use.
 namespace BRELK::FrozenTheme {
 
-const QBrush& brush(ThemeNames::Name<QBrush> name, bool enabled);
-const QColor& color(ThemeNames::Name<QColor> name, bool enabled);
+const QBrush& brush(ThemeNames::BrushName name, bool enabled);
+const QColor& color(ThemeNames::ColorName name, bool enabled);
 
 } // namespace BRELK::FrozenTheme

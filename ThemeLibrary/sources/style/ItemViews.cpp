@@ -129,7 +129,7 @@ QBrush selectionBrush(const StyleContext& context)
     if (isApplications)
         return context.option.palette.brush(colorGroup(context), QPalette::Highlight);
     const bool focused = hasViewFocus(context) || WidgetTraits::isComboBoxList(context.widget);
-    return context.brush(focused ? ThemeNames::mainBrush() : ThemeNames::mainSubLevel1Brush());
+    return context.brush(focused ? ThemeNames::MainBrush : ThemeNames::MainSubLevel1Brush);
 }
 
 /// In a table that selects rows, the toolkit repaints the whole row under the mouse, but tells it
@@ -162,7 +162,7 @@ void paintHover(const PaintContext& context, const QStyleOptionViewItem& item)
         return;
     const qreal opacity = context.painter.opacity();
     context.painter.setOpacity(opacity * HoverOpacity);
-    context.painter.fillRect(item.rect, context.brush(ThemeNames::mainBrush()));
+    context.painter.fillRect(item.rect, context.brush(ThemeNames::MainBrush));
     context.painter.setOpacity(opacity);
 }
 
@@ -183,7 +183,7 @@ bool hasThemedBackground(const StyleContext& context)
     if (context.enabled() || context.flag(WidgetProperties::CustomItemViewPalette))
         return false;
     return context.option.palette.brush(QPalette::Active, QPalette::Base)
-           == FrozenTheme::brush(ThemeNames::itemViewBackgroundBrush(), true);
+           == FrozenTheme::brush(ThemeNames::ItemViewBackgroundBrush, true);
 }
 
 void paintSeparator(const PaintContext& context)
@@ -191,7 +191,7 @@ void paintSeparator(const PaintContext& context)
     const QRect& rect = context.option.rect;
     if (hasSeparators(context))
         Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(),
-                         context.color(ThemeNames::backgroundColor()));
+                         context.color(ThemeNames::BackgroundColor));
 }
 
 /// The room that a thin scroll bar over the list takes from its rows.
@@ -365,9 +365,9 @@ void paintRow(const PaintContext& context, const QStyleOptionViewItem& item)
 {
     if (item.features & QStyleOptionViewItem::Alternate)
         context.painter.fillRect(item.rect,
-                                 context.brush(ThemeNames::itemViewAlternateBackgroundBrush()));
+                                 context.brush(ThemeNames::ItemViewAlternateBackgroundBrush));
     else if (hasThemedBackground(context))
-        context.painter.fillRect(item.rect, context.brush(ThemeNames::itemViewBackgroundBrush()));
+        context.painter.fillRect(item.rect, context.brush(ThemeNames::ItemViewBackgroundBrush));
     // In a tree the row begins before its first item, with the branches.
     if (!WidgetTraits::isTreeView(context.widget))
         return;

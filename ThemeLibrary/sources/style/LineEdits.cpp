@@ -90,16 +90,16 @@ QBrush background(const PaintContext& context, const QBrush& themed)
 QBrush inputBackground(const PaintContext& context)
 {
     if (context.has(QStyle::State_HasFocus) && !context.has(QStyle::State_ReadOnly))
-        return context.brush(ThemeNames::inputBackgroundActiveBrush());
+        return context.brush(ThemeNames::InputBackgroundActiveBrush);
     // A read-only field stands back like a disabled one, but its text does not.
     const bool editable = context.enabled() && !context.has(QStyle::State_ReadOnly);
-    return FrozenTheme::brush(ThemeNames::inputUncheckedBackgroundBrush(), editable);
+    return FrozenTheme::brush(ThemeNames::InputUncheckedBackgroundBrush, editable);
 }
 
 QBrush inputBorder(const PaintContext& context)
 {
-    return context.brush(context.has(QStyle::State_HasFocus) ? ThemeNames::inputBorderActiveBrush()
-                                                             : ThemeNames::inputBorderBrush());
+    return context.brush(context.has(QStyle::State_HasFocus) ? ThemeNames::InputBorderActiveBrush
+                                                             : ThemeNames::InputBorderBrush);
 }
 
 /// Covers all but a thin frame: there is no place for an error mark.
@@ -128,8 +128,8 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
             brushes.backgroundBrush = background(context, inputBackground(context));
     }
 
-    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
-    const QColor errorColor = context.color(ThemeNames::statusDangerColor());
+    const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
+    const QColor errorColor = context.color(ThemeNames::StatusDangerColor);
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
     if (hasError)
         brushes.borderBrush = errorColor;
@@ -150,7 +150,7 @@ void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame)
         context.painter.fillRect(frame.rect, fill);
         return;
     }
-    Shapes::drawGround(context, frame.rect, Shapes::cornerRadius(ThemeNames::baseSize()), fill);
+    Shapes::drawGround(context, frame.rect, Shapes::cornerRadius(ThemeNames::BaseSize), fill);
     context.draw(QStyle::PE_FrameLineEdit, frame);
 }
 

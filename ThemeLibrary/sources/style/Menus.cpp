@@ -200,7 +200,7 @@ namespace {
 QBrush barBrush(const PaintContext& context)
 {
     const bool enabled = context.widget ? context.widget->isEnabled() : context.enabled();
-    return FrozenTheme::brush(ThemeNames::backgroundSubLevel2Brush(), enabled);
+    return FrozenTheme::brush(ThemeNames::BackgroundSubLevel2Brush, enabled);
 }
 
 } // namespace
@@ -212,7 +212,7 @@ void paintPanel(const PaintContext& context)
         return;
     const PainterSaver saver(context.painter);
     const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
-    const QBrush fill = ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush());
+    const QBrush fill = ThemeResources::getBrush(ThemeNames::BackgroundSubLevel1Brush);
     qDrawPlainRect(&context.painter, context.option.rect, border, PanelBorder, &fill);
 }
 
@@ -220,9 +220,9 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     const PainterSaver saver(context.painter);
     if (isSelected(context))
-        context.painter.fillRect(item.rect, context.color(ThemeNames::mainColor()));
+        context.painter.fillRect(item.rect, context.color(ThemeNames::MainColor));
     else if (context.flag(WidgetProperties::IsComboBoxPopupItem))
-        context.painter.fillRect(item.rect, context.brush(ThemeNames::backgroundSubLevel1Brush()));
+        context.painter.fillRect(item.rect, context.brush(ThemeNames::BackgroundSubLevel1Brush));
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
         paintSeparator(context, item);
         return;
@@ -251,7 +251,7 @@ void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     // The base style fills it with the color of buttons and draws two dashed lines, a dark and a
     // light one: here the color of menus and one line like that of separators.
-    const QBrush fill = ThemeResources::getBrush(ThemeNames::backgroundSubLevel1Brush());
+    const QBrush fill = ThemeResources::getBrush(ThemeNames::BackgroundSubLevel1Brush);
     QStyleOptionMenuItem tearoff = item;
     tearoff.palette.setBrush(QPalette::Button, fill);
     tearoff.palette.setBrush(QPalette::Dark, context.style.lightOutlineBrush(item.palette));
@@ -266,7 +266,7 @@ void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item)
     const PainterSaver saver(context.painter);
     const QRect& rect = item.rect;
     const bool open = isSelected(context) && BaseStyle::isPressed(item);
-    const QColor main = context.color(ThemeNames::mainColor());
+    const QColor main = context.color(ThemeNames::MainColor);
     context.painter.fillRect(rect, open ? QBrush(main) : barBrush(context));
     if (isSelected(context) && !open)
         context.painter.fillRect(

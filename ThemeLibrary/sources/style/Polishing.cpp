@@ -54,7 +54,7 @@ Widget& as(QWidget& widget)
 struct HandedBrush
 {
     const char* property;
-    ThemeNames::Name<QBrush> (*name)();
+    ThemeNames::BrushName name;
     bool enabled;
 };
 
@@ -62,17 +62,16 @@ template <size_t Count>
 void handOut(QWidget& widget, const HandedBrush (&brushes)[Count])
 {
     for (const HandedBrush& brush : brushes)
-        widget.setProperty(brush.property, BaseStyle::getBrush(brush.name(), brush.enabled));
+        widget.setProperty(brush.property, BaseStyle::getBrush(brush.name, brush.enabled));
 }
 
-int cornerRadius(const QString& size)
+int cornerRadius(ThemeNames::RadiusName size)
 {
     return int(ThemeResources::getCornerRadius(size));
 }
 
-/// Sets `role` for all groups to the theme brush `name`, and for the Disabled group to its
-/// `disabledName` twin.
-void setPaletteBrush(QWidget& widget, QPalette::ColorRole role, const QString& name)
+/// Sets `role` for all groups to the theme brush `name`, and for the Disabled group to its twin.
+void setPaletteBrush(QWidget& widget, QPalette::ColorRole role, ThemeNames::BrushName name)
 {
     QPalette palette = widget.palette();
     palette.setBrush(role, BaseStyle::getBrush(name, true));
@@ -92,7 +91,7 @@ bool hasThemedBase(const QWidget* widget)
 
 void setThemedBase(BaseStyle&, QWidget& widget)
 {
-    setPaletteBrush(widget, QPalette::Base, ThemeNames::itemViewBackgroundBrush());
+    setPaletteBrush(widget, QPalette::Base, ThemeNames::ItemViewBackgroundBrush);
 }
 
 bool hasThemedItems(const QWidget* widget)
@@ -117,7 +116,7 @@ void fadeDisabledLabel(BaseStyle&, QWidget& widget)
 {
     QPalette palette = widget.palette();
     palette.setBrush(QPalette::Disabled, QPalette::WindowText,
-                     BaseStyle::getBrush(ThemeNames::foregroundBrush(), false));
+                     BaseStyle::getBrush(ThemeNames::ForegroundBrush, false));
     widget.setPalette(palette);
 }
 
@@ -131,23 +130,23 @@ void trackHover(BaseStyle&, QWidget& widget)
     widget.setAttribute(Qt::WA_Hover);
 }
 
-QString tabFontName(const QWidget& tabs)
+ThemeNames::FontName tabFontName(const QWidget& tabs)
 {
-    QString name = ThemeNames::mediumFont();
+    ThemeNames::FontName name = ThemeNames::MediumFont;
     if (Properties::flag(qApp, Properties::AppSmallTabSize))
-        name = ThemeNames::smallFont();
+        name = ThemeNames::SmallFont;
     else if (Properties::flag(qApp, Properties::AppBaseTabSize))
-        name = ThemeNames::baseFont();
+        name = ThemeNames::BaseFont;
     else if (Properties::flag(qApp, Properties::AppLargeTabSize))
-        name = ThemeNames::largeFont();
+        name = ThemeNames::LargeFont;
 
     if (Properties::flag(&tabs, Properties::SmallTabSize))
-        name = ThemeNames::smallFont();
+        name = ThemeNames::SmallFont;
     else if (Properties::flag(&tabs, Properties::BaseTabSize))
-        name = ThemeNames::baseFont();
+        name = ThemeNames::BaseFont;
     // Deliberate: the large size wins over the other two.
     if (Properties::flag(&tabs, Properties::LargeTabSize))
-        name = ThemeNames::largeFont();
+        name = ThemeNames::LargeFont;
     return name;
 }
 
@@ -190,8 +189,8 @@ void paintBackground(BaseStyle&, QWidget& widget)
 
 void setCardTitleFonts(BaseStyle&, QWidget& widget)
 {
-    const QFont minimized = ThemeResources::getFont(ThemeNames::baseFont());
-    const QFont normal = ThemeResources::getFont(ThemeNames::mediumFont());
+    const QFont minimized = ThemeResources::getFont(ThemeNames::BaseFont);
+    const QFont normal = ThemeResources::getFont(ThemeNames::MediumFont);
     widget.setProperty(Properties::CardTitleMinimizedFont, minimized);
     widget.setProperty(Properties::CardTitleDefaultFont, normal);
     if (const QObject* card = widget.parent())
@@ -200,7 +199,7 @@ void setCardTitleFonts(BaseStyle&, QWidget& widget)
 
 void fadeSubtitle(BaseStyle&, QWidget& widget)
 {
-    setPaletteBrush(widget, QPalette::WindowText, ThemeNames::foregroundDisabledBrush());
+    setPaletteBrush(widget, QPalette::WindowText, ThemeNames::ForegroundDisabledBrush);
 }
 
 bool isCard(const QWidget* widget)
@@ -212,8 +211,8 @@ void dressCard(BaseStyle&, QWidget& widget)
 {
     // Deliberate: the hover brush of foregrounds is the background of cards.
     handOut(widget,
-            {{Properties::BackgroundBrush, ThemeNames::foregroundMouseOverBrush, true},
-             {Properties::BackgroundBrushDisabled, ThemeNames::foregroundMouseOverBrush, false}});
+            {{Properties::BackgroundBrush, ThemeNames::ForegroundMouseOverBrush, true},
+             {Properties::BackgroundBrushDisabled, ThemeNames::ForegroundMouseOverBrush, false}});
 }
 
 void replaceDelegate(BaseStyle&, QWidget& widget)
@@ -233,7 +232,7 @@ bool isGroupContainer(const QWidget* widget)
 
 void roundGroupContainer(BaseStyle&, QWidget& widget)
 {
-    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::baseSize()));
+    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::BaseSize));
 }
 
 bool isButtonGroup(const QWidget* widget)
@@ -244,12 +243,12 @@ bool isButtonGroup(const QWidget* widget)
 void dressButtonGroup(BaseStyle&, QWidget& widget)
 {
     handOut(widget,
-            {{Properties::BackgroundBrush, ThemeNames::listBackgroundBrush, true},
-             {Properties::BackgroundBrushDisabled, ThemeNames::listBackgroundBrush, false},
-             {Properties::BorderBrush, ThemeNames::listBorderBrush, true},
-             {Properties::BorderBrushDisabled, ThemeNames::listBorderBrush, false},
-             {Properties::WorkflowLinkBrush, ThemeNames::prioritySecondaryUpLevel1Brush, true},
-             {Properties::WorkflowLinkBrushDisabled, ThemeNames::prioritySecondaryUpLevel1Brush,
+            {{Properties::BackgroundBrush, ThemeNames::ListBackgroundBrush, true},
+             {Properties::BackgroundBrushDisabled, ThemeNames::ListBackgroundBrush, false},
+             {Properties::BorderBrush, ThemeNames::ListBorderBrush, true},
+             {Properties::BorderBrushDisabled, ThemeNames::ListBorderBrush, false},
+             {Properties::WorkflowLinkBrush, ThemeNames::PrioritySecondaryUpLevel1Brush, true},
+             {Properties::WorkflowLinkBrushDisabled, ThemeNames::PrioritySecondaryUpLevel1Brush,
               false}});
 }
 
@@ -260,36 +259,36 @@ bool showsRoundedPixmap(const QWidget* widget)
 
 void dressRoundedPixmap(BaseStyle&, QWidget& widget)
 {
-    handOut(widget, {{Properties::BorderBrush, ThemeNames::backgroundSubLevel1Brush, true}});
-    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::mediumSize()));
+    handOut(widget, {{Properties::BorderBrush, ThemeNames::BackgroundSubLevel1Brush, true}});
+    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::MediumSize));
 }
 
 void setPillFont(BaseStyle&, QWidget& widget)
 {
-    QFont font = ThemeResources::getFont(ThemeNames::smallFont());
+    QFont font = ThemeResources::getFont(ThemeNames::SmallFont);
     font.setBold(true);
     widget.setFont(font);
 }
 
 void dressPeriodicTable(BaseStyle&, QWidget& widget)
 {
-    const auto hand = [&](const char* property, const QString& name) {
+    const auto hand = [&](const char* property, ThemeNames::ColorName name) {
         widget.setProperty(property, BaseStyle::getColor(name, true));
     };
-    hand(Properties::PeriodicTableBackgroundColor, ThemeNames::statusConfigColor());
-    hand(Properties::PeriodicTableBorderColor, ThemeNames::statusConfigColor());
-    hand(Properties::PeriodicTableForegroundColor, ThemeNames::foregroundColor());
-    hand(Properties::PeriodicTableForegroundSubLevelColor, ThemeNames::foregroundSubLevel1Color());
-    hand(Properties::PeriodicTableForegroundUpLevelColor, ThemeNames::foregroundUpLevel1Color());
+    hand(Properties::PeriodicTableBackgroundColor, ThemeNames::StatusConfigColor);
+    hand(Properties::PeriodicTableBorderColor, ThemeNames::StatusConfigColor);
+    hand(Properties::PeriodicTableForegroundColor, ThemeNames::ForegroundColor);
+    hand(Properties::PeriodicTableForegroundSubLevelColor, ThemeNames::ForegroundSubLevel1Color);
+    hand(Properties::PeriodicTableForegroundUpLevelColor, ThemeNames::ForegroundUpLevel1Color);
 
-    constexpr ThemeNames::Name<QColor> (*Series[])() = {
-        ThemeNames::series01Color, ThemeNames::series02Color, ThemeNames::series03Color,
-        ThemeNames::series04Color, ThemeNames::series05Color, ThemeNames::series06Color,
-        ThemeNames::series07Color, ThemeNames::series08Color, ThemeNames::series09Color,
-        ThemeNames::series10Color, ThemeNames::series11Color};
+    constexpr ThemeNames::ColorName Series[] = {
+        ThemeNames::Series01Color, ThemeNames::Series02Color, ThemeNames::Series03Color,
+        ThemeNames::Series04Color, ThemeNames::Series05Color, ThemeNames::Series06Color,
+        ThemeNames::Series07Color, ThemeNames::Series08Color, ThemeNames::Series09Color,
+        ThemeNames::Series10Color, ThemeNames::Series11Color};
     QList<QColor> colors;
     for (const auto name : Series)
-        colors.append(ThemeResources::getColor(name()));
+        colors.append(ThemeResources::getColor(name));
     widget.setProperty(Properties::PeriodicTableColorList, QVariant::fromValue(colors));
 }
 
@@ -300,17 +299,17 @@ void dressRangeSlider(BaseStyle&, QWidget& widget)
     widget.setProperty(Properties::InvertedControls, false);
     widget.setProperty(Properties::Tracking, true);
     widget.setProperty(Properties::TickPosition, 0);
-    handOut(widget, {{Properties::SunkenBrush, ThemeNames::sliderThumbNailPressedBrush, true},
-                     {Properties::HoverBrush, ThemeNames::sliderThumbNailHoverBrush, true},
-                     {Properties::DefaultBrush, ThemeNames::inputForegroundBrush, true},
-                     {Properties::DefaultBrushDisabled, ThemeNames::inputForegroundBrush, false},
-                     {Properties::BackgroundBrush, ThemeNames::inputBackgroundBrush, true},
-                     {Properties::BackgroundBrushDisabled, ThemeNames::inputBackgroundBrush, false},
-                     {Properties::BorderBrush, ThemeNames::inputBorderBrush, true},
-                     {Properties::BorderBrushDisabled, ThemeNames::inputBorderBrush, false},
-                     {Properties::RangeBrush, ThemeNames::mainBrush, true},
-                     {Properties::RangeBrushDisabled, ThemeNames::mainBrush, false}});
-    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::baseSize()));
+    handOut(widget, {{Properties::SunkenBrush, ThemeNames::SliderThumbNailPressedBrush, true},
+                     {Properties::HoverBrush, ThemeNames::SliderThumbNailHoverBrush, true},
+                     {Properties::DefaultBrush, ThemeNames::InputForegroundBrush, true},
+                     {Properties::DefaultBrushDisabled, ThemeNames::InputForegroundBrush, false},
+                     {Properties::BackgroundBrush, ThemeNames::InputBackgroundBrush, true},
+                     {Properties::BackgroundBrushDisabled, ThemeNames::InputBackgroundBrush, false},
+                     {Properties::BorderBrush, ThemeNames::InputBorderBrush, true},
+                     {Properties::BorderBrushDisabled, ThemeNames::InputBorderBrush, false},
+                     {Properties::RangeBrush, ThemeNames::MainBrush, true},
+                     {Properties::RangeBrushDisabled, ThemeNames::MainBrush, false}});
+    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::BaseSize));
 }
 
 /// The toolkit's pure red is hard to read on any ground.
@@ -320,7 +319,7 @@ void calmWeekends(BaseStyle&, QWidget& widget)
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
         QTextCharFormat format = calendar.weekdayTextFormat(day);
         if (format.foreground() == QBrush(Qt::red)) {
-            format.setForeground(ThemeResources::getColor(ThemeNames::statusDangerColor()));
+            format.setForeground(ThemeResources::getColor(ThemeNames::StatusDangerColor));
             calendar.setWeekdayTextFormat(day, format);
         }
     }

@@ -167,8 +167,8 @@ QBrush fillBrush(const PaintContext& context)
     const QColor themed =
         context.style.getPalette().color(palette.currentColorGroup(), QPalette::Highlight);
     // An application's own highlight color is kept.
-    if (highlight == themed || highlight == BaseStyle::getColor(ThemeNames::mainColor(), true))
-        return context.brush(ThemeNames::mainBrush());
+    if (highlight == themed || highlight == BaseStyle::getColor(ThemeNames::MainColor, true))
+        return context.brush(ThemeNames::MainBrush);
     if (!context.enabled())
         highlight.setAlpha(DisabledHighlightAlpha);
     return highlight;
@@ -179,7 +179,7 @@ void drawShape(const PaintContext& context, const QRectF& rect, const QBrush& br
                Helpers::StraightCornerFlags corners)
 {
     Shapes::drawBox(context, rect.adjusted(-0.5, -0.5, 0.5, 0.5),
-                    Shapes::cornerRadius(ThemeNames::baseSize()), brush,
+                    Shapes::cornerRadius(ThemeNames::BaseSize), brush,
                     context.borderBrush().color(), corners);
 }
 
@@ -209,7 +209,7 @@ void paintContents(const PaintContext& context, const QStyleOptionProgressBar& b
     const QRectF filled = filledRect(bar, rect);
     if (filled.width() < 1 || filled.height() < 1)
         return;
-    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
+    const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
     drawShape(context, filled, fillBrush(context), growingCorners(bar, rect, filled, radius));
 }
 

@@ -88,7 +88,7 @@ void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool 
     arrow.rect = QRect(0, 0, ArrowSize, ArrowSize);
     arrow.rect.moveCenter(bar.rect.center());
     if (BaseStyle::isHovered(&bar) || BaseStyle::isPressed(bar))
-        ButtonContent::setForeground(arrow, context.color(ThemeNames::mainColor()));
+        ButtonContent::setForeground(arrow, context.color(ThemeNames::MainColor));
     if (bar.rect.contains(arrow.rect))
         context.draw(lineArrow(context, forwards), arrow);
 }
@@ -116,10 +116,10 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& bar)
     if (bar.minimum == bar.maximum)
         return;
     QBrush brush = context.brush(context.flag(WidgetProperties::Minimized)
-                                     ? ThemeNames::foregroundDisabledBrush()
-                                     : ThemeNames::prioritySecondarySubLevel1Brush());
+                                     ? ThemeNames::ForegroundDisabledBrush
+                                     : ThemeNames::PrioritySecondarySubLevel1Brush);
     if (BaseStyle::isHovered(&bar))
-        brush = ThemeResources::getColor(ThemeNames::mainColor());
+        brush = ThemeResources::getColor(ThemeNames::MainColor);
 
     const bool horizontal = context.has(QStyle::State_Horizontal);
     const int inset = int(SliderInset * (horizontal ? bar.rect.height() : bar.rect.width()));

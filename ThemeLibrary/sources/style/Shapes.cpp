@@ -63,7 +63,7 @@ QPen borderPen(const QBrush& border)
     return {border, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
 }
 
-int cornerRadius(const QString& name)
+int cornerRadius(ThemeNames::RadiusName name)
 {
     return int(ThemeResources::getCornerRadius(name));
 }

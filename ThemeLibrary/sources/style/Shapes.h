@@ -22,7 +22,7 @@ QRectF middleOfBorder(const QPainter& painter, const QRectF& rect, QPen& pen);
 QPen borderPen(const QBrush& border);
 
 /// The theme's radius of the size `name` in whole pixels.
-int cornerRadius(const QString& name);
+int cornerRadius(ThemeNames::RadiusName name);
 
 /// A box filled with `fill` inside a border of one pixel; either may be `Qt::NoBrush`.
 void drawBox(const PaintContext& context, const QRectF& rect, int radius, const QBrush& fill,

@@ -105,10 +105,7 @@ struct SliderLook
     bool horizontal;
     bool highContrast;
 
-    QBrush highContrastBorder() const
-    {
-        return context.brush(ThemeNames::highContrastBorderBrush());
-    }
+    QBrush highContrastBorder() const { return context.brush(ThemeNames::HighContrastBorderBrush); }
 };
 
 QPen solidPen(const QBrush& brush)
@@ -129,7 +126,7 @@ void paintGroove(const SliderLook& look)
     const QBrush& grooveBrush = context.style.grooveBackgroundBrush(context.enabled());
     const QBrush border = look.highContrast ? look.highContrastBorder() : grooveBrush;
     const QBrush fill =
-        look.highContrast ? context.brush(ThemeNames::highContrastBackgroundBrush()) : grooveBrush;
+        look.highContrast ? context.brush(ThemeNames::HighContrastBackgroundBrush) : grooveBrush;
     if (look.radius == 0) {
         const QRect rect =
             look.horizontal ? look.groove.adjusted(1, 0, -1, 0) : look.groove.adjusted(0, 1, 0, -1);
@@ -214,7 +211,7 @@ void paintTicks(const SliderLook& look)
     if (range < 0 || space <= 0 || range / interval > space) // closer than a pixel
         return;
 
-    const QBrush brush = context.brush(ThemeNames::inputForegroundBrush()).color();
+    const QBrush brush = context.brush(ThemeNames::InputForegroundBrush).color();
     const qint64 end = qint64(slider.maximum) + 1;
     for (qint64 value = slider.minimum; value <= end; value += interval) {
         if (value == end && interval == 1)
@@ -231,11 +228,11 @@ QBrush handleBrush(const SliderLook& look)
     const PaintContext& context = look.context;
     const auto* widget = qobject_cast<const QAbstractSlider*>(context.widget);
     if (widget && widget->isSliderDown())
-        return context.brush(ThemeNames::sliderThumbNailPressedBrush());
+        return context.brush(ThemeNames::SliderThumbNailPressedBrush);
     const bool hovered = context.has(QStyle::State_MouseOver) && context.widget
                          && look.handle.contains(context.widget->mapFromGlobal(QCursor::pos()));
-    return context.brush(hovered ? ThemeNames::sliderThumbNailHoverBrush()
-                                 : ThemeNames::inputForegroundBrush());
+    return context.brush(hovered ? ThemeNames::SliderThumbNailHoverBrush
+                                 : ThemeNames::InputForegroundBrush);
 }
 
 void paintHandle(const SliderLook& look)
@@ -274,8 +271,8 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
                           slider,
                           part(QStyle::SC_SliderGroove),
                           part(QStyle::SC_SliderHandle),
-                          context.brush(ThemeNames::mainBrush()),
-                          Shapes::cornerRadius(ThemeNames::baseSize()),
+                          context.brush(ThemeNames::MainBrush),
+                          Shapes::cornerRadius(ThemeNames::BaseSize),
                           slider.orientation == Qt::Horizontal,
                           context.flag(WidgetProperties::SliderHighContrast)};
     const PainterSaver saver(context.painter);

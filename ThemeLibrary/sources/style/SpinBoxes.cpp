@@ -134,9 +134,9 @@ void paintStepButton(const PaintContext& context, const StepButton& button,
     if (context.style.getButtonBackgroundState(bevel) == BaseStyle::ButtonBackground_Highlighted)
         ButtonContent::setForeground(copy, copy.palette.brush(QPalette::HighlightedText));
     if (BaseStyle::isButtonHovered(&bevel))
-        ButtonContent::setForeground(copy, context.brush(ThemeNames::mainBrush()));
+        ButtonContent::setForeground(copy, context.brush(ThemeNames::MainBrush));
     if (BaseStyle::isDown(bevel))
-        ButtonContent::setForeground(copy, context.brush(ThemeNames::mainSubLevel1Brush()));
+        ButtonContent::setForeground(copy, context.brush(ThemeNames::MainSubLevel1Brush));
     const bool hasSigns = copy.buttonSymbols == QAbstractSpinBox::PlusMinus;
     context.draw(hasSigns ? button.sign : button.arrow, copy);
 }
@@ -144,10 +144,10 @@ void paintStepButton(const PaintContext& context, const StepButton& button,
 QColor borderColor(const PaintContext& context, bool hasError)
 {
     if (hasError)
-        return context.color(ThemeNames::statusDangerColor());
+        return context.color(ThemeNames::StatusDangerColor);
     return context.has(QStyle::State_HasFocus)
-               ? context.color(ThemeNames::mainColor())
-               : context.brush(ThemeNames::inputBorderBrush()).color();
+               ? context.color(ThemeNames::MainColor)
+               : context.brush(ThemeNames::InputBorderBrush).color();
 }
 
 void paintStepButtons(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
@@ -188,7 +188,7 @@ void paintErrorMark(const PaintContext& context, const QStyleOptionSpinBox& spin
     if (hasButtons(spinBox))
         painter.setLayoutDirection(direction == Qt::RightToLeft ? Qt::LeftToRight
                                                                 : Qt::RightToLeft);
-    Helpers::drawInputStatusIndicator(frame, radius, context.color(ThemeNames::statusDangerColor()),
+    Helpers::drawInputStatusIndicator(frame, radius, context.color(ThemeNames::StatusDangerColor),
                                       &painter);
     painter.setLayoutDirection(direction);
 }
@@ -235,10 +235,10 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
     const QRect frame = context.proxy().subControlRect(QStyle::CC_SpinBox, &spinBox,
                                                        QStyle::SC_SpinBoxFrame, context.widget);
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
-    const int radius = Shapes::cornerRadius(ThemeNames::baseSize());
+    const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
     if (spinBox.frame && spinBox.subControls & QStyle::SC_SpinBoxFrame)
         Shapes::drawBox(context, frame, radius,
-                        context.brush(ThemeNames::inputUncheckedBackgroundBrush()),
+                        context.brush(ThemeNames::InputUncheckedBackgroundBrush),
                         borderColor(context, hasError));
     paintStepButtons(context, spinBox, frame);
     if (!spinBox.frame && context.has(QStyle::State_HasFocus))

@@ -100,7 +100,7 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
     if (name.isEmpty())
         return {};
     const bool enabled = !option || option->state & QStyle::State_Enabled;
-    const QBrush mainBrush = BaseStyle::getBrush(ThemeNames::mainBrush(), enabled);
+    const QBrush mainBrush = BaseStyle::getBrush(ThemeNames::MainBrush, enabled);
     const QIcon icon = QIcon::fromTheme(name);
     if (!sSpecificIcons.contains(name))
         return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, mainBrush);
@@ -147,7 +147,7 @@ QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
     // Other widgets than labels get their icons ready for the state before they are painted.
     if (!option || mode != QIcon::Disabled || !qobject_cast<const QLabel*>(option->styleObject))
         return pixmap;
-    const QBrush brush = getBrush(ThemeNames::foregroundBrush(), false);
+    const QBrush brush = getBrush(ThemeNames::ForegroundBrush, false);
     const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon(pixmap), brush);
     const qreal ratio = pixmap.devicePixelRatioF();
     return icon.pixmap(int(pixmap.width() / ratio), int(pixmap.height() / ratio), QIcon::Normal,

@@ -52,13 +52,13 @@ struct StyleContext
     bool rightToLeft() const { return option.direction == Qt::RightToLeft; }
 
     /// The theme brush `name`, or its twin when the control is disabled.
-    const QBrush& brush(ThemeNames::Name<QBrush> name) const
+    const QBrush& brush(ThemeNames::BrushName name) const
     {
         return FrozenTheme::brush(name, enabled());
     }
 
     /// The theme color `name`, or its twin when the control is disabled.
-    const QColor& color(ThemeNames::Name<QColor> name) const
+    const QColor& color(ThemeNames::ColorName name) const
     {
         return FrozenTheme::color(name, enabled());
     }

@@ -139,30 +139,17 @@ QLine pageEdge(Side side, const QRect& rect)
     }
 }
 
-QString radiusName(const QWidget* bar)
+/// Deliberate: unlike the font, only the bar's own properties decide.
+ThemeNames::RadiusName radiusName(const QWidget* bar)
 {
-    QString name;
-    if (WidgetProperties::flag(qApp, WidgetProperties::AppSmallTabSize))
-        name = ThemeNames::smallSize();
-    else if (WidgetProperties::flag(qApp, WidgetProperties::AppBaseTabSize))
-        name = ThemeNames::baseSize();
-    else if (WidgetProperties::flag(qApp, WidgetProperties::AppMediumTabSize))
-        name = ThemeNames::mediumSize();
-    else if (WidgetProperties::flag(qApp, WidgetProperties::AppLargeTabSize))
-        name = ThemeNames::largeSize();
-
-    // Deliberate: the bar's own properties, or the lack of them, always decide.
     if (WidgetProperties::flag(bar, WidgetProperties::SmallTabSize))
-        name = ThemeNames::smallSize();
-    else if (WidgetProperties::flag(bar, WidgetProperties::BaseTabSize))
-        name = ThemeNames::baseSize();
-    else if (WidgetProperties::flag(bar, WidgetProperties::MediumTabSize))
-        name = ThemeNames::mediumSize();
-    else if (WidgetProperties::flag(bar, WidgetProperties::LargeTabSize))
-        name = ThemeNames::largeSize();
-    else
-        name = ThemeNames::mediumSize();
-    return name;
+        return ThemeNames::SmallSize;
+    if (WidgetProperties::flag(bar, WidgetProperties::BaseTabSize))
+        return ThemeNames::BaseSize;
+    if (WidgetProperties::flag(bar, WidgetProperties::MediumTabSize))
+        return ThemeNames::MediumSize;
+    return WidgetProperties::flag(bar, WidgetProperties::LargeTabSize) ? ThemeNames::LargeSize
+                                                                       : ThemeNames::MediumSize;
 }
 
 bool isTriangular(QTabBar::Shape shape)
@@ -222,8 +209,8 @@ QRect shapeRect(const QStyleOptionTab& tab, Side side, bool selected)
 QBrush tabBackground(const PaintContext& context, BaseStyle::TabBackgroundState state)
 {
     return context.brush(state == BaseStyle::TabBackground_Selected
-                             ? ThemeNames::tabBackgroundActiveBrush()
-                             : ThemeNames::tabBackgroundBrush());
+                             ? ThemeNames::TabBackgroundActiveBrush
+                             : ThemeNames::TabBackgroundBrush);
 }
 
 QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
@@ -232,13 +219,13 @@ QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
     if (context.widget && given != context.widget->palette().brush(QPalette::WindowText))
         return given; // the application colors this tab
     if (!context.enabled())
-        return context.brush(ThemeNames::foregroundDisabledBrush());
+        return context.brush(ThemeNames::ForegroundDisabledBrush);
     switch (context.style.getTabBackgroundState(tab)) {
     case BaseStyle::TabBackground_Highlighted:
-        return context.brush(ThemeNames::tabForegroundMouseOverBrush());
+        return context.brush(ThemeNames::TabForegroundMouseOverBrush);
     case BaseStyle::TabBackground_Selected:
         return isCurrentTabHighlighted(context)
-                   ? QBrush(context.color(ThemeNames::mainUpLevel1Color()))
+                   ? QBrush(context.color(ThemeNames::MainUpLevel1Color))
                    : given;
     default: return given;
     }
@@ -251,7 +238,7 @@ void paintFrame(const PaintContext& context)
     const PainterSaver saver(context.painter);
     const QRect& rect = context.option.rect;
     context.painter.fillRect(Shapes::onPixels(rect),
-                             context.brush(ThemeNames::tabBackgroundActiveBrush()));
+                             context.brush(ThemeNames::TabBackgroundActiveBrush));
     if (const auto* frame = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(&context.option)) {
         // The selected tab and its page are one surface: no line between them.
         QRect gap = frame->selectedTabRect;
@@ -297,7 +284,7 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
     const bool highlighted = state == BaseStyle::TabBackground_Highlighted;
     const QBrush fill = tabBackground(context, state);
     const QBrush border =
-        highlighted ? context.brush(ThemeNames::tabBorderMouseOverBrush()) : context.borderBrush();
+        highlighted ? context.brush(ThemeNames::TabBorderMouseOverBrush) : context.borderBrush();
     const Side side = sideOf(tab.shape);
     const QRect rect = shapeRect(tab, side, selected);
 

@@ -119,7 +119,7 @@ void paintCaptionBacking(const PaintContext& context, const QStyleOptionTitleBar
         return;
     constexpr int Shade = 300;
     const QColor accent = bar.palette.color(QPalette::Highlight);
-    Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::baseSize()),
+    Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::BaseSize),
                     Shapes::isLight(accent) ? accent.darker(Shade) : accent, accent);
 }
 

@@ -48,7 +48,7 @@ void paintSeparator(const PaintContext& context)
 {
     constexpr int EndMargin = 4;
     const QRect& rect = context.option.rect;
-    const QBrush brush = context.color(ThemeNames::backgroundUpLevel1Color());
+    const QBrush brush = context.color(ThemeNames::BackgroundUpLevel1Color);
     const QPoint centre = rect.center();
     if (context.has(QStyle::State_Horizontal))
         Shapes::drawLine(context, {centre.x(), rect.top() + EndMargin},

@@ -41,10 +41,10 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
 {
     const QRect& rect = tab.rect;
     const bool raised = BaseStyle::isHovered(&tab) || BaseStyle::isPressed(tab);
-    context.painter.fillRect(rect, context.brush(ThemeNames::backgroundUpLevel1Brush()));
+    context.painter.fillRect(rect, context.brush(ThemeNames::BackgroundUpLevel1Brush));
     if (raised) {
         constexpr qreal Hint = 0.35;
-        QColor step = context.color(ThemeNames::backgroundUpLevel2Color());
+        QColor step = context.color(ThemeNames::BackgroundUpLevel2Color);
         // A step as light as the words on it is only hinted at.
         if (Shapes::isLight(step) == Shapes::isLight(tab.palette.color(QPalette::ButtonText)))
             step.setAlphaF(Hint);

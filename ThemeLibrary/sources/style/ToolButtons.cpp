@@ -194,7 +194,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionToolButton& butto
     if (!hasIcon || button.toolButtonStyle == Qt::ToolButtonTextOnly) {
         // A connector names what it leads to: its text begins at the start.
         const bool isConnector = context.property(WidgetProperties::ButtonType).toString()
-                                 == ThemeNames::userConnector();
+                                 == ThemeNames::UserConnector.text;
         const auto flags = QStyle::visualAlignment(button.direction,
                                                    isConnector ? Qt::AlignLeft : Qt::AlignHCenter);
         Shapes::drawText(context, rect, int(flags) | Qt::AlignVCenter | Qt::TextShowMnemonic,

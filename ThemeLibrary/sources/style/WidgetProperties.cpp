@@ -68,8 +68,9 @@ QVariant Reader::value(const char* property) const
 
 QString Reader::kind() const
 {
+    static const QString sHighlighted = ThemeNames::Highlighted;
     if (flag(Highlighted))
-        return ThemeNames::highlighted();
+        return sHighlighted;
     for (const char* property : {Status, Order, ButtonType}) {
         if (const QString word = text(property); !word.isEmpty())
             return word;

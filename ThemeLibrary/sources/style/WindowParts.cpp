@@ -41,7 +41,7 @@ int metric(QStyle::PixelMetric metric, const MeasureContext& context)
 void paintStatusBar(const PaintContext& context)
 {
     const QRect& rect = context.option.rect;
-    context.painter.fillRect(rect, context.brush(ThemeNames::backgroundSubLevel1Brush()));
+    context.painter.fillRect(rect, context.brush(ThemeNames::BackgroundSubLevel1Brush));
     Shapes::drawLine(context, rect.topLeft(), rect.topRight(), context.borderBrush().color());
 }
 
@@ -80,17 +80,17 @@ void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& 
 {
     const PainterSaver saver(context.painter);
     const QRectF rect = Shapes::onPixels(band.rect);
-    const QColor color = ThemeResources::getColor(ThemeNames::mainColor());
+    const QColor color = ThemeResources::getColor(ThemeNames::MainColor);
     context.painter.setRenderHint(QPainter::Antialiasing);
     context.painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     if (band.shape == QRubberBand::Rectangle) {
         constexpr int Opaque = 255;
         QColor fill = color;
-        fill.setAlpha(int(ThemeResources::getOpacity(ThemeNames::rubberBandOpacity()) * Opaque));
+        fill.setAlpha(int(ThemeResources::getOpacity(ThemeNames::RubberBandOpacity) * Opaque));
         context.painter.setBrush(fill);
     }
     if (context.widget && WidgetTraits::isCardWidget(context.widget->parent())) {
-        const qreal radius = ThemeResources::getCornerRadius(ThemeNames::mediumSize());
+        const qreal radius = ThemeResources::getCornerRadius(ThemeNames::MediumSize);
         context.painter.drawRoundedRect(rect, radius, radius);
     } else {
         context.painter.drawRect(rect);
