@@ -2,7 +2,6 @@
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
-#include "Texts.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
 
@@ -288,7 +287,8 @@ void paintLines(const PaintContext& context, const QStyleOptionViewItem& item, c
     const PainterSaver saver(context.painter);
     context.painter.setClipRect(rect, Qt::IntersectClip);
     context.painter.setPen(QPen(brush, 1));
-    context.painter.drawText(rect, alignment | wrap, text);
+    context.proxy().drawItemText(&context.painter, rect, alignment | wrap, item.palette,
+                                 context.enabled(), text, QPalette::NoRole);
 }
 
 void paintText(const PaintContext& context, const QStyleOptionViewItem& item, const QRect& whole,
@@ -305,11 +305,8 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
         paintLines(context, item, rect, alignment, brush);
         return;
     }
-    const int flags = alignment | Qt::TextSingleLine;
-    const QString text =
-        Texts::fitted(context.painter, item.text, item.textElideMode, rect.width(), flags);
-    context.painter.setPen(QPen(brush, 1));
-    Texts::draw(context.painter, rect, flags, text);
+    Shapes::drawText(context, rect, alignment | Qt::TextSingleLine, item.text, brush,
+                     item.textElideMode);
 }
 
 void paintChildIndicator(const PaintContext& context, const QBrush& brush)

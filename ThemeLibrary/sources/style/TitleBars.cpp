@@ -131,8 +131,8 @@ void paintCaption(const PaintContext& context, const QStyleOptionTitleBar& bar, 
         bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, label.width() - CaptionRoom);
     if (active && !hasActiveGround(bar))
         paintCaptionBacking(context, bar, rect, text);
-    context.painter.setPen(active ? QColor(Qt::white) : bar.palette.color(QPalette::Text));
-    context.painter.drawText(rect, Qt::AlignCenter, text);
+    Shapes::drawText(context, rect, Qt::AlignCenter, text,
+                     active ? QColor(Qt::white) : bar.palette.color(QPalette::Text));
 }
 
 void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& bar)
