@@ -1,3 +1,4 @@
+#include "LookSheet.h"
 #include "SpyStyle.h"
 #include "StateSheet.h"
 
@@ -12,12 +13,8 @@ namespace {
 constexpr State RightToLeft{"right to left"};
 
 /// What an element measures and paints.
-QByteArray lookOf(const Element& element, const Settings& settings, const State& state,
-                  int fontSize)
+QByteArray lookOf(const Element& element, const Settings& settings, const State& state)
 {
-    QFont font = QApplication::font();
-    font.setPixelSize(fontSize);
-    QApplication::setFont(font);
     const Sample sample = StyleOptions::sampleNamed(element.name, settings);
     if (state.name == RightToLeft.name) {
         sample.widget->setLayoutDirection(Qt::RightToLeft);
@@ -32,33 +29,14 @@ QByteArray lookOf(const Element& element, const Settings& settings, const State&
     return measured + painted;
 }
 
-/// With "~" for what depends on the font.
-QByteArray lookOf(const Element& element, const Settings& settings, const State& state)
+void addLook(LookSheet& sheet, const Element& element, const QByteArray& words = {},
+             const Settings& settings = {})
 {
-    QByteArrayList lines = lookOf(element, settings, state, 18).split('\n');
-    const QByteArrayList others = lookOf(element, settings, state, 12).split('\n');
-    if (lines.size() != others.size())
-        return "~\n";
-    for (int i = 0; i < lines.size(); ++i) {
-        QByteArrayList words = lines.at(i).split(' ');
-        const QByteArrayList otherWords = others.at(i).split(' ');
-        for (int word = 0; word < words.size(); ++word)
-            if (words.at(word) != otherWords.value(word))
-                words[word] = "~";
-        lines[i] = words.join(' ');
-    }
-    return lines.join('\n');
-}
-
-/// In each state, as far as it differs from the one at rest.
-QByteArray looksOf(const Element& element, const Settings& settings = {})
-{
-    const QByteArray atRest = lookOf(element, settings, AtRest);
-    QByteArray sheet = atRest;
+    LookSheet::States states;
     for (const State& state : {Hovered, Pressed, Checked, Focused, Disabled, RightToLeft})
-        if (const QByteArray look = lookOf(element, settings, state); look != atRest)
-            sheet += QByteArray("[") + state.name + "]\n" + look;
-    return sheet;
+        states.append({state.name, lookOf(element, settings, state)});
+    sheet.add(element.name + words, lookOf(element, settings, AtRest), states,
+              StyleOptions::sampleNamed(element.name, settings).option->rect.width());
 }
 
 Settings settingsOf(const QByteArray& words)
@@ -72,6 +50,19 @@ Settings settingsOf(const QByteArray& words)
     return settings;
 }
 
+/// `row` with each of the alternatives in its braces.
+QByteArrayList alternatives(const QByteArray& row)
+{
+    const int open = row.indexOf('{');
+    const int close = row.indexOf('}', open);
+    if (open < 0 || close < 0)
+        return {row.simplified()};
+    QByteArrayList rows;
+    for (const QByteArray& word : row.mid(open + 1, close - open - 1).split(','))
+        rows += alternatives(row.left(open) + word + row.mid(close + 1));
+    return rows;
+}
+
 } // namespace
 
 class tst_Looks : public QObject
@@ -80,7 +71,11 @@ class tst_Looks : public QObject
 
 private Q_SLOTS:
 
-    void initTestCase() { applyProbeTheme(); }
+    void initTestCase()
+    {
+        ProbeTheme::useFont();
+        applyProbeTheme();
+    }
 
     void ofElements_data()
     {
@@ -92,11 +87,11 @@ private Q_SLOTS:
     void ofElements()
     {
         QFETCH(QByteArray, prefix);
-        QByteArray sheet;
+        LookSheet sheet;
         for (const Element& element : StyleOptions::elements())
             if (element.name.startsWith(prefix) && !isLeftToBase(element))
-                sheet += "# " + element.name + '\n' + looksOf(element);
-        COMPARE_TRANSCRIPT("Elements." + prefix, sheet);
+                addLook(sheet, element);
+        COMPARE_TRANSCRIPT("Elements." + prefix, sheet.text());
     }
 
     void withSettings_data()
@@ -107,7 +102,7 @@ private Q_SLOTS:
         QMap<QByteArray, QByteArrayList> rows;
         for (const QByteArray& line : file.readAll().split('\n'))
             if (line.contains(": ") && !line.startsWith('#'))
-                rows[line.left(line.indexOf(':'))] += line.mid(line.indexOf(':') + 2);
+                rows[line.left(line.indexOf(':'))] += alternatives(line.mid(line.indexOf(':') + 1));
         for (auto row = rows.cbegin(); row != rows.cend(); ++row)
             QTest::newRow(row.key()) << row.value();
     }
@@ -116,15 +111,15 @@ private Q_SLOTS:
     void withSettings()
     {
         QFETCH(QByteArrayList, rows);
-        QByteArray sheet;
+        LookSheet sheet;
         for (const QByteArray& row : rows) {
             const QByteArrayList elements = row.split('|').first().simplified().split(' ');
             for (const Element& element : StyleOptions::elements())
                 if (elements.contains(element.name))
-                    sheet += "# " + element.name + row.mid(row.indexOf('|') + 1) + '\n'
-                             + looksOf(element, settingsOf(row.split('|').last()));
+                    addLook(sheet, element, row.mid(row.indexOf('|') + 1),
+                            settingsOf(row.split('|').last()));
         }
-        COMPARE_TRANSCRIPT(QTest::currentDataTag(), sheet);
+        COMPARE_TRANSCRIPT(QTest::currentDataTag(), sheet.text());
     }
 };
 

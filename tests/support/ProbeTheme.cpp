@@ -3,7 +3,9 @@
 #include "AllThemeNames.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFont>
+#include <QFontDatabase>
 #include <QHash>
 #include <QIcon>
 #include <QImage>
@@ -11,6 +13,7 @@
 #include <QMetaEnum>
 
 #include <algorithm>
+#include <limits>
 
 namespace ProbeTheme {
 
@@ -74,7 +77,50 @@ void findLibraryIcons()
     QIcon::setFallbackSearchPaths({QStringLiteral(":/Icons")});
 }
 
+/// How much each pixel covers of its own, as far as the most solid one does.
+QByteArray shapeOf(const QImage& picture)
+{
+    const QImage image = picture.convertToFormat(QImage::Format_ARGB32);
+    QByteArray shape;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            shape.append(char(qAlpha(image.pixel(x, y)) / 2));
+    const int most = shape.isEmpty() ? 0 : *std::max_element(shape.cbegin(), shape.cend());
+    for (char& cover : shape)
+        cover = char(cover * 100 / qMax(1, most));
+    return shape;
+}
+
+int difference(const QByteArray& shape, const QByteArray& other)
+{
+    int sum = shape.size() == other.size() ? 0 : std::numeric_limits<int>::max();
+    for (int i = 0; i < qMin(shape.size(), other.size()); ++i)
+        sum += std::abs(shape.at(i) - other.at(i));
+    return sum;
+}
+
+/// The library's icons by their shapes in this size.
+const QMap<QByteArray, QByteArray>& iconsOf(const QSize& size)
+{
+    static QMap<QPair<int, int>, QMap<QByteArray, QByteArray>> sIcons;
+    auto& icons = sIcons[{size.width(), size.height()}];
+    if (icons.isEmpty())
+        for (const QFileInfo& icon : QDir(QStringLiteral(":/Icons")).entryInfoList())
+            icons.insert(shapeOf(QIcon(icon.filePath()).pixmap(size).toImage()),
+                         icon.completeBaseName().toLatin1());
+    return icons;
+}
+
 } // namespace
+
+void useFont()
+{
+    QFontDatabase::addApplicationFont(QStringLiteral(VARN_PROBE_FONT));
+    QFont font(QStringLiteral("Probe"));
+    font.setPixelSize(16);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    QApplication::setFont(font);
+}
 
 void publish()
 {
@@ -166,6 +212,24 @@ QByteArray nameOf(const QImage& picture)
         }
     const auto most = std::max_element(counts.cbegin(), counts.cend());
     return most == counts.cend() ? QByteArrayLiteral("none") : nameOf(nearestNamed(most.key()));
+}
+
+QByteArray iconOf(const QImage& picture)
+{
+    static QHash<QByteArray, QByteArray> sNames{{shapeOf(pixmap().toImage()), "own"}};
+    const QByteArray shape = shapeOf(picture);
+    QByteArray& name = sNames[shape];
+    if (name.isEmpty()) {
+        name = "unknown";
+        int least = picture.width() * picture.height() * 2; // the rounding of faded ones
+        const auto& icons = iconsOf(picture.size());
+        for (auto icon = icons.cbegin(); icon != icons.cend(); ++icon)
+            if (const int distance = difference(shape, icon.key()); distance < least) {
+                least = distance;
+                name = icon.value();
+            }
+    }
+    return name;
 }
 
 } // namespace ProbeTheme

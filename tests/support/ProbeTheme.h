@@ -23,10 +23,15 @@ constexpr int SmallRadius = 2;
 constexpr int BaseRadius = 4;
 constexpr int MediumRadius = 6;
 constexpr int LargeRadius = 8;
-constexpr int SmallFont = 10;
+constexpr int SmallFont = 8;
 constexpr int BaseFont = 12;
-constexpr int MediumFont = 14;
-constexpr int LargeFont = 18;
+constexpr int MediumFont = 20;
+constexpr int LargeFont = 24;
+
+/// Gives the application a font of 16 pixels in which all characters are boxes half as wide as they
+/// are high, on every machine: three quarters of the height stand above the base line. To be called
+/// before the theme is published.
+void useFont();
 
 /// Publishes the theme, and finds the library's icons in place of an icon theme.
 void publish();
@@ -50,6 +55,10 @@ QByteArray nameOf(const QBrush& brush);
 /// The name of the color that most opaque pixels of `picture` have: what an icon was recolored
 /// with.
 QByteArray nameOf(const QImage& picture);
+
+/// The name of the library's icon that has this shape in whatever colors; "own" of what `pixmap()`
+/// gives, "unknown" of other pictures.
+QByteArray iconOf(const QImage& picture);
 
 /// "small", "base", "medium" or "large" with "bold" or "italic" after it, or the pixel size if no
 /// theme font has it.

@@ -21,7 +21,7 @@ using StyleOptions::Sample;
 inline BRELK::BaseStyle* applyProbeTheme(bool withNames = true)
 {
     withNames ? ProbeTheme::publish() : ProbeTheme::publishEmpty();
-    auto* style = new BRELK::BaseStyle;
+    auto* style = new TranscribedStyle;
     style->setPalette(ProbeTheme::palette());
     QApplication::setStyle(style);
     QApplication::setPalette(ProbeTheme::palette());

@@ -33,6 +33,7 @@ void fill(QWidget& widget, const Settings& settings)
         {"popupMode", QToolButton::MenuButtonPopup},
         {"tabsClosable", true},
         {"text", QStringLiteral("&Text")},
+        {"tickInterval", 33},
         {"tickPosition", QSlider::TicksBothSides},
         {"title", QStringLiteral("Title")},
         {"toolButtonStyle", Qt::ToolButtonTextBesideIcon},
@@ -318,15 +319,14 @@ QByteArray use(QStyle::ComplexControl control, const QStyle& style, const Sample
                QPainter* painter)
 {
     const auto* option = static_cast<const QStyleOptionComplex*>(sample.option.get());
-    QByteArray text;
-    for (unsigned part = 1; part <= lastPartOf(control); part <<= 1) {
-        const QRect rect =
-            style.subControlRect(control, option, QStyle::SubControl(part), sample.widget.get());
-        text += nameOf(control, QStyle::SubControl(part)) + " " + toText(rect) + '\n';
-    }
+    QByteArray text = "parts";
+    for (unsigned part = 1; part <= lastPartOf(control); part <<= 1)
+        text += " " + QByteArray::number(part, 16) + ": "
+                + toText(style.subControlRect(control, option, QStyle::SubControl(part),
+                                              sample.widget.get()));
     style.hitTestComplexControl(control, option, QPoint(5, 5), sample.widget.get());
     style.drawComplexControl(control, option, painter, sample.widget.get());
-    return text;
+    return text + '\n';
 }
 
 QByteArray use(QStyle::SubElement element, const QStyle& style, const Sample& sample, QPainter*)
@@ -336,14 +336,14 @@ QByteArray use(QStyle::SubElement element, const QStyle& style, const Sample& sa
 
 QByteArray use(QStyle::ContentsType type, const QStyle& style, const Sample& sample, QPainter*)
 {
-    QByteArray text;
+    QByteArray text = "sizes";
     for (const QSize contents : {QSize(40, 16), QSize(), QSize(20000, 20000)}) {
         style.sizeFromContents(type, nullptr, contents, nullptr);
         const QSize size =
             style.sizeFromContents(type, sample.option.get(), contents, sample.widget.get());
-        text += toText(QRect(QPoint(), size)) + '\n';
+        text += ' ' + toText(QRect(QPoint(), size)).mid(4);
     }
-    return text;
+    return text + '\n';
 }
 
 template <class Enum>

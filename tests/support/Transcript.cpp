@@ -122,6 +122,30 @@ QByteArray toText(const QPainterPath& path)
            + square.join(',');
 }
 
+QByteArray namesOf(int textFlags)
+{
+    const std::pair<int, const char*> names[] = {{Qt::AlignCenter, " center"},
+                                                 {Qt::AlignLeft, " left"},
+                                                 {Qt::AlignRight, " right"},
+                                                 {Qt::AlignHCenter, " hcenter"},
+                                                 {Qt::AlignTop, " top"},
+                                                 {Qt::AlignBottom, " bottom"},
+                                                 {Qt::AlignVCenter, " vcenter"},
+                                                 {Qt::TextSingleLine, " single"},
+                                                 {Qt::TextWordWrap, " wrap"},
+                                                 {Qt::TextShowMnemonic, " mnemonic"},
+                                                 {Qt::TextHideMnemonic, " no-mnemonic"},
+                                                 {Qt::TextDontClip, " unclipped"}};
+    QByteArray text;
+    textFlags &= ~Qt::AlignAbsolute; // what is not so is mirrored where it stands
+    for (const auto& [flag, name] : names)
+        if ((textFlags & flag) == flag) {
+            text += name;
+            textFlags &= ~flag;
+        }
+    return textFlags ? text + " flags " + QByteArray::number(textFlags, 16) : text;
+}
+
 class Engine : public QPaintEngine
 {
 public:
@@ -151,7 +175,7 @@ public:
 
     void drawLines(const QLineF* lines, int count) override
     {
-        for (int i = 0; i < count; ++i)
+        for (int i = 0; i < count && m_text.isEmpty(); ++i)
             write("line " + toText(lines[i].p1()) + ' ' + toText(lines[i].p2())
                   + toText(painter()->pen()) + smooth());
     }
@@ -179,17 +203,37 @@ public:
     void drawImage(const QRectF& rect, const QImage& image, const QRectF& source,
                    Qt::ImageConversionFlags) override
     {
-        write("pixmap " + toText(rect) + " brush "
-              + ProbeTheme::nameOf(image.copy(source.toAlignedRect())));
+        const QImage part = image.copy(source.toAlignedRect());
+        write("pixmap " + ProbeTheme::iconOf(part) + ' ' + toText(rect) + " brush "
+              + ProbeTheme::nameOf(part));
     }
 
-    void drawTextItem(const QPointF&, const QTextItem& item) override
+    void drawTextItem(const QPointF& place, const QTextItem& item) override
     {
-        write("text \"" + item.text().toUtf8() + "\" " + ProbeTheme::nameOf(item.font()) + " pen "
-              + ProbeTheme::nameOf(painter()->pen().color()));
+        const bool whole = !m_text.isEmpty();
+        if (!whole || !m_written)
+            write("text \"" + (whole ? m_text : item.text().toUtf8()) + "\" "
+                  + ProbeTheme::nameOf(item.font()) + " pen "
+                  + ProbeTheme::nameOf(painter()->pen().color())
+                  + (whole ? m_place : " from " + toText(place)));
+        m_written = whole;
     }
+
+    /// The pieces that are drawn until the end are those of `text`, with what underlines them.
+    void beginText(const QString& whole, const QRect& rect, int flags)
+    {
+        m_text = whole.toUtf8();
+        m_written = false;
+        m_place = " in " + ::toText(QRectF(rect)) + namesOf(flags);
+    }
+
+    void endText() { m_text.clear(); }
 
 private:
+    QByteArray m_text;
+    QByteArray m_place;
+    bool m_written = false;
+
     QByteArray smooth() const
     {
         return painter()->testRenderHint(QPainter::Antialiasing) ? " smooth" : "";
@@ -227,6 +271,18 @@ public:
 };
 
 } // namespace
+
+void TranscribedStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                                    const QPalette& palette, bool enabled, const QString& text,
+                                    QPalette::ColorRole role) const
+{
+    auto* engine = painter ? dynamic_cast<Engine*>(painter->paintEngine()) : nullptr;
+    if (engine)
+        engine->beginText(text, rect, flags);
+    BaseStyle::drawItemText(painter, rect, flags, palette, enabled, text, role);
+    if (engine)
+        engine->endText();
+}
 
 QByteArray toText(const QRectF& rect)
 {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BaseStyle.h"
+
 #include <QApplication>
 #include <QByteArray>
 #include <QPainter>
@@ -10,8 +12,8 @@
 
 /// What `paint` draws, in words: a line for each shape with its brush, pen, transform and clip, but
 /// only what is not as by default, and free of fonts and antialiasing. Colors have the names of the
-/// probe theme. Of a text it does not tell where it stands, which depends on the fonts of the
-/// machine; of a pixmap it tells the color that most of it has.
+/// probe theme. Of a text it tells the rectangle that the style was given for it, or else where it
+/// begins; of a pixmap the icon and the color that most of it has.
 ///
 /// Look into it for the one fact that a test is about. What matters as a whole is kept as a file
 /// under tests/style/transcripts:
@@ -19,6 +21,14 @@
 /// COMPARE_TRANSCRIPT("CheckBoxes", drawn(QStyle::PE_IndicatorCheckBox, option, &checkBox));
 /// \endcode
 QByteArray drawn(const std::function<void(QPainter*)>& paint);
+
+/// The style, whose texts are told with their rectangles.
+class TranscribedStyle : public BRELK::BaseStyle
+{
+public:
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override;
+};
 
 inline void draw(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter* painter,
                  const QWidget* widget)

@@ -1,0 +1,280 @@
+#include "LookSheet.h"
+
+#include <QByteArrayList>
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <cctype>
+
+namespace {
+
+using Line = QByteArrayList; ///< of words
+using Lines = QVector<Line>;
+
+Lines linesOf(const QByteArray& text)
+{
+    Lines lines;
+    for (const QByteArray& line : text.split('\n'))
+        if (!line.isEmpty())
+            lines.append(line.split(' '));
+    return lines;
+}
+
+int differences(const Line& one, const Line& other)
+{
+    int count = std::abs(one.size() - other.size());
+    for (int i = 0; i < qMin(one.size(), other.size()); ++i)
+        count += one.at(i) != other.at(i);
+    return count;
+}
+
+int differences(const Lines& some, const Lines& others)
+{
+    int count = 0;
+    for (int i = 0; i < some.size(); ++i)
+        count += differences(some.at(i), others.at(i));
+    return count;
+}
+
+/// Pairs of lines that say the same in other words, by their indices; in order, and as many as it
+/// pays to have.
+QVector<QPair<int, int>> pairsOf(const Lines& from, const Lines& to)
+{
+    constexpr int Left = 4; ///< as bad as so many words that differ
+    const int columns = to.size() + 1;
+    QVector<int> costs((from.size() + 1) * columns);
+    const auto cost = [&](int i, int j) -> int& { return costs[i * columns + j]; };
+    const auto together = [&](int i, int j) {
+        const bool alike = from.at(i).first() == to.at(j).first();
+        return cost(i + 1, j + 1) + (alike ? differences(from.at(i), to.at(j)) : 2 * Left);
+    };
+    for (int i = from.size(); i >= 0; --i)
+        for (int j = to.size(); j >= 0; --j) {
+            if (i < from.size() && j < to.size())
+                cost(i, j) =
+                    std::min({together(i, j), cost(i + 1, j) + Left, cost(i, j + 1) + Left});
+            else
+                cost(i, j) = (from.size() - i + to.size() - j) * Left;
+        }
+    QVector<QPair<int, int>> pairs;
+    for (int i = 0, j = 0; i < from.size() && j < to.size();) {
+        if (cost(i, j) == together(i, j) && from.at(i).first() == to.at(j).first())
+            pairs.append({i++, j++});
+        else
+            cost(i, j) == cost(i + 1, j) + Left ? ++i : ++j;
+    }
+    return pairs;
+}
+
+bool isName(const QByteArray& word)
+{
+    return word.contains("Brush") || word.contains("Color") || word.startsWith("palette.");
+}
+
+/// The part of the name `from` to replace so that it becomes `to`, as whole words between capitals.
+QPair<QByteArray, QByteArray> shortest(const QByteArray& from, const QByteArray& to)
+{
+    const auto begins = [](const QByteArray& name, int at) {
+        return at <= 0 || at >= name.size() || std::isupper(name.at(at)) || name.at(at - 1) == '.';
+    };
+    int head = 0;
+    while (head < qMin(from.size(), to.size()) && from.at(head) == to.at(head))
+        ++head;
+    while (!begins(from, head) || !begins(to, head))
+        --head;
+    int tail = 0;
+    while (tail < qMin(from.size(), to.size()) - head
+           && from.at(from.size() - 1 - tail) == to.at(to.size() - 1 - tail))
+        ++tail;
+    while (!begins(from, from.size() - tail) || !begins(to, to.size() - tail))
+        --tail;
+    if (head + tail == from.size() || head + tail == to.size()) // else nothing to look for
+        do
+            --head;
+        while (head > 0 && !begins(from, head));
+    head = qMax(head, 0);
+    return {from.mid(head, from.size() - head - tail), to.mid(head, to.size() - head - tail)};
+}
+
+using Rule = QPair<QByteArray, QByteArray>;
+
+/// Names have parts that are replaced, other words only as a whole.
+Lines replaced(Lines lines, const Rule& rule)
+{
+    for (Line& line : lines)
+        for (QByteArray& word : line)
+            if (word == rule.first)
+                word = rule.second;
+            else if (isName(word) && std::isalpha(rule.first.at(0)))
+                word.replace(rule.first, rule.second);
+    return lines;
+}
+
+/// The rule that makes most of `from` equal to `to` by its first word that differs, if any does.
+Rule nextRule(const Lines& from, const Lines& to, int line)
+{
+    const Line& wanted = to.at(line);
+    const Line& given = from.at(line);
+    if (given.size() != wanted.size())
+        return {};
+    const int word =
+        int(std::mismatch(given.begin(), given.end(), wanted.begin()).first - given.begin());
+    const Rule whole(given.at(word), wanted.at(word));
+    const Rule part = isName(whole.first) ? shortest(whole.first, whole.second) : whole;
+    const int before = differences(from, to);
+    const int byPart = differences(replaced(from, part), to);
+    const int byWhole = differences(replaced(from, whole), to);
+    return byPart < before && byPart <= byWhole ? part : byWhole < before ? whole : Rule();
+}
+
+/// How far the place in `line`, its second word, is from the one in `other`, if they differ in
+/// nothing else.
+QByteArray step(const Line& line, const Line& other)
+{
+    const QByteArrayList from = other.value(1).split(',');
+    const QByteArrayList to = line.value(1).split(',');
+    if (line.value(0) != other.value(0) || line.mid(2) != other.mid(2) || from.size() != 2
+        || to.size() != 2)
+        return {};
+    return QByteArray::number(to.at(0).toDouble() - from.at(0).toDouble()) + ','
+           + QByteArray::number(to.at(1).toDouble() - from.at(1).toDouble());
+}
+
+/// How often the `period` lines at `start` come in a row, each time by the same step away.
+int timesInRow(const Lines& lines, int start, int period)
+{
+    const auto stepOf = [&](int line) {
+        return line < lines.size() ? step(lines.at(line), lines.at(line - period)) : QByteArray();
+    };
+    const QByteArray first = stepOf(start + period);
+    int line = start + period;
+    while (!first.isEmpty() && stepOf(line) == first)
+        ++line;
+    return (line - start) / period;
+}
+
+/// With rows of equal shapes written once.
+Lines folded(const Lines& lines)
+{
+    constexpr int Least = 4;
+    Lines text;
+    for (int line = 0; line < lines.size();) {
+        int period = 1;
+        while (period < 3 && timesInRow(lines, line, period) < Least)
+            ++period;
+        const int times = period < 3 ? timesInRow(lines, line, period) : 1;
+        if (times > 1)
+            text.append({QByteArray::number(times), "times",
+                         step(lines.at(line + period), lines.at(line)), "apart:"});
+        text += lines.mid(line, times > 1 ? period : 1);
+        line += times > 1 ? times * period : 1;
+    }
+    return text;
+}
+
+QByteArray toText(const Lines& lines)
+{
+    QByteArray text;
+    for (const Line& line : lines)
+        text += line.join(' ') + '\n';
+    return text;
+}
+
+/// What is in the place of `word`, which `next` follows, when all is seen in a mirror.
+QByteArray mirrored(const QByteArray& word, const QByteArray& next, int width)
+{
+    static const QRegularExpression sPoint(QStringLiteral("^(-?[\\d.]+),(-?[\\d.]+)(c?)$"));
+    static const QRegularExpression sSize(QStringLiteral("^([\\d.]+)x[\\d.]+$"));
+    const auto point = sPoint.match(QString::fromUtf8(word));
+    if (point.hasMatch() && next != "apart:") {
+        const double own = sSize.match(QString::fromUtf8(next)).captured(1).toDouble();
+        const double x = width - point.captured(1).toDouble() - own;
+        return QByteArray::number(x) + ',' + point.captured(2).toUtf8()
+               + point.captured(3).toUtf8();
+    }
+    QByteArray text = word;
+    text.replace("left", "\t").replace("right", "left").replace("\t", "right");
+    return text;
+}
+
+Lines mirrored(Lines lines, int width)
+{
+    for (Line& line : lines)
+        for (int i = 0; i < line.size(); ++i)
+            line[i] = mirrored(line.at(i), line.value(i + 1), width);
+    return lines;
+}
+
+/// What `from` needs to become `to`.
+QByteArray departure(const Lines& from, const Lines& to, int width)
+{
+    if (mirrored(from, width) == to)
+        return " mirrored\n";
+    auto pairs = pairsOf(from, to);
+    Lines kept;
+    Lines wanted;
+    for (const auto& [one, other] : pairs) {
+        kept.append(from.at(one));
+        wanted.append(to.at(other));
+    }
+    QByteArray text;
+    for (int line = 0; line < kept.size();) {
+        if (kept.at(line) == wanted.at(line)) {
+            ++line;
+        } else if (const Rule rule = nextRule(kept, wanted, line); !rule.first.isEmpty()) {
+            kept = replaced(kept, rule);
+            text += ' ' + rule.first + '>' + rule.second;
+            line = 0;
+        } else {
+            kept.remove(line);
+            wanted.remove(line);
+            pairs.remove(line);
+        }
+    }
+    QByteArray added;
+    for (int i = 0; i < from.size(); ++i)
+        if (std::none_of(pairs.cbegin(), pairs.cend(), [i](auto pair) { return pair.first == i; }))
+            text += " -" + QByteArray::number(i + 1);
+    for (int i = 0; i < to.size(); ++i)
+        if (std::none_of(pairs.cbegin(), pairs.cend(), [i](auto pair) { return pair.second == i; }))
+            added += '+' + QByteArray::number(i + 1) + ' ' + to.at(i).join(' ') + '\n';
+    return text + '\n' + added;
+}
+
+} // namespace
+
+void LookSheet::add(const QByteArray& title, const QByteArray& atRest, const States& states,
+                    int width)
+{
+    const Lines rest = folded(linesOf(atRest));
+    QByteArrayList names;
+    QByteArrayList departures;
+    for (const auto& [name, look] : states) {
+        const QByteArray text =
+            look == atRest ? QByteArray() : departure(rest, folded(linesOf(look)), width);
+        if (const int same = departures.indexOf(text); same >= 0) {
+            names[same] += ", " + name;
+        } else {
+            names.append(name);
+            departures.append(text);
+        }
+    }
+    QByteArray look = rest.isEmpty() ? QByteArrayLiteral("nothing\n") : toText(rest);
+    for (int i = 0; i < names.size(); ++i)
+        if (!departures.at(i).isEmpty())
+            look += '[' + names.at(i) + ']' + departures.at(i);
+    const auto same = std::find_if(m_looks.begin(), m_looks.end(),
+                                   [&](const auto& known) { return known.second == look; });
+    if (same != m_looks.end())
+        same->first.append(title);
+    else
+        m_looks.append({{title}, look});
+}
+
+QByteArray LookSheet::text() const
+{
+    QByteArray text;
+    for (const auto& [titles, look] : m_looks)
+        text += "# " + titles.join("\n# ") + '\n' + look;
+    return text;
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QByteArrayList>
+#include <QPair>
+#include <QVector>
+
+/// What something looks like in several states, written as what is there at rest and how each other
+/// state departs from it.
+///
+/// \code
+/// # CE_PushButton
+/// rounded 0.5,0.5 119x27 r4 pen ButtonUncheckedBorderBrush brush ButtonUncheckedBackgroundBrush
+/// [hovered, pressed] Unchecked>UncheckedHover
+/// [checked] Unchecked>Checked -1
+/// +2 path 4,14 8,19 12.5,10 pen ForegroundMouseOverBrush 1.8 smooth
+/// [right to left] mirrored
+/// \endcode
+///
+/// In checked ones "Checked" stands for "Unchecked" (in names; of other words all must be the
+/// same), the first line is not there, and what follows "+2" is the second line of those that are.
+/// A state that looks as at rest is left out, and looks that are alike are written once, below all
+/// of their titles.
+class LookSheet
+{
+public:
+    using States = QVector<QPair<QByteArray, QByteArray>>; ///< their names and lines
+
+    /// `width` is that of what is mirrored.
+    void add(const QByteArray& title, const QByteArray& atRest, const States& states, int width);
+
+    QByteArray text() const;
+
+private:
+    QVector<QPair<QByteArrayList, QByteArray>> m_looks; ///< their titles and lines
+};
