@@ -1,5 +1,6 @@
 #include "ThemeColorHelper.h"
 
+#include "EmbeddedIcons.h"
 #include "Helpers.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
@@ -16,6 +17,18 @@ namespace {
 /// Brighter colors than this, of 255, are darkened when disabled.
 constexpr int LargestDarkBrightness = 130;
 
+/// Icons of desktop names are offered in the theme's foreground, and never have dots in their name.
+QIcon inReferenceColor(const QIcon& icon)
+{
+    const QString name = icon.name();
+    const QColor offered = EmbeddedIcons::offeredColor();
+    if (name.isEmpty() || name.contains(QLatin1Char('.'))
+        || offered == QColor(EmbeddedIcons::ReferenceColor))
+        return icon;
+    return Helpers::getModifiedIconWithForegroundBrush(
+        icon, offered, QColor(EmbeddedIcons::ReferenceColor), false);
+}
+
 QIcon themedOrRecolored(const QIcon& icon, const QBrush& brush)
 {
     QString brushName = ThemeResources::getBrushKey(brush);
@@ -28,9 +41,9 @@ QIcon themedOrRecolored(const QIcon& icon, const QBrush& brush)
     if (!themed.isNull() && themed.name() == themedName)
         return themed;
 
-    const QColor reference(0xE5, 0xEE, 0xF4);
+    const QColor reference(EmbeddedIcons::ReferenceColor);
     return Helpers::getModifiedIconWithForegroundBrush(
-        icon, reference, brush, brushName.contains(ThemeNames::Disabled.text));
+        inReferenceColor(icon), reference, brush, brushName.contains(ThemeNames::Disabled.text));
 }
 
 struct IconInBrush

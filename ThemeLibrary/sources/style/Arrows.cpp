@@ -1,4 +1,5 @@
 #include "ButtonContent.h"
+#include "EmbeddedIcons.h"
 #include "Families.h"
 #include "Shapes.h"
 #include "WidgetTraits.h"
@@ -12,6 +13,8 @@
 namespace BRELK::Arrows {
 
 namespace {
+
+using EmbeddedIcons::StyleIcon;
 
 constexpr int MenuIndicatorSize = 20; ///< keeps the arrow off border and focus mark
 constexpr int IconSize = 16;
@@ -28,34 +31,33 @@ int metric(QStyle::PixelMetric, const MeasureContext& context)
 
 namespace {
 
-/// Icons of the icon theme outlive a change of theme: they look themselves up again.
-const QIcon& leftArrow()
+QIcon leftArrow()
 {
-    static const QIcon sLeftArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.left"));
+    static const StyleIcon sLeftArrowIcon(QStringLiteral("chevron.left"));
     return sLeftArrowIcon;
 }
 
-const QIcon& rightArrow()
+QIcon rightArrow()
 {
-    static const QIcon sRightArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.right"));
+    static const StyleIcon sRightArrowIcon(QStringLiteral("chevron.right"));
     return sRightArrowIcon;
 }
 
-const QIcon& upArrow()
+QIcon upArrow()
 {
-    static const QIcon sUpArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.up"));
+    static const StyleIcon sUpArrowIcon(QStringLiteral("chevron.up"));
     return sUpArrowIcon;
 }
 
-const QIcon& downArrow()
+QIcon downArrow()
 {
-    static const QIcon sDownArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.down"));
+    static const StyleIcon sDownArrowIcon(QStringLiteral("chevron.down"));
     return sDownArrowIcon;
 }
 
-const QIcon& calendar()
+QIcon calendar()
 {
-    static const QIcon sCalendarIcon = QIcon::fromTheme(QStringLiteral("view.calendar"));
+    static const StyleIcon sCalendarIcon(QStringLiteral("view.calendar"));
     return sCalendarIcon;
 }
 

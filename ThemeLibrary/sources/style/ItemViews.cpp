@@ -1,4 +1,5 @@
 #include "ButtonContent.h"
+#include "EmbeddedIcons.h"
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -311,7 +312,7 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
 
 void paintChildIndicator(const PaintContext& context, const QBrush& brush)
 {
-    static const QIcon sChildIcon = QIcon::fromTheme(QStringLiteral("chevron.right"));
+    static const EmbeddedIcons::StyleIcon sChildIcon(QStringLiteral("chevron.right"));
     const QRect& rect = context.option.rect;
     const int end = listViewPadding(context.style) / 2 + scrollBarRoom(context);
     const QRect place(rect.right() + 1 - end - IndicatorSize, rect.y(), IndicatorSize,
