@@ -19,12 +19,12 @@ LAYERS = (
     (0, "companion library", ["CommonUtils/*"]),
     (6, "theme application", [LIBRARY + name for name in ("BaseTheme.*", "ThemeFactory.*", "ThemeQApplication.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
-        "ButtonContent.*", "FrozenTheme.*", "PainterSaver.*", "Pictures.*", "Shapes.*", "StyleContext.*", "Texts.*",
-        "WidgetProperties.*", "WidgetTraits.*")]),
+        "ButtonContent.*", "FrozenTheme.*", "InputMetrics.*", "PainterSaver.*", "Pictures.*", "Shapes.*",
+        "StyleContext.*", "Texts.*", "WidgetProperties.*", "WidgetTraits.*")]),
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",
                                                      "ProxyStyle_p.*")]
-        + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "Polishing.*")]),
+        + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "Metrics.*", "Polishing.*")]),
     (4, FAMILIES, [STYLE + "*"]),
     (1, "theme data", [LIBRARY + "*"]),
     (7, "programs and tests", ["*"]),

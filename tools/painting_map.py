@@ -2,8 +2,8 @@
 """Checks docs/painting-map.md, the answer to "who paints this?", against the tables it is made from; with --fix writes
 it.
 
-The tables are those of Dispatch.cpp. A function is looked for in the file that opens its namespace, which is its
-family's.
+The tables are those of Dispatch.cpp and Metrics.cpp. A function is looked for in the file that opens its namespace,
+which is its family's.
 """
 
 import re
@@ -13,10 +13,12 @@ import sourcetree
 
 STYLE = "ThemeLibrary/sources/style/"
 TABLES = STYLE + "Dispatch.cpp"
+METRICS = STYLE + "Metrics.cpp"
 MAP = "docs/painting-map.md"
 
 TABLE = re.compile(r"^\w+ (painterOf|ruleOf)\(QStyle::(\w+) \w+\)\n\{\n(.*?)^\}", re.MULTILINE | re.DOTALL)
 CASE = re.compile(r"case (?:QStyle|BaseStyle)::(\w+):")
+METRIC = re.compile(r"^    (pixels|scaled|row|by)\((?:QStyle|BaseStyle)::(\w+), (.+?)\),", re.MULTILINE)
 ANSWER = re.compile(r"return (?:by<)?(\w+)::(\w+)>?;")
 
 TITLES = {
@@ -26,7 +28,6 @@ TITLES = {
     ("ruleOf", "SubElement"): "Rectangles: sub-elements",
     ("ruleOf", "ComplexControl"): "Rectangles: sub-controls",
     ("ruleOf", "ContentsType"): "Sizes",
-    ("ruleOf", "PixelMetric"): "Metrics",
 }
 
 HEAD = """# Who paints this?
@@ -34,6 +35,18 @@ HEAD = """# Who paints this?
 Which function paints, places or measures what: the tables of [Dispatch.cpp](../{tables}) for readers.
 An element that is not here is answered by the base style, Fusion. Written by `tools/painting_map.py --fix`.
 """
+
+METRICS_HEAD = """
+## Metrics
+
+The table of [Metrics.cpp](../{metrics}). Scaled pixels are those of a screen of 96 dots per inch; a row is as high as a
+line of text with the padding above and below, rounded up to the grid.
+
+| Metric | Value |
+|---|---|
+"""
+
+UNITS = {"pixels": "{} px", "scaled": "{} px, scaled", "row": "a row with a padding of {} px", "by": "`{}`"}
 
 
 def family_files():
@@ -78,6 +91,10 @@ def written():
             file = file_of(family, function, files)
             link = f"[{file.rsplit('/', 1)[-1]}](../{file})"
             parts.append(f"| `{element}` | `{family}::{function}` | {link} |\n")
+    parts.append(METRICS_HEAD.format(metrics=METRICS))
+    rows = METRIC.findall((sourcetree.ROOT / METRICS).read_text(encoding="utf-8"))
+    for unit, metric, value in sorted(rows, key=lambda row: row[1]):
+        parts.append(f"| `{metric}` | {UNITS[unit].format(value)} |\n")
     return "".join(parts)
 
 
@@ -87,7 +104,7 @@ def main():
     if "--fix" in sys.argv[1:]:
         path.write_text(text, encoding="utf-8")
     elif not path.exists() or path.read_text(encoding="utf-8") != text:
-        print(f"{MAP} is not what {TABLES} says; run tools/painting_map.py --fix")
+        print(f"{MAP} is not what the tables say; run tools/painting_map.py --fix")
         return 1
     return 0
 

@@ -34,6 +34,31 @@ private Q_SLOTS:
         QVERIFY(room(QRadioButton(QStringLiteral("Text")), QStyle::SE_RadioButtonContents) > 0);
     }
 
+    void inputsAreEquallyHighInEveryFont()
+    {
+        QLineEdit line;
+        QComboBox box;
+        QDateEdit calendar;
+        calendar.setCalendarPopup(true);
+        QSpinBox spin;
+        QDateTimeEdit date;
+        for (const int points : {9, 14, 16}) {
+            QFont font = qApp->font();
+            font.setPointSize(points);
+            // Under a style sheet editors do not take the font of the input they are in.
+            for (const QString& sheet : {QStringLiteral("QHeaderView { color: red }"), QString()}) {
+                qApp->setStyleSheet(sheet);
+                line.setFont(font);
+                for (QWidget* input :
+                     {static_cast<QWidget*>(&box), static_cast<QWidget*>(&calendar),
+                      static_cast<QWidget*>(&spin), static_cast<QWidget*>(&date)}) {
+                    input->setFont(font);
+                    QCOMPARE(input->sizeHint().height(), line.sizeHint().height());
+                }
+            }
+        }
+    }
+
     void applicationsColorsAreKept()
     {
         Open<QLineEdit> edit;

@@ -10,7 +10,6 @@ namespace BRELK {
 using Painter = void (*)(const PaintContext&);
 using RectRule = QRect (*)(const StyleContext&, const QRect& base);
 using PartRule = QRect (*)(const StyleContext&, QStyle::SubControl, const BasePart& base);
-using MetricRule = int (*)(QStyle::PixelMetric, const MeasureContext&);
 using SizeRule = QSize (*)(const MeasureContext&, const QSize& contents, const QSize& base);
 
 template <auto Function>

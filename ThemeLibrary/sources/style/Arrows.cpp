@@ -23,7 +23,7 @@ constexpr int ComboBoxIndicatorSize =
 
 } // namespace
 
-int metric(QStyle::PixelMetric, const MeasureContext& context)
+int indicatorWidth(const MeasureContext& context)
 {
     const bool inComboBox = qstyleoption_cast<const QStyleOptionComboBox*>(context.option);
     return context.dpiScaled(inComboBox ? ComboBoxIndicatorSize : MenuIndicatorSize);

@@ -21,8 +21,6 @@ constexpr int HorizontalPadding = 12;
 constexpr int VerticalPadding = 4;
 constexpr int IconOnlyPadding = 6;
 constexpr int SmallestTextWidth = 72;
-constexpr int Margin = 8;
-constexpr int IconSize = 16;
 constexpr int IconSpacing = 4;
 constexpr int ArrowMargin = 2; ///< between a menu arrow and the border
 constexpr int ElisionMargin = 3; ///< keeps an elided text off the border
@@ -36,17 +34,6 @@ int panelRadius(const StyleContext& context, const QRect& rect)
 }
 
 } // namespace
-
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
-{
-    switch (metric) {
-    case QStyle::PM_ButtonMargin: return context.dpiScaled(Margin);
-    case QStyle::PM_ButtonIconSize: return context.dpiScaled(IconSize);
-    default:
-        return 0; // the default button needs no room of its own, and pressed labels stay where they
-                  // are
-    }
-}
 
 QSize buttonSize(const MeasureContext& context, const QStyleOptionButton& button,
                  const QSize& contents, const QSize& /*base*/)

@@ -15,9 +15,7 @@ namespace BRELK::CheckBoxes {
 
 namespace {
 
-constexpr int IndicatorSize = 16;
 constexpr int SwitchWidth = 32;
-constexpr int LabelSpacing = 8;
 constexpr int VerticalPadding = 2;
 constexpr int FocusMargin = 3; ///< what the focus mark needs after the label
 
@@ -32,18 +30,17 @@ QSize labelledSize(const MeasureContext& context, const QSize& contents, const Q
 
 } // namespace
 
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
+int indicatorWidth(const MeasureContext& context)
 {
-    switch (metric) {
-    case QStyle::PM_CheckBoxLabelSpacing:
-        return context.dpiScaled(LabelSpacing) + 1; // counted from the indicator's last pixel
-    case QStyle::PM_RadioButtonLabelSpacing: return context.dpiScaled(LabelSpacing);
-    case QStyle::PM_IndicatorWidth:
-        if (WidgetProperties::flag(context.widget, WidgetProperties::Switch))
-            return context.dpiScaled(SwitchWidth);
-        [[fallthrough]];
-    default: return context.dpiScaled(IndicatorSize);
-    }
+    return WidgetProperties::flag(context.widget, WidgetProperties::Switch)
+               ? context.dpiScaled(SwitchWidth)
+               : context.metric(QStyle::PM_IndicatorHeight);
+}
+
+int labelSpacing(const MeasureContext& context)
+{
+    return context.metric(QStyle::PM_RadioButtonLabelSpacing)
+           + 1; // counted from the indicator's last pixel
 }
 
 QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton&, const QSize& contents,

@@ -1,5 +1,6 @@
 #include "ButtonContent.h"
 #include "Families.h"
+#include "InputMetrics.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -14,8 +15,6 @@ namespace BRELK::ComboBoxes {
 
 namespace {
 
-constexpr int TextPadding = 4; ///< that of a line edit,
-constexpr int LineEditMargin = 2; ///< and what a line edit adds by itself
 constexpr int IconSpacing = 4;
 constexpr int ArrowRoom = 12; ///< what the text leaves to the arrow before its middle
 constexpr int FocusInset = 3;
@@ -23,7 +22,7 @@ constexpr int FocusInset = 3;
 /// How far the text is from the border: as far as in a line edit.
 int textInset(const MeasureContext& context)
 {
-    return context.dpiScaled(TextPadding) + LineEditMargin;
+    return context.dpiScaled(InputMetrics::TextPadding) + InputMetrics::EditorMargin;
 }
 
 /// The arrow area is a square of the box's height, but never narrower than the arrow.
@@ -175,8 +174,8 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
 
     const PainterSaver saver(context.painter);
     // Letters may reach a little out of their place.
-    context.painter.setClipRect(rect.adjusted(-LineEditMargin, 0, LineEditMargin, 0),
-                                Qt::IntersectClip);
+    constexpr int Overhang = 2;
+    context.painter.setClipRect(rect.adjusted(-Overhang, 0, Overhang, 0), Qt::IntersectClip);
     const QBrush brush = labelBrush(context, comboBox);
     if (!comboBox.currentIcon.isNull())
         rect = paintIcon(context, comboBox, rect, brush);

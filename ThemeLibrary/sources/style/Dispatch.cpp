@@ -111,6 +111,7 @@ RectRule ruleOf(QStyle::SubElement element)
     case QStyle::SE_ItemViewItemCheckIndicator: return by<ItemViews::markRect>;
     case QStyle::SE_ItemViewItemDecoration:     return by<ItemViews::markRect>;
     case QStyle::SE_ItemViewItemText:           return by<ItemViews::textRect>;
+    case QStyle::SE_LineEditContents:           return by<LineEdits::contentsRect>;
     case QStyle::SE_TabBarTabRightButton:       return by<Tabs::rightButtonRect>;
     case QStyle::SE_TabBarTabText:              return by<Tabs::textRect>;
     case QStyle::SE_TabWidgetTabBar:            return by<Tabs::barRect>;
@@ -144,102 +145,8 @@ SizeRule ruleOf(QStyle::ContentsType type)
     case QStyle::CT_RadioButton:  return by<CheckBoxes::radioButtonSize>;
     case QStyle::CT_Slider:       return by<Sliders::sliderSize>;
     case QStyle::CT_SpinBox:      return by<SpinBoxes::spinBoxSize>;
-    case QStyle::CT_TabBarTab:    return by<Tabs::tabSize>;
     case QStyle::CT_ToolButton:   return by<ToolButtons::toolButtonSize>;
     default:                      return nullptr;
-    }
-}
-
-// NOLINTNEXTLINE(readability-function-size): a table
-MetricRule ruleOf(QStyle::PixelMetric metric)
-{
-    switch (unsigned(metric)) {
-    case QStyle::PM_ButtonMargin:
-    case QStyle::PM_ButtonDefaultIndicator:
-    case QStyle::PM_ButtonShiftHorizontal:
-    case QStyle::PM_ButtonShiftVertical:
-    case QStyle::PM_ButtonIconSize:            return Buttons::metric;
-    case QStyle::PM_MenuButtonIndicator:       return Arrows::metric;
-    case QStyle::PM_IndicatorWidth:
-    case QStyle::PM_IndicatorHeight:
-    case QStyle::PM_ExclusiveIndicatorWidth:
-    case QStyle::PM_ExclusiveIndicatorHeight:
-    case QStyle::PM_CheckBoxLabelSpacing:
-    case QStyle::PM_RadioButtonLabelSpacing:   return CheckBoxes::metric;
-    case QStyle::PM_DefaultFrameWidth:
-    case QStyle::PM_ToolTipLabelFrameWidth:
-    case QStyle::PM_FocusFrameHMargin:
-    case QStyle::PM_FocusFrameVMargin:         return Frames::metric;
-    case QStyle::PM_LayoutLeftMargin:
-    case QStyle::PM_LayoutTopMargin:
-    case QStyle::PM_LayoutRightMargin:
-    case QStyle::PM_LayoutBottomMargin:
-    case QStyle::PM_LayoutHorizontalSpacing:
-    case QStyle::PM_LayoutVerticalSpacing:
-    case QStyle::PM_SmallIconSize:
-    case QStyle::PM_LargeIconSize:
-    case QStyle::PM_MessageBoxIconSize:
-    case QStyle::PM_SplitterWidth:             return WindowParts::metric;
-    case QStyle::PM_HeaderMargin:
-    case QStyle::PM_HeaderMarkSize:
-    case QStyle::PM_HeaderGripMargin:
-    case QStyle::PM_HeaderDefaultSectionSizeHorizontal:
-    case QStyle::PM_HeaderDefaultSectionSizeVertical:
-    case QStyle::PM_ListViewIconSize:
-    case QStyle::PM_IconViewIconSize:
-    case QStyle::PM_TreeViewIndentation:
-    case BaseStyle::BRELK_PM_ListViewPadding:  return ItemViews::metric;
-    case QStyle::PM_MenuHMargin:
-    case QStyle::PM_MenuVMargin:
-    case QStyle::PM_MenuPanelWidth:
-    case QStyle::PM_MenuDesktopFrameWidth:
-    case QStyle::PM_MenuScrollerHeight:
-    case QStyle::PM_MenuTearoffHeight:
-    case QStyle::PM_MenuBarHMargin:
-    case QStyle::PM_MenuBarVMargin:
-    case QStyle::PM_MenuBarItemSpacing:
-    case QStyle::PM_MenuBarPanelWidth:
-    case QStyle::PM_SubMenuOverlap:            return Menus::metric;
-    case QStyle::PM_ProgressBarChunkWidth:     return ProgressBars::metric;
-    case QStyle::PM_ScrollBarExtent:
-    case QStyle::PM_ScrollBarSliderMin:
-    case QStyle::PM_ScrollView_ScrollBarSpacing:
-    case QStyle::PM_ScrollView_ScrollBarOverlap: return ScrollBars::metric;
-    case QStyle::PM_SliderControlThickness:
-    case QStyle::PM_SliderLength:
-    case QStyle::PM_SliderThickness:
-    case QStyle::PM_SliderTickmarkOffset:
-    case QStyle::PM_SliderSpaceAvailable:      return Sliders::metric;
-    case QStyle::PM_SpinBoxFrameWidth:         return SpinBoxes::metric;
-    case QStyle::PM_TabBarBaseHeight:
-    case QStyle::PM_TabBarBaseOverlap:
-    case QStyle::PM_TabBarIconSize:
-    case QStyle::PM_TabBarScrollButtonWidth:
-    case QStyle::PM_TabBarTabHSpace:
-    case QStyle::PM_TabBarTabVSpace:
-    case QStyle::PM_TabBarTabOverlap:
-    case QStyle::PM_TabBarTabShiftHorizontal:
-    case QStyle::PM_TabBarTabShiftVertical:
-    case QStyle::PM_TabCloseIndicatorHeight:
-    case QStyle::PM_TabCloseIndicatorWidth:    return Tabs::metric;
-    case QStyle::PM_DockWidgetTitleBarButtonMargin:
-    case QStyle::PM_DockWidgetTitleMargin:
-    case QStyle::PM_DockWidgetSeparatorExtent:
-    case QStyle::PM_DockWidgetHandleExtent:
-    case QStyle::PM_DockWidgetFrameWidth:
-    case QStyle::PM_MdiSubWindowFrameWidth:
-    case QStyle::PM_MdiSubWindowMinimizedWidth:
-    case QStyle::PM_TitleBarButtonIconSize:
-    case QStyle::PM_TitleBarButtonSize:
-    case QStyle::PM_TitleBarHeight:            return TitleBars::metric;
-    case QStyle::PM_ToolBarExtensionExtent:
-    case QStyle::PM_ToolBarFrameWidth:
-    case QStyle::PM_ToolBarHandleExtent:
-    case QStyle::PM_ToolBarIconSize:
-    case QStyle::PM_ToolBarItemMargin:
-    case QStyle::PM_ToolBarItemSpacing:
-    case QStyle::PM_ToolBarSeparatorExtent:    return ToolBars::metric;
-    default:                                   return nullptr;
     }
 }
 
@@ -305,14 +212,6 @@ QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
     const QSize base = QProxyStyle::sizeFromContents(type, option, contents, widget);
     const SizeRule rule = option ? ruleOf(type) : nullptr;
     return rule ? rule({*this, option, widget}, contents, base) : base;
-}
-
-int BaseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
-                           const QWidget* widget) const
-{
-    const MetricRule rule = ruleOf(metric);
-    return rule ? rule(metric, {*this, option, widget})
-                : QProxyStyle::pixelMetric(metric, option, widget);
 }
 
 } // namespace BRELK

@@ -2,7 +2,6 @@
 
 #include <QStyle>
 
-class QLineEdit;
 class QStyleOptionButton;
 class QStyleOptionComboBox;
 class QStyleOptionDockWidget;
@@ -34,7 +33,7 @@ struct PaintContext;
 struct StyleContext;
 
 namespace Arrows {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+int indicatorWidth(const MeasureContext& context);
 void paintDown(const PaintContext& context);
 void paintLeft(const PaintContext& context);
 void paintRight(const PaintContext& context);
@@ -42,7 +41,6 @@ void paintUp(const PaintContext& context);
 } // namespace Arrows
 
 namespace Buttons {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize buttonSize(const MeasureContext& context, const QStyleOptionButton& button,
                  const QSize& contents, const QSize& base);
 void paintDefaultFrame(const PaintContext& context);
@@ -57,7 +55,8 @@ void paintWidget(const PaintContext& context);
 }
 
 namespace CheckBoxes {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+int indicatorWidth(const MeasureContext& context);
+int labelSpacing(const MeasureContext& context);
 QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton& button,
                    const QSize& contents, const QSize& base);
 QSize radioButtonSize(const MeasureContext& context, const QStyleOptionButton& button,
@@ -82,7 +81,8 @@ void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comb
 } // namespace ComboBoxes
 
 namespace Frames {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+int frameWidth(const MeasureContext& context);
+int focusMargin(const MeasureContext& context);
 void paintFocusRect(const PaintContext& context);
 void paintToolTip(const PaintContext& context);
 void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& frame);
@@ -96,7 +96,6 @@ void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& grou
 } // namespace GroupBoxes
 
 namespace ItemViews {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
                const QSize& contents, const QSize& base);
 /// Of an item's check box or icon.
@@ -112,17 +111,16 @@ void paintHeaderLabel(const PaintContext& context, const QStyleOptionHeader& hea
 } // namespace ItemViews
 
 namespace LineEdits {
-/// Lets the text of an editor that is a part of another input begin where that of a line edit does,
-/// and makes that input as high.
-void placeText(const BaseStyle& style, QLineEdit& editor);
+int iconSize(const MeasureContext& context);
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
                    const QSize& contents, const QSize& base);
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base);
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
 void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame);
 } // namespace LineEdits
 
 namespace Menus {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+int panelMargin(const MeasureContext& context);
 QSize itemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
                const QSize& contents, const QSize& base);
 QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
@@ -135,7 +133,6 @@ void paintBarEmptyArea(const PaintContext& context);
 } // namespace Menus
 
 namespace ProgressBars {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressBar& bar,
                       const QSize& contents, const QSize& base);
 void paintGroove(const PaintContext& context);
@@ -144,7 +141,6 @@ void paintLabel(const PaintContext& context, const QStyleOptionProgressBar& bar)
 } // namespace ProgressBars
 
 namespace ScrollBars {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
                const BasePart& base);
 void paintCorner(const PaintContext& context);
@@ -155,7 +151,7 @@ void paintScrollBar(const PaintContext& context, const QStyleOptionSlider& bar);
 } // namespace ScrollBars
 
 namespace Sliders {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+int spaceAvailable(const MeasureContext& context);
 QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
                  const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
@@ -165,7 +161,6 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider);
 } // namespace Sliders
 
 namespace SpinBoxes {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
                   const QSize& contents, const QSize& base);
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
@@ -178,9 +173,6 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
 } // namespace SpinBoxes
 
 namespace Tabs {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
-QSize tabSize(const MeasureContext& context, const QStyleOptionTab& tab, const QSize& contents,
-              const QSize& base);
 QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& frame,
               const QRect& base);
 QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect& base);
@@ -193,7 +185,6 @@ void paintLabel(const PaintContext& context, const QStyleOptionTab& tab);
 } // namespace Tabs
 
 namespace TitleBars {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 void paintWindowFrame(const PaintContext& context);
 void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& dock);
 void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titleBar);
@@ -201,7 +192,6 @@ void paintMdiControls(const PaintContext& context, const QStyleOptionComplex& co
 } // namespace TitleBars
 
 namespace ToolBars {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
 void paintHandle(const PaintContext& context);
 void paintSeparator(const PaintContext& context);
 void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBar);
@@ -220,7 +210,7 @@ void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& 
 } // namespace ToolButtons
 
 namespace WindowParts {
-int metric(QStyle::PixelMetric metric, const MeasureContext& context);
+int layoutMargin(const MeasureContext& context);
 void paintStatusBar(const PaintContext& context);
 void paintSplitter(const PaintContext& context);
 void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& band);

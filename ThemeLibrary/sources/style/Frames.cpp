@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "InputMetrics.h"
 #include "Shapes.h"
 #include "StyleContext.h"
 #include "ThemeNames.h"
@@ -20,38 +21,29 @@ namespace {
 
 constexpr int FrameWidth = 1;
 constexpr int ScrollAreaFrameWidth = 2;
-constexpr int LineEditPadding = 4;
-constexpr int ToolTipPadding = 4;
-constexpr int FocusMargin = 2;
-constexpr int PopupIconMargin = 3;
-constexpr int PopupTextMargin = 5; ///< begins the words of a popup below those of its combo box
+
+} // namespace
+
+int frameWidth(const MeasureContext& context)
+{
+    // The square viewport of a scroll area stays clear of the frame's round corners.
+    if (qobject_cast<const QAbstractScrollArea*>(context.widget))
+        return ScrollAreaFrameWidth;
+    // A line edit counts the room between border and text as part of its frame.
+    return qobject_cast<const QLineEdit*>(context.widget)
+               ? context.dpiScaled(InputMetrics::TextPadding)
+               : FrameWidth;
+}
 
 int focusMargin(const MeasureContext& context)
 {
     const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(context.option);
     if (!item || !WidgetTraits::isComboBoxList(context.widget))
-        return FocusMargin;
+        return context.metric(QStyle::PM_FocusFrameVMargin);
     constexpr auto Marked =
         QStyleOptionViewItem::HasDecoration | QStyleOptionViewItem::HasCheckIndicator;
-    return item->features & Marked ? PopupIconMargin : PopupTextMargin;
-}
-
-} // namespace
-
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
-{
-    switch (metric) {
-    case QStyle::PM_ToolTipLabelFrameWidth: return context.dpiScaled(ToolTipPadding);
-    case QStyle::PM_FocusFrameHMargin: return context.dpiScaled(focusMargin(context));
-    case QStyle::PM_FocusFrameVMargin: return context.dpiScaled(FocusMargin);
-    default:
-        // The square viewport of a scroll area stays clear of the frame's round corners.
-        if (qobject_cast<const QAbstractScrollArea*>(context.widget))
-            return ScrollAreaFrameWidth;
-        // A line edit counts the room between border and text as part of its frame.
-        return qobject_cast<const QLineEdit*>(context.widget) ? context.dpiScaled(LineEditPadding)
-                                                              : FrameWidth;
-    }
+    return context.dpiScaled(item->features & Marked ? InputMetrics::PopupMarkMargin
+                                                     : InputMetrics::PopupTextMargin);
 }
 
 namespace {

@@ -21,14 +21,6 @@ namespace BRELK::ItemViews {
 
 namespace {
 
-constexpr int ListPadding = 8;
-constexpr int RowPadding = 4;
-constexpr int HeaderMargin = 4;
-constexpr int HeaderMarkSize = 10;
-constexpr int SectionWidth = 100;
-constexpr int ListIconSize = 16;
-constexpr int IconModeIconSize = 32;
-constexpr int Indentation = 20;
 constexpr int IndicatorSize = 16; ///< of the arrow that tells of children
 
 int listViewPadding(const BaseStyle& style)
@@ -55,26 +47,12 @@ bool showsChildren(const QWidget* widget, const QStyleOptionViewItem& item)
 
 } // namespace
 
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
-{
-    switch (unsigned(metric)) {
-    case QStyle::PM_HeaderMargin:
-    case QStyle::PM_HeaderGripMargin: return context.dpiScaled(HeaderMargin);
-    case QStyle::PM_HeaderMarkSize: return context.dpiScaled(HeaderMarkSize);
-    case QStyle::PM_HeaderDefaultSectionSizeHorizontal: return context.dpiScaled(SectionWidth);
-    case QStyle::PM_HeaderDefaultSectionSizeVertical: return context.rowHeight(RowPadding);
-    case QStyle::PM_ListViewIconSize: return context.dpiScaled(ListIconSize);
-    case QStyle::PM_IconViewIconSize: return context.dpiScaled(IconModeIconSize);
-    case QStyle::PM_TreeViewIndentation: return context.dpiScaled(Indentation);
-    default: return context.dpiScaled(ListPadding);
-    }
-}
-
 QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item, const QSize&,
                const QSize& base)
 {
     const int indicator = showsChildren(context.widget, item) ? IndicatorSize : 0;
-    return {base.width() + indicator, qMax(base.height(), context.rowHeight(RowPadding))};
+    return {base.width() + indicator,
+            qMax(base.height(), context.metric(QStyle::PM_HeaderDefaultSectionSizeVertical))};
 }
 
 QRect markRect(const StyleContext& context, const QRect& base)

@@ -1,5 +1,6 @@
 #include "ButtonContent.h"
 #include "Families.h"
+#include "InputMetrics.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
@@ -17,41 +18,29 @@ namespace BRELK::LineEdits {
 
 namespace {
 
-/// What makes a spin box as high as the controls beside it: its size is that of its editor and of
-/// its frame.
-int heightToFill(const BaseStyle& style, const QLineEdit& editor, const QWidget& spinBox)
+const QAbstractSpinBox* spinBoxOf(const QWidget* editor)
 {
-    const int frameWidth =
-        style.proxy()->pixelMetric(QStyle::PM_SpinBoxFrameWidth, nullptr, &spinBox);
-    const int height = editor.sizeHint().height() + 2 * frameWidth;
-    return qMax(0, MeasureContext{style, nullptr, &editor}.controlHeight() - height);
+    return editor ? qobject_cast<const QAbstractSpinBox*>(editor->parentWidget()) : nullptr;
+}
+
+bool isInComboBox(const QWidget* editor)
+{
+    return editor && qobject_cast<const QComboBox*>(editor->parentWidget());
 }
 
 } // namespace
 
-void placeText(const BaseStyle& style, QLineEdit& editor)
+int iconSize(const MeasureContext& context)
 {
-    // How far from the border of its input an editor lies, and how much of the room between text
-    // and border that a box does not have.
-    constexpr int InComboBox = 3;
-    constexpr int InSpinBox = 1;
-    constexpr int BeforeButtons = 1;
-    const QWidget* owner = editor.parentWidget();
-    if (!editor.textMargins().isNull()) // the application's, or set already
-        return;
-    const int padding = style.proxy()->pixelMetric(QStyle::PM_DefaultFrameWidth, nullptr, &editor);
-    const int inComboBox = padding - InComboBox;
-    const int inSpinBox = padding - InSpinBox;
-    if (qobject_cast<const QComboBox*>(owner))
-        editor.setTextMargins(inComboBox, 0, inComboBox, 0);
-    const auto* spinBox = qobject_cast<const QAbstractSpinBox*>(owner);
-    if (!spinBox || !spinBox->hasFrame())
-        return;
-    const int fill = heightToFill(style, editor, *spinBox);
-    if (WidgetTraits::isCalendarPopupEditor(owner))
-        editor.setTextMargins(inComboBox, (fill + 1) / 2, inComboBox, fill / 2);
-    else
-        editor.setTextMargins(inSpinBox, (fill + 1) / 2, inSpinBox - BeforeButtons, fill / 2);
+    constexpr int IconSize = 16;
+    const QAbstractSpinBox* spinBox =
+        qobject_cast<const QLineEdit*>(context.widget) ? spinBoxOf(context.widget) : nullptr;
+    if (!spinBox || !spinBox->hasFrame() || !context.widget->actions().isEmpty())
+        return context.dpiScaled(IconSize);
+    // A spin box is as high as its editor and its frame, and an editor as its icons: under a style
+    // sheet no other question tells the style of its height.
+    const MeasureContext owner{context.style, nullptr, spinBox};
+    return owner.controlHeight() - 2 * owner.metric(QStyle::PM_SpinBoxFrameWidth);
 }
 
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
@@ -63,13 +52,24 @@ QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame
             qMax(contents.height() + 2 * frame.lineWidth, context.controlHeight())};
 }
 
-namespace {
-
-bool isEditorOfOther(const QWidget* widget)
+/// The text of an editor that is a part of another input begins where that of a line edit does.
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base)
 {
-    const QWidget* parent = widget ? widget->parentWidget() : nullptr;
-    return qobject_cast<const QComboBox*>(parent) || qobject_cast<const QAbstractSpinBox*>(parent);
+    using namespace InputMetrics;
+    const int padding = context.measure().dpiScaled(TextPadding);
+    const int inComboBox = padding - EditorInComboBox;
+    const int inSpinBox = padding - EditorInSpinBox;
+    const QAbstractSpinBox* spinBox = spinBoxOf(context.widget);
+    if (isInComboBox(context.widget)
+        || (spinBox && spinBox->hasFrame() && WidgetTraits::isCalendarPopupEditor(spinBox)))
+        return base.adjusted(inComboBox, 0, -inComboBox, 0);
+    if (!spinBox || !spinBox->hasFrame())
+        return base;
+    return QStyle::visualRect(frame.direction, base,
+                              base.adjusted(inSpinBox, 0, BeforeButtons - inSpinBox, 0));
 }
+
+namespace {
 
 /// An editable combo box, or a date edit that looks like one: its frame meets the arrow's panel.
 bool isComboBox(const QWidget* widget)
@@ -143,7 +143,7 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
 
 void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame)
 {
-    if (isEditorOfOther(context.widget))
+    if (isInComboBox(context.widget) || spinBoxOf(context.widget))
         return;
     const QBrush fill = background(context, inputBackground(context));
     if (frame.lineWidth <= 0) {

@@ -13,7 +13,6 @@ namespace BRELK::Menus {
 
 namespace {
 
-constexpr int PanelBorder = 1;
 constexpr int PanelMargin = 4;
 constexpr int RowPadding = 5;
 constexpr int SeparatorHeight = 9;
@@ -21,27 +20,14 @@ constexpr int ItemPadding = 8;
 constexpr int MarkSize = 16;
 constexpr int ArrowSize = 16;
 constexpr int ShortcutSpacing = 24; ///< between a text and the shortcuts
-constexpr int ScrollerHeight = 20;
-constexpr int TearoffHeight = 12;
 constexpr int BarItemPadding = 8;
 constexpr int BarRowPadding = 4;
-constexpr int BarMargin = 2;
 
 } // namespace
 
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
+int panelMargin(const MeasureContext& context)
 {
-    switch (metric) {
-    // The panel has the border in it; a frame besides would be drawn over it.
-    case QStyle::PM_MenuHMargin: return PanelBorder;
-    case QStyle::PM_MenuVMargin: return PanelBorder + context.dpiScaled(PanelMargin);
-    case QStyle::PM_MenuScrollerHeight: return context.dpiScaled(ScrollerHeight);
-    case QStyle::PM_MenuTearoffHeight: return context.dpiScaled(TearoffHeight);
-    case QStyle::PM_MenuBarHMargin:
-    case QStyle::PM_MenuBarVMargin: return context.dpiScaled(BarMargin);
-    case QStyle::PM_SubMenuOverlap: return -1;
-    default: return 0;
-    }
+    return context.metric(QStyle::PM_MenuHMargin) + context.dpiScaled(PanelMargin);
 }
 
 namespace {
@@ -213,7 +199,8 @@ void paintPanel(const PaintContext& context)
     const PainterSaver saver(context.painter);
     const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
     const QBrush fill = ThemeResources::getBrush(ThemeNames::BackgroundSubLevel1Brush);
-    qDrawPlainRect(&context.painter, context.option.rect, border, PanelBorder, &fill);
+    qDrawPlainRect(&context.painter, context.option.rect, border,
+                   context.metric(QStyle::PM_MenuHMargin), &fill);
 }
 
 void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)

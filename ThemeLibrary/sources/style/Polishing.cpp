@@ -1,6 +1,5 @@
 #include "BaseStyle.h"
 #include "ComboBoxDefaultItemDelegate.h"
-#include "Families.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
 #include "WidgetProperties.h"
@@ -13,7 +12,6 @@
 #include <QDockWidget>
 #include <QLCDNumber>
 #include <QLayout>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QPixmap>
 #include <QProgressBar>
@@ -325,11 +323,6 @@ void calmWeekends(BaseStyle&, QWidget& widget)
     }
 }
 
-void placeText(BaseStyle& style, QWidget& widget)
-{
-    LineEdits::placeText(style, as<QLineEdit>(widget));
-}
-
 void watch(BaseStyle& style, QWidget& widget)
 {
     widget.installEventFilter(&style);
@@ -388,7 +381,6 @@ constexpr PolishRule Rules[] = {
     {has<Properties::PillFont>,        setPillFont},
     {WidgetTraits::isPeriodicTable,    dressPeriodicTable},
     {WidgetTraits::isRangeSlider,      dressRangeSlider},
-    {is<QLineEdit>,                    placeText},
     {is<QCommandLinkButton>,           watch},
     {hasNoShadow,                      castShadow},
     {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},

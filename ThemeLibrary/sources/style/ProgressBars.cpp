@@ -18,11 +18,6 @@ constexpr int TextPadding = 2;
 
 } // namespace
 
-int metric(QStyle::PixelMetric, const MeasureContext&)
-{
-    return 1; // the bar grows by the pixel
-}
-
 QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressBar& bar,
                       const QSize&, const QSize& base)
 {

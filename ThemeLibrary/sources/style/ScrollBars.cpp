@@ -15,9 +15,6 @@ namespace BRELK::ScrollBars {
 
 namespace {
 
-constexpr int Extent = 14;
-constexpr int SmallestSlider = 32;
-
 int scrollAreaFrameWidth(const QWidget* bar)
 {
     for (const QWidget* widget = bar ? bar->parentWidget() : nullptr; widget;
@@ -42,15 +39,6 @@ QRect minimizedSliderRect(const StyleContext& context, const QStyleOptionSlider&
 }
 
 } // namespace
-
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
-{
-    switch (metric) {
-    case QStyle::PM_ScrollBarExtent: return context.dpiScaled(Extent);
-    case QStyle::PM_ScrollBarSliderMin: return context.dpiScaled(SmallestSlider);
-    default: return 0; // bars touch the view and do not cover it
-    }
-}
 
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
                const BasePart& base)

@@ -14,11 +14,8 @@ namespace BRELK::Sliders {
 
 namespace {
 
-constexpr int HandleLength = 16;
-constexpr int GrooveThickness = 12; ///< the metric; the groove is half of it, less two
 constexpr int CrossSize = 20;
-constexpr int TickLength = 4;
-constexpr int TickRoom = TickLength + 2;
+constexpr int TickDistance = 2; ///< from the handle
 
 int minimumHeight(const QWidget* widget)
 {
@@ -55,28 +52,25 @@ QRect grooveRect(const StyleContext& context, const QStyleOptionSlider& slider)
 
 } // namespace
 
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
+int spaceAvailable(const MeasureContext& context)
 {
-    switch (metric) {
-    case QStyle::PM_SliderThickness: return context.dpiScaled(GrooveThickness);
-    case QStyle::PM_SliderTickmarkOffset: return context.dpiScaled(TickLength);
-    case QStyle::PM_SliderSpaceAvailable:
-        if (const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(context.option)) {
-            const QSize size = slider->rect.size();
-            const int length = context.metric(QStyle::PM_SliderLength);
-            return (slider->orientation == Qt::Horizontal ? size.width() : size.height()) - length;
-        }
+    const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(context.option);
+    if (!slider)
         return 0;
-    default: return context.dpiScaled(HandleLength);
-    }
+    const QSize size = slider->rect.size();
+    return (slider->orientation == Qt::Horizontal ? size.width() : size.height())
+           - context.metric(QStyle::PM_SliderLength);
 }
 
 QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
                  const QSize& /*contents*/, const QSize& base)
 {
     // The handle stays in the middle: ticks on one side take as much room as on both.
-    const int cross = context.dpiScaled(
-        slider.tickPosition == QSlider::NoTicks ? CrossSize : HandleLength + 2 * TickRoom);
+    const int tickRoom =
+        context.metric(QStyle::PM_SliderTickmarkOffset) + context.dpiScaled(TickDistance);
+    const int cross = slider.tickPosition == QSlider::NoTicks
+                          ? context.dpiScaled(CrossSize)
+                          : context.metric(QStyle::PM_SliderLength) + 2 * tickRoom;
     const bool vertical = slider.orientation == Qt::Vertical;
     return base.expandedTo({vertical ? cross : 0, vertical ? 0 : cross});
 }

@@ -15,7 +15,6 @@ namespace {
 
 constexpr int ButtonWidth = 14;
 constexpr int ButtonMargin = 1; ///< between the buttons and the right border
-constexpr int FrameWidth = 4; ///< by which a box is larger than its editor, on either side
 
 bool hasButtons(const QStyleOptionSpinBox& spinBox)
 {
@@ -23,11 +22,6 @@ bool hasButtons(const QStyleOptionSpinBox& spinBox)
 }
 
 } // namespace
-
-int metric(QStyle::PixelMetric, const MeasureContext&)
-{
-    return FrameWidth;
-}
 
 /// As a style sheet sizes them, without asking the style, be it about spin boxes or not.
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,

@@ -1,5 +1,7 @@
 #include "StyleContext.h"
 
+#include "InputMetrics.h"
+
 #include <QApplication>
 
 namespace BRELK {
@@ -8,7 +10,6 @@ namespace {
 
 /// Heights of controls and rows are multiples of this.
 constexpr int Rhythm = 4;
-constexpr int ControlPadding = 5;
 
 } // namespace
 
@@ -33,7 +34,7 @@ int MeasureContext::rowHeight(int padding) const
 
 int MeasureContext::controlHeight() const
 {
-    return rowHeight(ControlPadding);
+    return rowHeight(InputMetrics::ControlPadding);
 }
 
 } // namespace BRELK

@@ -18,11 +18,6 @@ namespace BRELK::Tabs {
 
 namespace {
 
-constexpr int HorizontalSpace = 24; ///< of both sides of a tab together
-constexpr int VerticalSpace = 12; ///< above and below a tab's text together
-constexpr int BaseOverlap = 1;
-constexpr int ScrollButtonWidth = 24;
-constexpr int IconSize = 16;
 constexpr int CloseButtonInset = 2;
 constexpr int SelectedTextGain = 2;
 
@@ -48,25 +43,6 @@ bool isCurrentTabHighlighted(const StyleContext& context)
 }
 
 } // namespace
-
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
-{
-    switch (metric) {
-    case QStyle::PM_TabBarTabHSpace: return context.dpiScaled(HorizontalSpace);
-    case QStyle::PM_TabBarTabVSpace: return context.dpiScaled(VerticalSpace);
-    case QStyle::PM_TabBarBaseOverlap: return BaseOverlap;
-    case QStyle::PM_TabBarScrollButtonWidth: return context.dpiScaled(ScrollButtonWidth);
-    case QStyle::PM_TabBarIconSize:
-    case QStyle::PM_TabCloseIndicatorWidth:
-    case QStyle::PM_TabCloseIndicatorHeight: return context.dpiScaled(IconSize);
-    default: return 0; // tabs stand side by side, on the frame, and do not move when selected
-    }
-}
-
-QSize tabSize(const MeasureContext&, const QStyleOptionTab&, const QSize&, const QSize& base)
-{
-    return base;
-}
 
 QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& frame,
               const QRect& base)
@@ -190,12 +166,12 @@ bool isFirst(const QStyleOptionTab& tab)
 
 /// Tabs that are not selected are a little lower and end at the line that the page begins with.
 /// Neighbours share one border line.
-QRect shapeRect(const QStyleOptionTab& tab, Side side, bool selected)
+QRect shapeRect(const PaintContext& context, const QStyleOptionTab& tab, Side side, bool selected)
 {
     constexpr int Lowering = 2;
     const int overlap = isFirst(tab) ? 0 : 1;
     const int lowering = selected ? 0 : Lowering;
-    const int line = selected ? 0 : BaseOverlap;
+    const int line = selected ? 0 : context.metric(QStyle::PM_TabBarBaseOverlap);
     const int toLeft = tab.direction == Qt::RightToLeft ? 0 : overlap;
     const int toRight = overlap - toLeft;
     switch (side) {
@@ -286,7 +262,7 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
     const QBrush border =
         highlighted ? context.brush(ThemeNames::TabBorderMouseOverBrush) : context.borderBrush();
     const Side side = sideOf(tab.shape);
-    const QRect rect = shapeRect(tab, side, selected);
+    const QRect rect = shapeRect(context, tab, side, selected);
 
     if (isTriangular(tab.shape)) {
         const PainterSaver saver(context.painter);

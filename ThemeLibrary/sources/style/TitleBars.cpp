@@ -9,33 +9,7 @@
 
 namespace BRELK::TitleBars {
 
-namespace {
-
-constexpr int RowPadding = 5;
-constexpr int IconSize = 16;
-constexpr int ButtonSize = 24;
-constexpr int DockTitleMargin = 6;
-constexpr int DockButtonMargin = 4;
-constexpr int SeparatorExtent = 4;
-constexpr int HandleExtent = 8;
-constexpr int MinimizedWidth = 196;
-
-} // namespace
-
-int metric(QStyle::PixelMetric metric, const MeasureContext& context)
-{
-    switch (metric) {
-    case QStyle::PM_TitleBarHeight: return context.rowHeight(RowPadding);
-    case QStyle::PM_TitleBarButtonIconSize: return context.dpiScaled(IconSize);
-    case QStyle::PM_TitleBarButtonSize: return context.dpiScaled(ButtonSize);
-    case QStyle::PM_DockWidgetTitleMargin: return context.dpiScaled(DockTitleMargin);
-    case QStyle::PM_DockWidgetTitleBarButtonMargin: return context.dpiScaled(DockButtonMargin);
-    case QStyle::PM_DockWidgetSeparatorExtent: return context.dpiScaled(SeparatorExtent);
-    case QStyle::PM_DockWidgetHandleExtent: return context.dpiScaled(HandleExtent);
-    case QStyle::PM_MdiSubWindowMinimizedWidth: return context.dpiScaled(MinimizedWidth);
-    default: return 1; // frames of one pixel
-    }
-}
+namespace { } // namespace
 
 namespace {
 
@@ -188,8 +162,9 @@ void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& d
     if (dock.verticalTitleBar) {
         Shapes::drawLine(context, dock.rect.topRight(), dock.rect.bottomRight(),
                          context.borderBrush());
-        text = turnUpright(context.painter, dock.rect).adjusted(DockTitleMargin, 0, 0, 0);
-        text.setWidth(context.part(QStyle::SE_DockWidgetTitleBarText).height() - DockTitleMargin);
+        const int margin = context.metric(QStyle::PM_DockWidgetTitleMargin);
+        text = turnUpright(context.painter, dock.rect).adjusted(margin, 0, 0, 0);
+        text.setWidth(context.part(QStyle::SE_DockWidgetTitleBarText).height() - margin);
     } else {
         Shapes::drawLine(context, dock.rect.bottomLeft(), dock.rect.bottomRight(),
                          context.borderBrush());
@@ -267,8 +242,8 @@ void BaseStyle::drawTitleBarButton(QPainter* painter, const QStyleOptionTitleBar
     const QBrush foreground = buttonBrushes(&button, widget).foregroundBrush;
     const QIcon given = standardIcon(icon, nullptr, widget);
     const QIcon colored = ThemeColorHelper::getModifiedIconWithForegroundBrush(given, foreground);
-    QPixmap pixmap =
-        Shapes::iconPixmap(*painter, colored, {TitleBars::IconSize, TitleBars::IconSize});
+    const int size = proxy()->pixelMetric(PM_TitleBarButtonIconSize, option, widget);
+    QPixmap pixmap = Shapes::iconPixmap(*painter, colored, {size, size});
     if (TitleBars::isToolkitIcon(icon) && !pixmap.isNull()) {
         QPainter tint(&pixmap);
         tint.setCompositionMode(QPainter::CompositionMode_SourceIn);
