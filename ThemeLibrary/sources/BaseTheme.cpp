@@ -2,10 +2,10 @@
 
 #include "BaseStyle.h"
 #include "BaseTheme_p.h"
-#include "EmbeddedIcons.h"
 #include "QPaletteReader.h"
 #include "ThemeColorHelper.h"
 #include "ThemeConfigurationReader.h"
+#include "ThemeDocument.h"
 #include "ThemeResources.h"
 
 #include <QApplication>
@@ -113,12 +113,22 @@ void useIcons(const QString& themePath, const QString& themeName)
         log(QStringLiteral("Icons need Qt's SVG plugins, which are not installed"));
 }
 
+/// The folder of a theme's images: its name, unless that leads elsewhere.
+QString imagesName(const QString& themePath, const QString& name)
+{
+    if (name.isEmpty() || isThemeName(name))
+        return name;
+    log(themePath + QLatin1String("/theme.xml: name: ") + quoted(name)
+        + QLatin1String(" leads out of the theme; that of its directory is used"));
+    return QFileInfo(themePath).fileName();
+}
+
 void addSearchPaths(const QString& imagesPath, const QString& scalablePath)
 {
     QDir::addSearchPath(ThemeResources::iconsPrefix(), scalablePath);
     QDir::addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
     // Deliberate: lower case, so this is not the embedded folder but the place that theme bundles
-    // add icons to, and the library's own come after.
+    // add icons to.
     QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << QStringLiteral(":/icons"));
     QDir::addSearchPath(ThemeResources::cursorsPrefix(), imagesPath + QLatin1String("/Cursors"));
     QDir::addSearchPath(ThemeResources::cursorsPrefix(), QStringLiteral(":/Cursors"));
@@ -166,23 +176,21 @@ void BaseTheme::customize(QApplication* app)
     app->setProperty(ThemeResources::getThemeVariablePropertyName().data(),
                      themeVariables(configuration));
 
-    QColor foreground = QGuiApplication::palette().color(QPalette::WindowText);
     if (!qEnvironmentVariableIsSet("BRELK_USE_NATIVE_STYLE")) {
         if (mapping.getStatus() != QPaletteReader::NO_ERROR)
             log(QLatin1String("Error reading theme QPalette mapping file: ") + mappingPath);
         QPalette palette = mapping.deserialize();
         deriveDisabledGroup(palette);
-        foreground = palette.color(QPalette::WindowText);
         installStyle(palette);
         installStyleSheets(*app);
     }
 
     QApplication::setFont(configuration.getFont().getFont(ThemeFont::BASE_FONT));
-    useIcons(m_themePath, getName());
-    const QString imagesPath = m_themePath + QLatin1String("/Images/") + getName();
+    const QString name = imagesName(m_themePath, getName());
+    useIcons(m_themePath, name);
+    const QString imagesPath = m_themePath + QLatin1String("/Images/") + name;
     const QString scalablePath = imagesPath + QLatin1String("/scalable");
     registerBundles(scalablePath);
-    EmbeddedIcons::offerToIconTheme(getName(), foreground);
     addSearchPaths(imagesPath, scalablePath);
 }
 

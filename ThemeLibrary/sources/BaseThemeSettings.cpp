@@ -9,6 +9,7 @@ BaseThemeSettings::BaseThemeSettings(const QString& filePath)
     ThemeFileBudget budget;
     const ThemeDocument document(filePath, budget);
     m_status = Status(document.getStatus());
+    document.reportFailure();
     m_document = document.getContent();
     m_themeRootNode = m_document.firstChildElement(QStringLiteral("theme"));
 }

@@ -8,17 +8,7 @@ namespace BRELK {
 
 namespace {
 
-constexpr int LargestPercentage = 1000;
 constexpr double LargestCoordinate = 10;
-
-QColor literalColor(const QString& text)
-{
-    // Qt reads more forms than these; their digits would be easily misread.
-    const bool isCode = text.startsWith(u'#');
-    if (isCode && text.size() != 4 && text.size() != 7 && text.size() != 9)
-        return {};
-    return {text};
-}
 
 QPointF readPoint(const ThemeElement& element, const QString& attribute, const QPointF& missing,
                   bool& ok)
@@ -45,7 +35,7 @@ void addStop(QGradientStops& stops, const ThemeElement& element, const ThemeColo
         element.rejectUnknown();
         return;
     }
-    element.checkTextElement({"offset", "alpha", "lighter", "darker"});
+    element.checkTextElement({"offset"}, derivationAttributes());
     bool ok = true;
     const double offset =
         element.readNumber(element.getAttribute(QStringLiteral("offset")), 0, 1, ok);
@@ -63,33 +53,6 @@ void addStop(QGradientStops& stops, const ThemeElement& element, const ThemeColo
 
 } // namespace
 
-QColor readColor(const ThemeElement& element, const ThemeColors& colors, bool& ok)
-{
-    const QString text = element.getText();
-    const auto named = colors.find(text);
-    QColor color = named == colors.end() ? literalColor(text) : *named;
-    if (!color.isValid()) {
-        element.reject(quoted(text)
-                       + QLatin1String(" is neither a color of the theme nor a color value"));
-        ok = false;
-    }
-    const auto has = [&element, &ok](const char* name) {
-        return ok && element.hasAttribute(QLatin1String(name));
-    };
-    const auto percentage = [&element, &ok](const char* name) {
-        return element.readInteger(element.getAttribute(QLatin1String(name)), 1, LargestPercentage,
-                                   ok);
-    };
-    if (has("lighter"))
-        color = color.lighter(percentage("lighter"));
-    if (has("darker"))
-        color = color.darker(percentage("darker"));
-    if (has("alpha"))
-        color.setAlphaF(
-            element.readNumber(element.getAttribute(QStringLiteral("alpha")), 0, 1, ok));
-    return ok ? color : QColor();
-}
-
 const BrushReader* BrushReader::forTag(const QString& tag)
 {
     static const SolidBrushReader sSolid;
@@ -103,7 +66,7 @@ const BrushReader* BrushReader::forTag(const QString& tag)
 QBrush SolidBrushReader::readBrush(const ThemeElement& element, const ThemeColors& colors,
                                    bool& ok) const
 {
-    element.checkTextElement({"name", "internal", "alpha", "lighter", "darker"});
+    element.checkTextElement({"name", "internal"}, derivationAttributes());
     const QColor color = readColor(element, colors, ok);
     return ok ? QBrush(color) : QBrush();
 }

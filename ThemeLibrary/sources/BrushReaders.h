@@ -1,20 +1,10 @@
 #pragma once
 
-#include "ThemeDocument.h"
+#include "ColorDerivations.h"
 
 #include <QBrush>
-#include <QColor>
-#include <QHash>
 
 namespace BRELK {
-
-/// Colors of a theme by name.
-using ThemeColors = QHash<QString, QColor>;
-
-/// The color that the text of `element` names, one of `colors` or a literal one, modified by the
-/// attributes "lighter", "darker" and "alpha". `ok` becomes false, and the reason is reported, when
-/// there is none.
-QColor readColor(const ThemeElement& element, const ThemeColors& colors, bool& ok);
 
 /// Reads one kind of brush element.
 class BrushReader

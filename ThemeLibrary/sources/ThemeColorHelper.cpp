@@ -1,6 +1,6 @@
 #include "ThemeColorHelper.h"
 
-#include "EmbeddedIcons.h"
+#include "ColorDerivations.h"
 #include "Helpers.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
@@ -14,21 +14,6 @@ namespace BRELK::ThemeColorHelper {
 
 namespace {
 
-/// Brighter colors than this, of 255, are darkened when disabled.
-constexpr int LargestDarkBrightness = 130;
-
-/// Icons of desktop names are offered in the theme's foreground, and never have dots in their name.
-QIcon inReferenceColor(const QIcon& icon)
-{
-    const QString name = icon.name();
-    const QColor offered = EmbeddedIcons::offeredColor();
-    if (name.isEmpty() || name.contains(QLatin1Char('.'))
-        || offered == QColor(EmbeddedIcons::ReferenceColor))
-        return icon;
-    return Helpers::getModifiedIconWithForegroundBrush(
-        icon, offered, QColor(EmbeddedIcons::ReferenceColor), false);
-}
-
 QIcon themedOrRecolored(const QIcon& icon, const QBrush& brush)
 {
     QString brushName = ThemeResources::getBrushKey(brush);
@@ -41,9 +26,9 @@ QIcon themedOrRecolored(const QIcon& icon, const QBrush& brush)
     if (!themed.isNull() && themed.name() == themedName)
         return themed;
 
-    const QColor reference(EmbeddedIcons::ReferenceColor);
+    const QColor reference(0xE5, 0xEE, 0xF4);
     return Helpers::getModifiedIconWithForegroundBrush(
-        inReferenceColor(icon), reference, brush, brushName.contains(ThemeNames::Disabled.text));
+        icon, reference, brush, brushName.contains(ThemeNames::Disabled.text));
 }
 
 struct IconInBrush
@@ -110,9 +95,8 @@ QColor disabled(const QColor& color, bool foreground)
     static const int sDarkBackgroundFactor =
         ThemeResources::getDisabledFactor(ThemeNames::DarkBackgroundFactor);
 
-    if (Helpers::getPerceivedBrightness(color) > LargestDarkBrightness)
-        return color.darker(foreground ? sLightForegroundFactor : sLightBackgroundFactor);
-    return color.lighter(foreground ? sDarkForegroundFactor : sDarkBackgroundFactor);
+    return foreground ? disabledBy(color, sLightForegroundFactor, sDarkForegroundFactor)
+                      : disabledBy(color, sLightBackgroundFactor, sDarkBackgroundFactor);
 }
 
 QIcon getModifiedIconWithForegroundBrush(QIcon icon, QBrush brush)

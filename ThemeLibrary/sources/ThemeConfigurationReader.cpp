@@ -15,6 +15,19 @@
 
 namespace BRELK {
 
+/// What the files of a theme define, before any of it is evaluated.
+struct ThemeDefinitions
+{
+    ThemeEntries factors;
+    ThemeEntries colors;
+    ThemeEntries disabledColors;
+    ThemeEntries brushes;
+    ThemeEntries opacities;
+    ThemeEntries radii;
+    ThemeEntries fontSettings;
+    QStringList families;
+};
+
 namespace {
 
 /// Bounds on what a hostile file can make of patterns of names.
@@ -55,18 +68,6 @@ constexpr Weight Weights[] = {
     {"Thin", QFont::Thin},     {"ExtraLight", QFont::ExtraLight}, {"Light", QFont::Light},
     {"Normal", QFont::Normal}, {"Medium", QFont::Medium},         {"DemiBold", QFont::DemiBold},
     {"Bold", QFont::Bold},     {"ExtraBold", QFont::ExtraBold},   {"Black", QFont::Black}};
-
-/// What the files of a theme define, before any of it is evaluated.
-struct Definitions
-{
-    ThemeEntries factors;
-    ThemeEntries colors;
-    ThemeEntries brushes;
-    ThemeEntries opacities;
-    ThemeEntries radii;
-    ThemeEntries fontSettings;
-    QStringList families;
-};
 
 bool isName(const QString& name)
 {
@@ -129,7 +130,18 @@ void collectBrushes(ThemeEntries& entries, const ThemeElement& list, int level)
     }
 }
 
-void collectPalette(Definitions& definitions, const ThemeElement& palette, int level)
+/// How the theme derives the disabled forms of a group of colors.
+void collectDisabled(ThemeEntries& entries, const ThemeElement& element, int level)
+{
+    const QString of = element.getAttribute(QStringLiteral("of"));
+    element.checkTextElement({"of"}, derivationAttributes());
+    if (of == QLatin1String("foreground") || of == QLatin1String("background"))
+        entries.add(of, {element, level});
+    else
+        element.reject(quoted(of) + QLatin1String(" for of is neither foreground nor background"));
+}
+
+void collectPalette(ThemeDefinitions& definitions, const ThemeElement& palette, int level)
 {
     palette.checkAttributes({});
     for (const ThemeElement& list : palette.getChildren()) {
@@ -137,12 +149,14 @@ void collectPalette(Definitions& definitions, const ThemeElement& palette, int l
             collectNamed(definitions.colors, list, "Color", level);
         else if (list.getTag() == QLatin1String("BrushesList"))
             collectBrushes(definitions.brushes, list, level);
+        else if (list.getTag() == QLatin1String("DisabledColor"))
+            collectDisabled(definitions.disabledColors, list, level);
         else
             list.rejectUnknown();
     }
 }
 
-void collectFont(Definitions& definitions, const ThemeElement& font, int level)
+void collectFont(ThemeDefinitions& definitions, const ThemeElement& font, int level)
 {
     font.checkAttributes({});
     QStringList families;
@@ -178,7 +192,7 @@ void collectRadii(ThemeEntries& entries, const ThemeElement& list, int level)
     }
 }
 
-void collect(Definitions& definitions, const ThemeDocument& document, int level)
+void collect(ThemeDefinitions& definitions, const ThemeDocument& document, int level)
 {
     const ThemeElement root = document.getRoot();
     root.checkAttributes({"extends"});
@@ -234,11 +248,11 @@ double toHalfPoint(double size)
 
 } // namespace
 
-ThemeConfigurationReader::ThemeConfigurationReader(const QString& path)
+ThemeConfigurationReader::ThemeConfigurationReader(const QString& path, DisabledColor disabled)
 {
     const ThemeDocuments documents = readThemeDocuments(path, QStringLiteral("Config"));
     m_status = Status(documents.front()->getStatus());
-    Definitions definitions;
+    ThemeDefinitions definitions;
     if (m_status == NO_ERROR) {
         for (size_t level = 0; level < documents.size(); ++level)
             collect(definitions, *documents.at(level), int(level));
@@ -248,7 +262,7 @@ ThemeConfigurationReader::ThemeConfigurationReader(const QString& path)
     readFont(definitions.fontSettings, definitions.families);
     // Disabled colors depend on the factors, so these come first.
     readDisabledFactors(definitions.factors);
-    readPalette(definitions.colors, definitions.brushes);
+    readPalette(definitions, disabled);
 }
 
 void ThemeConfigurationReader::readDisabledFactors(const ThemeEntries& entries)
@@ -270,16 +284,19 @@ void ThemeConfigurationReader::readDisabledFactors(const ThemeEntries& entries)
                          QVariantMap{{ThemeResources::getDisabledFactorsVarPrefix(), factors}});
 }
 
-void ThemeConfigurationReader::readPalette(ThemeEntries& colors, ThemeEntries& brushes)
+void ThemeConfigurationReader::readPalette(ThemeDefinitions& definitions,
+                                           const DisabledColor& disabled)
 {
-    colors.addTwins();
-    ThemeColorResolver colorResolver(colors);
+    const DisabledColors disabledColors(definitions.disabledColors, disabled);
+    definitions.colors.addTwins();
+    ThemeColorResolver colorResolver(definitions.colors, disabledColors);
     colorResolver.resolve();
     m_colors = colorResolver.getColors(false);
     m_internalColors = colorResolver.getColors(true);
 
-    brushes.addTwins();
-    ThemeBrushResolver brushResolver(brushes, colorResolver.getColors());
+    definitions.brushes.addTwins();
+    ThemeBrushResolver brushResolver(definitions.brushes, colorResolver.getColors(),
+                                     disabledColors);
     brushResolver.resolve();
     m_brushes = brushResolver.getBrushes(false);
     m_internalBrushes = brushResolver.getBrushes(true);

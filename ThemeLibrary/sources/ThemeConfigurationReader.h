@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ColorDerivations.h"
+#include "ThemeColorHelper.h"
 #include "ThemeFont.h"
 
 #include <QBrush>
@@ -10,6 +12,7 @@
 namespace BRELK {
 
 class ThemeEntries;
+struct ThemeDefinitions;
 
 /// Reads a theme's `config.xml`, and those of the themes that it extends. See docs/theme-format.md
 /// for the format.
@@ -21,7 +24,9 @@ class ThemeConfigurationReader
 public:
     enum Status : unsigned { NO_ERROR = 0, FILE_NOT_FOUND_ERROR = 1, READ_ERROR = 2 };
 
-    explicit ThemeConfigurationReader(const QString& path);
+    /// Disabled colors that the theme does not derive itself are made by `disabled`.
+    explicit ThemeConfigurationReader(const QString& path,
+                                      DisabledColor disabled = &ThemeColorHelper::disabled);
 
     /// Not `NO_ERROR` only when the file itself cannot be opened or is not well-formed.
     Status getStatus() const { return m_status; }
@@ -44,7 +49,7 @@ public:
 
 private:
     void readDisabledFactors(const ThemeEntries& entries);
-    void readPalette(ThemeEntries& colors, ThemeEntries& brushes);
+    void readPalette(ThemeDefinitions& definitions, const DisabledColor& disabled);
     void readOpacities(const ThemeEntries& entries);
     void readCornerRadius(const ThemeEntries& entries);
     void readFont(const ThemeEntries& settings, const QStringList& families);

@@ -1,12 +1,12 @@
 #include "ThemeConfigurationReader_p.h"
 
-#include "ThemeColorHelper.h"
 #include "ThemeNames.h"
 
 #include <QGradient>
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace BRELK {
 
@@ -18,24 +18,67 @@ bool isForeground(const QString& name)
            || name.contains(QLatin1String("Link"));
 }
 
-QBrush disabledBrush(const QBrush& brush, bool foreground)
-{
-    if (!brush.gradient())
-        return ThemeColorHelper::disabled(brush.color(), foreground);
-    QGradient gradient = *brush.gradient();
-    QGradientStops stops = gradient.stops();
-    for (QGradientStop& stop : stops)
-        stop.second = ThemeColorHelper::disabled(stop.second, foreground);
-    gradient.setStops(stops);
-    return gradient;
-}
-
 bool isAlias(const ThemeElement& element)
 {
     return element.getTag() == QLatin1String("Brush");
 }
 
 } // namespace
+
+DisabledColors::DisabledColors(const ThemeEntries& rules, DisabledColor byFactors)
+    : m_byFactors(std::move(byFactors))
+{
+    const auto take = [&rules](Rule& rule, const QString& of) {
+        const ThemeEntries::Definitions& definitions = rules.getDefinitions(of);
+        // Without derivation it says that the factors count again.
+        if (definitions.isEmpty() || !hasDerivation(definitions.first().element))
+            return;
+        rule.element = &definitions.first().element;
+        rule.named = namedColors(*rule.element).mid(1);
+    };
+    take(m_foreground, QStringLiteral("foreground"));
+    take(m_background, QStringLiteral("background"));
+}
+
+DisabledColors::Rule& DisabledColors::ruleOf(const QString& name) const
+{
+    return isForeground(name) ? m_foreground : m_background;
+}
+
+const QStringList& DisabledColors::getNamedColors(const QString& name) const
+{
+    return ruleOf(name).named;
+}
+
+QColor DisabledColors::derived(const QColor& color, const QString& name,
+                               const ThemeColors& colors) const
+{
+    Rule& rule = ruleOf(name);
+    if (!rule.element)
+        return m_byFactors(color, isForeground(name));
+    const auto known = rule.derived.constFind(color.rgba());
+    if (known != rule.derived.constEnd())
+        return *known;
+    bool ok = true;
+    QColor result = derivedColor(*rule.element, color, colors, ok);
+    if (!ok)
+        result = m_byFactors(color, isForeground(name));
+    rule.derived.insert(color.rgba(), result);
+    return result;
+}
+
+QBrush DisabledColors::derived(const QBrush& brush, const QString& name,
+                               const ThemeColors& colors) const
+{
+    if (!brush.gradient())
+        return derived(brush.color(), name, colors);
+    QGradient gradient = *brush.gradient();
+    QGradientStops stops = gradient.stops();
+    for (QGradientStop& stop : stops)
+        stop.second = derived(stop.second, name, colors);
+    gradient.setStops(stops);
+    return gradient;
+}
 
 ThemeResolver::ThemeResolver(const ThemeEntries& entries) : m_entries(entries)
 {
@@ -57,6 +100,12 @@ QString ThemeResolver::unsettled(const QString& name) const
 {
     const auto node = m_nodes.constFind(name);
     return node == m_nodes.constEnd() || node->settled ? QString() : name;
+}
+
+bool ThemeResolver::isInternal(const QString& name) const
+{
+    const auto node = m_nodes.constFind(name);
+    return node != m_nodes.constEnd() && node->internal;
 }
 
 void ThemeResolver::push(Node& node)
@@ -115,6 +164,10 @@ void ThemeResolver::breakCycle(Node& node)
         m_stack.takeLast()->waiting = false;
 }
 
+ThemeColorResolver::ThemeColorResolver(const ThemeEntries& entries, const DisabledColors& disabled)
+    : ThemeResolver(entries), m_disabled(disabled)
+{ }
+
 QMap<QString, QColor> ThemeColorResolver::getColors(bool internal) const
 {
     QMap<QString, QColor> colors;
@@ -125,20 +178,32 @@ QMap<QString, QColor> ThemeColorResolver::getColors(bool internal) const
     return colors;
 }
 
+QString ThemeColorResolver::firstUnsettled(const QString& name, const QStringList& named) const
+{
+    for (const QString& other : named) {
+        // A color may be called like the literal color that it is.
+        const QString next =
+            other == name && QColor::isValidColor(other) ? QString() : unsettled(other);
+        if (!next.isEmpty())
+            return next;
+    }
+    return {};
+}
+
 QString ThemeColorResolver::getDependency(const QString& name, const ThemeEntry& entry) const
 {
-    if (!entry.twinOf.isEmpty())
-        return unsettled(entry.twinOf);
-    const QString text = entry.element.getText();
-    // A color may be called like the literal color that it is.
-    return text == name && QColor::isValidColor(text) ? QString() : unsettled(text);
+    if (entry.twinOf.isEmpty())
+        return firstUnsettled(name, namedColors(entry.element));
+    const QString original = unsettled(entry.twinOf);
+    return original.isEmpty() ? firstUnsettled(name, m_disabled.getNamedColors(entry.twinOf))
+                              : original;
 }
 
 bool ThemeColorResolver::evaluate(const QString& name, const ThemeEntry& entry)
 {
     bool ok = true;
     if (entry.twinOf.isEmpty()) {
-        entry.element.checkTextElement({"name", "internal", "alpha", "lighter", "darker"});
+        entry.element.checkTextElement({"name", "internal"}, derivationAttributes());
         const QColor color = readColor(entry.element, m_colors, ok);
         if (ok)
             m_colors.insert(name, color);
@@ -147,12 +212,14 @@ bool ThemeColorResolver::evaluate(const QString& name, const ThemeEntry& entry)
     const auto original = m_colors.constFind(entry.twinOf);
     if (original == m_colors.constEnd())
         return false;
-    m_colors.insert(name, ThemeColorHelper::disabled(*original, isForeground(entry.twinOf)));
+    const QColor color = m_disabled.derived(*original, entry.twinOf, m_colors);
+    m_colors.insert(name, color);
     return true;
 }
 
-ThemeBrushResolver::ThemeBrushResolver(const ThemeEntries& entries, const ThemeColors& colors)
-    : ThemeResolver(entries), m_colors(colors)
+ThemeBrushResolver::ThemeBrushResolver(const ThemeEntries& entries, const ThemeColors& colors,
+                                       const DisabledColors& disabled)
+    : ThemeResolver(entries), m_colors(colors), m_disabled(disabled)
 { }
 
 bool ThemeBrushResolver::isBrush(const QString& tag)
@@ -175,22 +242,18 @@ QString ThemeBrushResolver::getDependency(const QString& name, const ThemeEntry&
     Q_UNUSED(name)
     if (!entry.twinOf.isEmpty()) {
         const QString original = unsettled(entry.twinOf);
-        return original.isEmpty() ? unsettled(findTwin(entry)) : original;
+        return original.isEmpty() ? unsettled(m_namedTwins.value(entry.twinOf)) : original;
     }
     return isAlias(entry.element) ? unsettled(entry.element.getText()) : QString();
 }
 
-/// The twin, written in a file, of a brush that the original of the twin `entry` names.
-QString ThemeBrushResolver::findTwin(const ThemeEntry& entry) const
+/// The brush `name` is `named` under another name.
+void ThemeBrushResolver::nameTwin(const QString& name, const QString& named)
 {
-    for (QString named = m_namedBrushes.value(entry.twinOf); !named.isEmpty();
-         named = m_namedBrushes.value(named)) {
-        const ThemeEntries::Definitions twins =
-            getEntries().getDefinitions(ThemeNames::twin(named));
-        if (!twins.isEmpty() && twins.first().twinOf.isEmpty())
-            return ThemeNames::twin(named);
-    }
-    return {};
+    const QString twin = ThemeNames::twin(named);
+    const ThemeEntries::Definitions& definitions = getEntries().getDefinitions(twin);
+    const bool isWritten = !definitions.isEmpty() && definitions.first().twinOf.isEmpty();
+    m_namedTwins.insert(name, isWritten ? twin : m_namedTwins.value(named));
 }
 
 bool ThemeBrushResolver::evaluate(const QString& name, const ThemeEntry& entry)
@@ -198,18 +261,18 @@ bool ThemeBrushResolver::evaluate(const QString& name, const ThemeEntry& entry)
     bool ok = true;
     QBrush brush;
     if (!entry.twinOf.isEmpty()) {
-        const QString twin = findTwin(entry);
+        const QString twin = m_namedTwins.value(entry.twinOf);
         ok = m_brushes.contains(entry.twinOf);
         brush = m_brushes.contains(twin)
                     ? m_brushes.value(twin)
-                    : disabledBrush(m_brushes.value(entry.twinOf), isForeground(entry.twinOf));
+                    : m_disabled.derived(m_brushes.value(entry.twinOf), entry.twinOf, m_colors);
     } else if (isAlias(entry.element)) {
         const QString named = entry.element.getText();
         entry.element.checkTextElement({"name", "internal"});
         ok = m_brushes.contains(named);
         brush = m_brushes.value(named);
         if (ok)
-            m_namedBrushes.insert(name, named);
+            nameTwin(name, named);
         else
             entry.element.reject(quoted(named) + QStringLiteral(" is no brush of the theme"));
     } else {

@@ -10,6 +10,37 @@
 
 namespace BRELK {
 
+/// Makes the disabled forms of colors: as the theme says, and where it says nothing, by factors.
+class DisabledColors
+{
+public:
+    /// `rules` holds the elements "DisabledColor" by what they are of, "foreground" or
+    /// "background", and must outlive this.
+    DisabledColors(const ThemeEntries& rules, DisabledColor byFactors);
+
+    /// The colors that have to be known before those called `name` can be derived.
+    const QStringList& getNamedColors(const QString& name) const;
+
+    /// The disabled form of `color`, which the theme calls `name`.
+    QColor derived(const QColor& color, const QString& name, const ThemeColors& colors) const;
+
+    QBrush derived(const QBrush& brush, const QString& name, const ThemeColors& colors) const;
+
+private:
+    struct Rule
+    {
+        const ThemeElement* element = nullptr;
+        QStringList named;
+        QHash<QRgb, QColor> derived;
+    };
+
+    Rule& ruleOf(const QString& name) const;
+
+    mutable Rule m_foreground;
+    mutable Rule m_background;
+    DisabledColor m_byFactors;
+};
+
 /// Resolves entries that name one another, in whatever order they stand and however long the chain.
 /// Where a definition is bad, the next one of the same name counts.
 class ThemeResolver
@@ -30,7 +61,7 @@ protected:
     QString unsettled(const QString& name) const;
 
     /// Whether the entry `name` is internal; asked of resolved ones.
-    bool isInternal(const QString& name) const { return m_nodes.value(name).internal; }
+    bool isInternal(const QString& name) const;
 
     /// An entry that has to be resolved before `entry` can be evaluated; empty when there is none
     /// left.
@@ -66,7 +97,7 @@ private:
 class ThemeColorResolver : public ThemeResolver
 {
 public:
-    using ThemeResolver::ThemeResolver;
+    ThemeColorResolver(const ThemeEntries& entries, const DisabledColors& disabled);
 
     const ThemeColors& getColors() const { return m_colors; }
 
@@ -75,7 +106,9 @@ public:
 private:
     QString getDependency(const QString& name, const ThemeEntry& entry) const override;
     bool evaluate(const QString& name, const ThemeEntry& entry) override;
+    QString firstUnsettled(const QString& name, const QStringList& named) const;
 
+    const DisabledColors& m_disabled;
     ThemeColors m_colors;
 };
 
@@ -83,7 +116,8 @@ private:
 class ThemeBrushResolver : public ThemeResolver
 {
 public:
-    ThemeBrushResolver(const ThemeEntries& entries, const ThemeColors& colors);
+    ThemeBrushResolver(const ThemeEntries& entries, const ThemeColors& colors,
+                       const DisabledColors& disabled);
 
     /// Whether elements with the tag `tag` are brushes.
     static bool isBrush(const QString& tag);
@@ -93,12 +127,14 @@ public:
 private:
     QString getDependency(const QString& name, const ThemeEntry& entry) const override;
     bool evaluate(const QString& name, const ThemeEntry& entry) override;
-    QString findTwin(const ThemeEntry& entry) const;
+    void nameTwin(const QString& name, const QString& named);
 
     const ThemeColors& m_colors;
+    const DisabledColors& m_disabled;
     QHash<QString, QBrush> m_brushes;
-    /// The brush that each resolved "Brush" element names.
-    QHash<QString, QString> m_namedBrushes;
+    /// For each resolved "Brush" element the twin, written in a file, of the nearest brush that it
+    /// names and that has one.
+    QHash<QString, QString> m_namedTwins;
 };
 
 } // namespace BRELK

@@ -19,6 +19,8 @@ constexpr int MaxDepth = 64;
 constexpr int MaxDocuments = 8;
 constexpr int MaxReports = 200;
 constexpr int MaxQuotedLength = 60;
+/// The XML reader's own messages may quote the file at any length.
+constexpr int LongestFailure = 160;
 /// Parsers compare each attribute of a tag with all others of it.
 constexpr int MaxAttributes = 100;
 
@@ -70,25 +72,29 @@ bool hasTooManyAttributes(const QString& text)
     return false;
 }
 
-bool isPlainDoctype(const QXmlStreamReader& reader)
+/// How many characters the token that `reader` is at stands for, which may be many more than are in
+/// the file when it refers to entities.
+int sizeOfToken(const QXmlStreamReader& reader)
 {
-    return reader.dtdSystemId().isEmpty() && reader.dtdPublicId().isEmpty()
-           && !reader.text().contains(u'[');
+    int size = reader.text().size();
+    const QXmlStreamAttributes attributes = reader.attributes();
+    for (const QXmlStreamAttribute& attribute : attributes)
+        size += attribute.value().size();
+    return size;
 }
 
 /// Why the token that `reader` is at must not be given to the document parser; empty when it may.
 QString problemOfToken(const QXmlStreamReader& reader, int& depth, ThemeFileBudget& budget)
 {
+    budget.characters -= sizeOfToken(reader);
+    if (budget.characters < 0)
+        return QStringLiteral("its entities stand for too much text");
     switch (reader.tokenType()) {
     case QXmlStreamReader::StartElement:
         if (++depth > MaxDepth)
             return QStringLiteral("elements are nested too deeply");
         return --budget.elements < 0 ? QStringLiteral("there are too many elements") : QString();
     case QXmlStreamReader::EndElement: --depth; return {};
-    case QXmlStreamReader::DTD:
-        return isPlainDoctype(reader)
-                   ? QString()
-                   : QStringLiteral("document type definitions are not supported");
     default: return {};
     }
 }
@@ -110,9 +116,7 @@ QString problemOfBase(const QString& base, const QStringList& themes)
 {
     if (themes.contains(base))
         return QStringLiteral("extends itself through ") + quoted(base);
-    const bool isName = !base.isEmpty() && base != QLatin1String(".") && base != QLatin1String("..")
-                        && !base.contains(u'/') && !base.contains(u'\\');
-    if (!isName)
+    if (!isThemeName(base))
         return QStringLiteral("extends ") + quoted(base)
                + QStringLiteral(", which is no theme's name");
     if (themes.size() >= MaxDocuments)
@@ -154,7 +158,29 @@ std::unique_ptr<ThemeDocument> readBase(const ThemeElement& root, const QDir& re
     return nullptr;
 }
 
+ThemeProblemRecorder*& currentRecorder()
+{
+    static ThemeProblemRecorder* sRecorder = nullptr;
+    return sRecorder;
+}
+
 } // namespace
+
+ThemeProblemRecorder::ThemeProblemRecorder() : m_outer(currentRecorder())
+{
+    currentRecorder() = this;
+}
+
+ThemeProblemRecorder::~ThemeProblemRecorder()
+{
+    currentRecorder() = m_outer;
+}
+
+bool isThemeName(const QString& name)
+{
+    return !name.isEmpty() && name != QLatin1String(".") && name != QLatin1String("..")
+           && !name.contains(u'/') && !name.contains(u'\\');
+}
 
 QString quoted(const QString& text)
 {
@@ -213,20 +239,27 @@ int ThemeElement::readInteger(const QString& text, int smallest, int largest, bo
     return smallest;
 }
 
-void ThemeElement::checkAttributes(std::initializer_list<const char*> known) const
+ThemeProblem ThemeElement::place() const
+{
+    return {m_document->getPath(), m_element.lineNumber(), m_element.columnNumber(), {}, {}};
+}
+
+void ThemeElement::checkAttributes(std::initializer_list<const char*> known,
+                                   const QStringList& others) const
 {
     const QDomNamedNodeMap attributes = m_element.attributes();
     for (int i = 0; i < attributes.size(); ++i) {
         const QString name = attributes.item(i).nodeName();
         const auto isName = [&name](const char* other) { return name == QLatin1String(other); };
-        if (std::none_of(known.begin(), known.end(), isName))
+        if (std::none_of(known.begin(), known.end(), isName) && !others.contains(name))
             report(QStringLiteral("unknown attribute ") + quoted(name), ignored());
     }
 }
 
-void ThemeElement::checkTextElement(std::initializer_list<const char*> knownAttributes) const
+void ThemeElement::checkTextElement(std::initializer_list<const char*> known,
+                                    const QStringList& others) const
 {
-    checkAttributes(knownAttributes);
+    checkAttributes(known, others);
     for (QDomElement child = m_element.firstChildElement(); !child.isNull();
          child = child.nextSiblingElement())
         ThemeElement(*m_document, child).rejectUnknown();
@@ -239,7 +272,7 @@ void ThemeElement::reject(const QString& problem) const
 
 void ThemeElement::rejectUnknown() const
 {
-    m_document->report(m_element.lineNumber(),
+    m_document->report(m_element.lineNumber(), m_element.columnNumber(),
                        QStringLiteral("unknown element ") + quoted(getTag()), leftOut());
 }
 
@@ -251,7 +284,8 @@ void ThemeElement::report(const QString& what, const QString& done) const
         if (hasAttribute(key))
             subject += QLatin1Char(' ') + quoted(getAttribute(key));
     }
-    m_document->report(m_element.lineNumber(), subject + QStringLiteral(": ") + what, done);
+    m_document->report(m_element.lineNumber(), m_element.columnNumber(),
+                       subject + QStringLiteral(": ") + what, done);
 }
 
 ThemeDocument::ThemeDocument(const QString& path, ThemeFileBudget& budget) : m_path(path)
@@ -297,17 +331,21 @@ void ThemeDocument::fail(int line, const QString& what)
 {
     m_status = READ_ERROR;
     m_failureLine = line;
-    m_failure = what;
+    m_failure = what.simplified().left(LongestFailure);
 }
 
 void ThemeDocument::reportFailure() const
 {
     if (m_status == READ_ERROR)
-        report(m_failureLine, m_failure, QStringLiteral("the file is not used"));
+        report(m_failureLine, 0, m_failure, QStringLiteral("the file is not used"));
 }
 
-void ThemeDocument::report(int line, const QString& what, const QString& done) const
+void ThemeDocument::report(int line, int column, const QString& what, const QString& done) const
 {
+    if (ThemeProblemRecorder* recorder = currentRecorder()) {
+        recorder->m_problems.append({m_path, line, column, what, done});
+        return;
+    }
     const QString place = m_path + QLatin1Char(':') + QString::number(line) + QLatin1String(": ");
     const QString message = place + what + QLatin1String("; ") + done;
     if (m_reports.size() >= MaxReports || m_reports.contains(message))

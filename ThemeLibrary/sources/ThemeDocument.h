@@ -2,7 +2,8 @@
 
 #include <QDomDocument>
 #include <QSet>
-#include <QString>
+#include <QStringList>
+#include <QVector>
 
 #include <initializer_list>
 #include <memory>
@@ -11,6 +12,34 @@
 namespace BRELK {
 
 class ThemeDocument;
+
+/// What is wrong in a theme file, and what was done about it.
+struct ThemeProblem
+{
+    QString file;
+    int line;
+    int column; ///< 0: not known
+    QString what;
+    QString done;
+};
+
+/// While one lives, problems are collected in it and not written to the debug logger. The innermost
+/// one counts.
+class ThemeProblemRecorder
+{
+public:
+    ThemeProblemRecorder();
+    ~ThemeProblemRecorder();
+    Q_DISABLE_COPY(ThemeProblemRecorder)
+
+    const QVector<ThemeProblem>& getProblems() const { return m_problems; }
+
+private:
+    friend class ThemeDocument;
+
+    ThemeProblemRecorder* m_outer;
+    QVector<ThemeProblem> m_problems;
+};
 
 /// An element of a theme file that knows how to report problems with itself. Valid as long as its
 /// document.
@@ -21,8 +50,13 @@ public:
 
     QString getTag() const { return m_element.tagName(); }
 
+    /// Where it stands, for messages.
+    ThemeProblem place() const;
+
     /// The text without the blanks around it.
     QString getText() const;
+
+    int countAttributes() const { return m_element.attributes().size(); }
 
     bool hasAttribute(const QString& name) const { return m_element.hasAttribute(name); }
 
@@ -38,11 +72,13 @@ public:
     /// The same for whole numbers.
     int readInteger(const QString& text, int smallest, int largest, bool& ok) const;
 
-    /// Reports each attribute that is not among `known`.
-    void checkAttributes(std::initializer_list<const char*> known) const;
+    /// Reports each attribute that is neither among `known` nor among `others`.
+    void checkAttributes(std::initializer_list<const char*> known,
+                         const QStringList& others = {}) const;
 
     /// The same for an element that holds only text; elements within it are reported too.
-    void checkTextElement(std::initializer_list<const char*> knownAttributes) const;
+    void checkTextElement(std::initializer_list<const char*> known,
+                          const QStringList& others = {}) const;
 
     /// Reports that this element is left out because of `problem`.
     void reject(const QString& problem) const;
@@ -63,10 +99,11 @@ private:
 struct ThemeFileBudget
 {
     int bytes = 1 << 19;
+    int characters = 1 << 20; ///< of text and attributes, with what entities stand for
     int elements = 10000;
 };
 
-/// A theme file that is safe to walk: of bounded size and depth, free of entities.
+/// A theme file that is safe to walk: of bounded size and depth, whatever its entities stand for.
 class ThemeDocument
 {
 public:
@@ -88,8 +125,10 @@ public:
     /// Reports why the status is `READ_ERROR`, if it is.
     void reportFailure() const;
 
+    QString getPath() const { return m_path; }
+
     /// Writes `file:line: what; done` to the debug logger, the same only once.
-    void report(int line, const QString& what, const QString& done) const;
+    void report(int line, int column, const QString& what, const QString& done) const;
 
 private:
     void parse(const QString& text, ThemeFileBudget& budget);
@@ -110,6 +149,9 @@ using ThemeDocuments = std::vector<std::unique_ptr<ThemeDocument>>;
 /// same name in sibling theme directories. Only the first document's status can differ from
 /// `NO_ERROR`; a base that cannot be read is reported and ends the list.
 ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag);
+
+/// Whether `name` can be that of a theme: it leads nowhere but into a directory of the repository.
+bool isThemeName(const QString& name);
 
 /// `text` as it appears in reports: in quotes, on one line, and of moderate length.
 QString quoted(const QString& text);

@@ -147,9 +147,9 @@ private Q_SLOTS:
     void configurations()
     {
         QByteArray text;
-        for (const char* theme :
-             {"Factors", "Colors", "Base", "Derived", "BadEntries", "BadRoot", "ExtendsItself",
-              "ExtendsNothing", "ExtendsAPath", "Entities", "NotClosed", "Empty", "None"})
+        for (const char* theme : {"Factors", "Colors", "Base", "Derived", "BadEntries", "BadRoot",
+                                  "ExtendsItself", "ExtendsNothing", "ExtendsAPath", "Entities",
+                                  "Derivations", "NotClosed", "Empty", "None"})
             text += QByteArray("# ") + theme + '\n'
                     + readConfiguration(reading(theme) + QLatin1String("/config.xml"));
         COMPARE_TRANSCRIPT("Readers.configurations", text);
@@ -178,7 +178,9 @@ private Q_SLOTS:
     {
         for (const QByteArray& config : QByteArrayList{
                  "<Config>" + QByteArray("<a>").repeated(20000),
-                 "<Config>" + QByteArray(2000000, 'x') + "</Config>", QByteArray(100000, '\0')}) {
+                 "<Config>" + QByteArray(2000000, 'x') + "</Config>", QByteArray(100000, '\0'),
+                 "<!DOCTYPE Config [<!ENTITY a '" + QByteArray(4000, 'x') + "'>]><Config>"
+                     + QByteArray("&a;").repeated(1000) + "</Config>"}) {
             const QByteArrayList lines = read(config).split('\n');
             QVERIFY(lines.at(0).endsWith("; the file is not used"));
             QVERIFY(lines.at(1).startsWith("status"));

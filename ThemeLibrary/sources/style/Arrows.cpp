@@ -1,5 +1,4 @@
 #include "ButtonContent.h"
-#include "EmbeddedIcons.h"
 #include "Families.h"
 #include "Shapes.h"
 #include "WidgetTraits.h"
@@ -13,8 +12,6 @@
 namespace BRELK::Arrows {
 
 namespace {
-
-using EmbeddedIcons::StyleIcon;
 
 constexpr int MenuIndicatorSize = 20; ///< keeps the arrow off border and focus mark
 constexpr int IconSize = 16;
@@ -31,33 +28,34 @@ int indicatorWidth(const MeasureContext& context)
 
 namespace {
 
-QIcon leftArrow()
+/// Icons of the icon theme outlive a change of theme: they look themselves up again.
+const QIcon& leftArrow()
 {
-    static const StyleIcon sLeftArrowIcon(QStringLiteral("chevron.left"));
+    static const QIcon sLeftArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.left"));
     return sLeftArrowIcon;
 }
 
-QIcon rightArrow()
+const QIcon& rightArrow()
 {
-    static const StyleIcon sRightArrowIcon(QStringLiteral("chevron.right"));
+    static const QIcon sRightArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.right"));
     return sRightArrowIcon;
 }
 
-QIcon upArrow()
+const QIcon& upArrow()
 {
-    static const StyleIcon sUpArrowIcon(QStringLiteral("chevron.up"));
+    static const QIcon sUpArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.up"));
     return sUpArrowIcon;
 }
 
-QIcon downArrow()
+const QIcon& downArrow()
 {
-    static const StyleIcon sDownArrowIcon(QStringLiteral("chevron.down"));
+    static const QIcon sDownArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.down"));
     return sDownArrowIcon;
 }
 
-QIcon calendar()
+const QIcon& calendar()
 {
-    static const StyleIcon sCalendarIcon(QStringLiteral("view.calendar"));
+    static const QIcon sCalendarIcon = QIcon::fromTheme(QStringLiteral("view.calendar"));
     return sCalendarIcon;
 }
 

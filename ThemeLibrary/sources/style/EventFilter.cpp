@@ -1,5 +1,4 @@
 #include "BaseStyle.h"
-#include "EmbeddedIcons.h"
 #include "ThemeColorHelper.h"
 #include "ThemeNames.h"
 #include "WidgetProperties.h"
@@ -68,8 +67,9 @@ void colorLineEditButton(QToolButton& button)
     const bool keepsIcon =
         WidgetProperties::flag(button.parent(), WidgetProperties::CustomActionIcons)
         && !WidgetTraits::isLineEditClearButton(&button);
-    const EmbeddedIcons::StyleIcon clear(QStringLiteral("action.close"));
-    applyIcon(button, keepsIcon ? originalIcon(button) : QIcon(clear), brush);
+    applyIcon(button,
+              keepsIcon ? originalIcon(button) : QIcon::fromTheme(QStringLiteral("action.close")),
+              brush);
 }
 
 void colorCommandLink(QCommandLinkButton& button)

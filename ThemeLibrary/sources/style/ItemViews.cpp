@@ -1,5 +1,4 @@
 #include "ButtonContent.h"
-#include "EmbeddedIcons.h"
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -290,7 +289,7 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
 
 void paintChildIndicator(const PaintContext& context, const QBrush& brush)
 {
-    static const EmbeddedIcons::StyleIcon sChildIcon(QStringLiteral("chevron.right"));
+    static const QIcon sChildIcon = QIcon::fromTheme(QStringLiteral("chevron.right"));
     const QRect& rect = context.option.rect;
     const int end = listViewPadding(context.style) / 2 + scrollBarRoom(context);
     const QRect place(rect.right() + 1 - end - IndicatorSize, rect.y(), IndicatorSize,

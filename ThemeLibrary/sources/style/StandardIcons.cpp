@@ -1,5 +1,4 @@
 #include "BaseStyle.h"
-#include "EmbeddedIcons.h"
 #include "Helpers.h"
 #include "ThemeColorHelper.h"
 #include "ThemeNames.h"
@@ -102,7 +101,7 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
         return {};
     const bool enabled = !option || option->state & QStyle::State_Enabled;
     const QBrush mainBrush = BaseStyle::getBrush(ThemeNames::MainBrush, enabled);
-    const QIcon icon = EmbeddedIcons::StyleIcon(name);
+    const QIcon icon = QIcon::fromTheme(name);
     if (!sSpecificIcons.contains(name))
         return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, mainBrush);
     const QColor reference(0xF6, 0xB4, 0x36);
@@ -118,7 +117,7 @@ QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
     static QIcon toolbarVerticalIcon;
     const QString name = iconName(pixmap);
     if (!name.isEmpty())
-        return EmbeddedIcons::StyleIcon(name);
+        return QIcon::fromTheme(name);
     switch (pixmap) {
     case SP_ToolBarHorizontalExtensionButton:
         if (toolbarHorizontalIcon.isNull())
@@ -138,8 +137,7 @@ QPixmap BaseStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* opt
 {
     const QString name = titleBarIconName(pixmap);
     if (!name.isEmpty())
-        return QIcon(EmbeddedIcons::StyleIcon(name))
-            .pixmap(TitleBarIconSize, QIcon::Normal, QIcon::Off);
+        return QIcon::fromTheme(name).pixmap(TitleBarIconSize, QIcon::Normal, QIcon::Off);
     return QProxyStyle::standardPixmap(pixmap, option, widget);
 }
 

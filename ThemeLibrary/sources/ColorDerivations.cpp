@@ -1,0 +1,254 @@
+#include "ColorDerivations.h"
+
+#include "ColorArithmetic.h"
+#include "Helpers.h"
+
+#include <algorithm>
+
+namespace BRELK {
+
+namespace {
+
+constexpr int LargestPercentage = 1000;
+constexpr double LargestChromaFactor = 10;
+constexpr double LargestContrast = 21;
+/// Brighter colors than this, of 255, are darkened when disabled.
+constexpr int LargestDarkBrightness = 130;
+
+QColor literalColor(const QString& text)
+{
+    // Qt reads more forms than these; their digits would be easily misread.
+    const bool isCode = text.startsWith(u'#');
+    if (isCode && text.size() != 4 && text.size() != 7 && text.size() != 9)
+        return {};
+    return {text};
+}
+
+QStringList words(const QString& text)
+{
+    return text.simplified().split(u' ', Qt::SkipEmptyParts);
+}
+
+/// Derives a color in steps, one for each attribute.
+class Derivation
+{
+public:
+    Derivation(const ThemeElement& element, const ThemeColors& colors, bool& ok)
+        : m_element(element), m_colors(colors), m_ok(ok)
+    { }
+
+    QColor named(const QString& text) const;
+    QColor applied(const QColor& color) const;
+
+private:
+    using Step = QColor (Derivation::*)(const QColor&, const QString&) const;
+
+    QColor lighter(const QColor& color, const QString& text) const;
+    QColor darker(const QColor& color, const QString& text) const;
+    QColor mixed(const QColor& color, const QString& text) const;
+    QColor withLightness(const QColor& color, const QString& text) const;
+    QColor withChroma(const QColor& color, const QString& text) const;
+    QColor moreReadable(const QColor& color, const QString& text) const;
+    QColor withContrast(const QColor& color, const QString& text) const;
+    QColor withAlpha(const QColor& color, const QString& text) const;
+
+    QVector<QColor> grounds() const;
+    double number(const QString& text, double smallest, double largest) const;
+    void checkPairs() const;
+
+    const ThemeElement& m_element;
+    const ThemeColors& m_colors;
+    bool& m_ok;
+
+public:
+    struct Attribute
+    {
+        QString name;
+        Step step; ///< null: it belongs to another one
+    };
+
+    /// In the order in which they are applied, whatever the order in the file.
+    static const QVector<Attribute>& attributes();
+};
+
+const QVector<Derivation::Attribute>& Derivation::attributes()
+{
+    static const QVector<Attribute> sAttributes{
+        {QStringLiteral("lighter"), &Derivation::lighter},
+        {QStringLiteral("darker"), &Derivation::darker},
+        {QStringLiteral("mix"), &Derivation::mixed},
+        {QStringLiteral("share"), nullptr},
+        {QStringLiteral("lightness"), &Derivation::withLightness},
+        {QStringLiteral("chroma"), &Derivation::withChroma},
+        {QStringLiteral("or"), &Derivation::moreReadable},
+        {QStringLiteral("contrast"), &Derivation::withContrast},
+        {QStringLiteral("against"), nullptr},
+        {QStringLiteral("alpha"), &Derivation::withAlpha}};
+    return sAttributes;
+}
+
+QColor Derivation::named(const QString& text) const
+{
+    const auto found = m_colors.constFind(text);
+    const QColor color = found == m_colors.constEnd() ? literalColor(text) : *found;
+    if (!color.isValid() && m_ok) {
+        m_element.reject(quoted(text)
+                         + QLatin1String(" is neither a color of the theme nor a color value"));
+        m_ok = false;
+    }
+    return color;
+}
+
+QColor Derivation::applied(const QColor& color) const
+{
+    QColor result = color;
+    checkPairs();
+    for (const Attribute& attribute : attributes()) {
+        if (m_ok && attribute.step && m_element.hasAttribute(attribute.name))
+            result = (this->*attribute.step)(result, m_element.getAttribute(attribute.name));
+    }
+    return m_ok ? result : QColor();
+}
+
+/// Reports attributes that say nothing without another one.
+void Derivation::checkPairs() const
+{
+    const auto has = [this](const char* name) {
+        return m_element.hasAttribute(QLatin1String(name));
+    };
+    const auto reject = [this](const char* problem) {
+        m_element.reject(QLatin1String(problem));
+        m_ok = false;
+    };
+    if (has("mix") != has("share"))
+        reject("mix and share need each other");
+    else if (has("against") != (has("contrast") || has("or")))
+        reject(has("against") ? "against needs contrast or or" : "contrast and or need against");
+}
+
+QVector<QColor> Derivation::grounds() const
+{
+    QVector<QColor> colors;
+    for (const QString& name : words(m_element.getAttribute(QStringLiteral("against"))))
+        colors += named(name);
+    return colors;
+}
+
+double Derivation::number(const QString& text, double smallest, double largest) const
+{
+    return m_element.readNumber(text, smallest, largest, m_ok);
+}
+
+QColor Derivation::lighter(const QColor& color, const QString& text) const
+{
+    return color.lighter(m_element.readInteger(text, 1, LargestPercentage, m_ok));
+}
+
+QColor Derivation::darker(const QColor& color, const QString& text) const
+{
+    return color.darker(m_element.readInteger(text, 1, LargestPercentage, m_ok));
+}
+
+QColor Derivation::mixed(const QColor& color, const QString& text) const
+{
+    const double share = number(m_element.getAttribute(QStringLiteral("share")), 0, 1);
+    const QColor other = named(text.trimmed());
+    return m_ok ? ColorArithmetic::mixed(color, other, share) : QColor();
+}
+
+QColor Derivation::withLightness(const QColor& color, const QString& text) const
+{
+    const QString trimmed = text.trimmed();
+    const bool isShift = trimmed.startsWith(u'+') || trimmed.startsWith(u'-');
+    const double lightness = number(text, isShift ? -1 : 0, 1);
+    const double start = isShift ? ColorArithmetic::toOklab(color).lightness : 0;
+    return ColorArithmetic::withLightness(color, start + lightness);
+}
+
+QColor Derivation::withChroma(const QColor& color, const QString& text) const
+{
+    return ColorArithmetic::withChromaScaled(color, number(text, 0, LargestChromaFactor));
+}
+
+QColor Derivation::moreReadable(const QColor& color, const QString& text) const
+{
+    const QColor other = named(text.trimmed());
+    const QVector<QColor> on = grounds();
+    return m_ok ? ColorArithmetic::moreReadable(color, other, on) : QColor();
+}
+
+QColor Derivation::withContrast(const QColor& color, const QString& text) const
+{
+    const double wanted = number(text, 1, LargestContrast);
+    const QVector<QColor> on = grounds();
+    if (!m_ok)
+        return {};
+    const QColor result = ColorArithmetic::withContrast(color, on, wanted);
+    const double reached = ColorArithmetic::leastContrast(result, on);
+    if (reached < wanted)
+        m_element.report(QLatin1String("no lightness gives it a contrast of ") + text.trimmed()
+                             + QLatin1String(" to ")
+                             + quoted(m_element.getAttribute(QStringLiteral("against"))),
+                         QLatin1String("it has ") + QString::number(reached, 'f', 2));
+    return result;
+}
+
+QColor Derivation::withAlpha(const QColor& color, const QString& text) const
+{
+    QColor result = color;
+    result.setAlphaF(number(text, 0, 1));
+    return result;
+}
+
+} // namespace
+
+QColor disabledBy(const QColor& color, int lightFactor, int darkFactor)
+{
+    return Helpers::getPerceivedBrightness(color) > LargestDarkBrightness
+               ? color.darker(lightFactor)
+               : color.lighter(darkFactor);
+}
+
+const QStringList& derivationAttributes()
+{
+    static const QStringList sNames = [] {
+        QStringList names;
+        for (const auto& attribute : Derivation::attributes())
+            names += attribute.name;
+        return names;
+    }();
+    return sNames;
+}
+
+bool hasDerivation(const ThemeElement& element)
+{
+    // Most elements have nothing but a name.
+    if (element.countAttributes() < 2 && element.hasAttribute(QStringLiteral("name")))
+        return false;
+    const QStringList& names = derivationAttributes();
+    return std::any_of(names.begin(), names.end(),
+                       [&element](const QString& name) { return element.hasAttribute(name); });
+}
+
+QStringList namedColors(const ThemeElement& element)
+{
+    QStringList names{element.getText()};
+    if (!hasDerivation(element))
+        return names;
+    for (const char* attribute : {"mix", "or", "against"})
+        names += words(element.getAttribute(QLatin1String(attribute)));
+    return names;
+}
+
+QColor readColor(const ThemeElement& element, const ThemeColors& colors, bool& ok)
+{
+    const QColor color = Derivation(element, colors, ok).named(element.getText());
+    return ok && hasDerivation(element) ? derivedColor(element, color, colors, ok) : color;
+}
+
+QColor derivedColor(const ThemeElement& element, QColor color, const ThemeColors& colors, bool& ok)
+{
+    return Derivation(element, colors, ok).applied(color);
+}
+
+} // namespace BRELK

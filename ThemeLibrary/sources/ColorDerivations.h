@@ -1,0 +1,39 @@
+#pragma once
+
+#include "ThemeDocument.h"
+
+#include <QColor>
+#include <QHash>
+#include <QStringList>
+
+#include <functional>
+
+namespace BRELK {
+
+/// Gives the disabled form of a color, by what it is for: a foreground or a background.
+using DisabledColor = std::function<QColor(const QColor& color, bool foreground)>;
+
+/// `color` made darker by `lightFactor` if it is bright, otherwise lighter by `darkFactor`; both in
+/// percent.
+QColor disabledBy(const QColor& color, int lightFactor, int darkFactor);
+
+/// Colors of a theme by name.
+using ThemeColors = QHash<QString, QColor>;
+
+/// The attributes that make another color of the one that an element names.
+const QStringList& derivationAttributes();
+
+/// Whether `element` has any of them.
+bool hasDerivation(const ThemeElement& element);
+
+/// What the text and the attributes of `element` name, be it a color of the theme or a literal one.
+QStringList namedColors(const ThemeElement& element);
+
+/// The color that the text of `element` names, one of `colors` or a literal one, as derived by its
+/// attributes. `ok` becomes false, and the reason is reported, when there is none.
+QColor readColor(const ThemeElement& element, const ThemeColors& colors, bool& ok);
+
+/// `color` as derived by the attributes of `element`; see docs/theme-format.md for what they mean.
+QColor derivedColor(const ThemeElement& element, QColor color, const ThemeColors& colors, bool& ok);
+
+} // namespace BRELK
