@@ -1,9 +1,9 @@
 #include "Header.h"
 
 #include "ThemeFactory.h"
+#include "kit/Decoration.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"
-#include "kit/ThemeValues.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -32,7 +32,7 @@ Header::Header(const Settings& settings)
     bar->setContentsMargins(3 * Unit, Unit, 3 * Unit, Unit);
     bar->setSpacing(Unit);
     auto* title = new QLabel(QStringLiteral("Gallery"));
-    ThemeValues::dress(*title, ThemeValues::text(), ThemeValues::font(QStringLiteral("large")));
+    Decoration::dress(*title, Decoration::text(), Decoration::font(QStringLiteral("large")));
     bar->addWidget(title);
     bar->addStretch();
     addThemes(*bar, settings.theme);

@@ -1,7 +1,7 @@
 #include "BaseStyle.h"
 
-#include "ThemeNames.h"
 #include "ThemeResources.h"
+#include "ThemeValues.h"
 
 #include <QPainter>
 #include <QStyleOption>
@@ -11,8 +11,8 @@ namespace BRELK {
 BaseStyle::BaseStyle() : QProxyStyle(QStringLiteral("fusion"))
 {
     m_palette = baseStyle()->standardPalette();
-    m_expanderHeaderBrush = getBrush(ThemeNames::ExpanderHeaderBrush, true);
-    m_windowBackgroundBrush = getBrush(ThemeNames::BackgroundBrush, true);
+    m_expanderHeaderBrush = themeValues().brushes.value(ThemeNames::ExpanderHeaderBrush);
+    m_windowBackgroundBrush = themeValues().brushes.value(ThemeNames::BackgroundBrush);
 }
 
 BaseStyle::~BaseStyle() = default;
@@ -42,16 +42,12 @@ const QBrush& BaseStyle::lightOutlineBrush(const QPalette& palette) const
 
 const QBrush& BaseStyle::grooveBackgroundBrush(bool enabled) const
 {
-    static const QBrush sGrooveBrush = getBrush(ThemeNames::GrooveBackgroundBrush, true);
-    static const QBrush sGrooveBrushDisabled = getBrush(ThemeNames::GrooveBackgroundBrush, false);
-    return enabled ? sGrooveBrush : sGrooveBrushDisabled;
+    return themeValues().groove.value(enabled);
 }
 
 const QBrush& BaseStyle::getBorderBrush(bool enabled)
 {
-    static const QBrush sBorderBrush = getBrush(ThemeNames::CardBorderBrush, true);
-    static const QBrush sBorderBrushDisabled = getBrush(ThemeNames::CardBorderBrush, false);
-    return enabled ? sBorderBrush : sBorderBrushDisabled;
+    return themeValues().border.value(enabled);
 }
 
 QBrush BaseStyle::getBrush(QString name, bool enabled)

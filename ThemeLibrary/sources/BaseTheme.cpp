@@ -7,6 +7,7 @@
 #include "ThemeConfigurationReader.h"
 #include "ThemeDocument.h"
 #include "ThemeResources.h"
+#include "ThemeValues.h"
 
 #include <QApplication>
 #include <QDebug>
@@ -175,6 +176,10 @@ void BaseTheme::customize(QApplication* app)
 
     app->setProperty(ThemeResources::getThemeVariablePropertyName().data(),
                      themeVariables(configuration));
+    if (const QString& name = themeValues().askedTooEarly; !name.isEmpty()) {
+        log(QLatin1String("Asked for before a theme was applied, and frozen as missing: ") + name);
+        themeValues().askedTooEarly.clear();
+    }
 
     if (!qEnvironmentVariableIsSet("BRELK_USE_NATIVE_STYLE")) {
         if (mapping.getStatus() != QPaletteReader::NO_ERROR)

@@ -2,9 +2,9 @@
 
 #include "ColorDerivations.h"
 #include "Helpers.h"
-#include "ThemeNames.h"
 #include "ThemeResources.h"
 #include "ThemeResources_p.h"
+#include "ThemeValues.h"
 
 #include <QCache>
 #include <QCoreApplication>
@@ -86,17 +86,15 @@ private:
 
 QColor disabled(const QColor& color, bool foreground)
 {
-    static const int sLightForegroundFactor =
-        ThemeResources::getDisabledFactor(ThemeNames::LightForegroundFactor);
-    static const int sLightBackgroundFactor =
-        ThemeResources::getDisabledFactor(ThemeNames::LightBackgroundFactor);
-    static const int sDarkForegroundFactor =
-        ThemeResources::getDisabledFactor(ThemeNames::DarkForegroundFactor);
-    static const int sDarkBackgroundFactor =
-        ThemeResources::getDisabledFactor(ThemeNames::DarkBackgroundFactor);
+    std::optional<DisabledFactors>& factors = themeValues().disabledFactors;
+    if (!factors)
+        factors = {ThemeResources::getDisabledFactor(ThemeNames::LightForegroundFactor),
+                   ThemeResources::getDisabledFactor(ThemeNames::LightBackgroundFactor),
+                   ThemeResources::getDisabledFactor(ThemeNames::DarkForegroundFactor),
+                   ThemeResources::getDisabledFactor(ThemeNames::DarkBackgroundFactor)};
 
-    return foreground ? disabledBy(color, sLightForegroundFactor, sDarkForegroundFactor)
-                      : disabledBy(color, sLightBackgroundFactor, sDarkBackgroundFactor);
+    return foreground ? disabledBy(color, factors->lightForeground, factors->darkForeground)
+                      : disabledBy(color, factors->lightBackground, factors->darkBackground);
 }
 
 QIcon getModifiedIconWithForegroundBrush(QIcon icon, QBrush brush)

@@ -1,9 +1,9 @@
 #include "ThemeResources.h"
 
 #include "ThemeResources_p.h"
+#include "ThemeValues.h"
 
 #include <QCoreApplication>
-#include <QHash>
 #include <QRegularExpression>
 
 namespace BRELK::ThemeResources {
@@ -16,38 +16,6 @@ QVariantMap readProperty(const QLatin1String& name)
 {
     return QCoreApplication::instance()->property(name.data()).toMap();
 }
-
-template <class Value>
-Value convert(const QVariant& value)
-{
-    return value.value<Value>();
-}
-
-/// A color is no brush, although QVariant would convert it.
-template <>
-QBrush convert(const QVariant& value)
-{
-    return value.userType() == QMetaType::QBrush ? value.value<QBrush>() : QBrush();
-}
-
-/// A group as it was at its first use. Painting asks for most of its values, so they are hashed and
-/// in the type that is asked for.
-template <class Value>
-class Snapshot
-{
-public:
-    Snapshot(const QLatin1String& property, const QString& group)
-    {
-        const QVariantMap values = readProperty(property).value(group).toMap();
-        for (auto entry = values.begin(); entry != values.end(); ++entry)
-            m_values.insert(entry.key(), convert<Value>(entry.value()));
-    }
-
-    Value value(const QString& name) const { return m_values.value(name); }
-
-private:
-    QHash<QString, Value> m_values;
-};
 
 } // namespace
 
@@ -136,53 +104,44 @@ QColor getColor(const QString& name)
 {
     if (!QCoreApplication::instance())
         return {};
-    static const Snapshot<QColor> sColors(getThemeVariablePropertyName(), getColorsVarPrefix());
-    return sColors.value(name);
+    return themeValues().colors.value(name);
 }
 
 QBrush getBrush(const QString& name)
 {
     if (!QCoreApplication::instance())
         return {};
-    static const Snapshot<QBrush> sBrushes(getThemeVariablePropertyName(), getBrushesVarPrefix());
-    return sBrushes.value(name);
+    return themeValues().brushes.value(name);
 }
 
 QFont getFont(const QString& name)
 {
     if (!QCoreApplication::instance())
         return {};
-    static const Snapshot<QFont> sFonts(getThemeVariablePropertyName(), getFontsVarPrefix());
-    return sFonts.value(name);
+    return themeValues().fonts.value(name);
 }
 
 double getOpacity(const QString& name)
 {
     if (!QCoreApplication::instance())
         return 1.0;
-    static const Snapshot<double> sOpacities(getThemeVariablePropertyName(),
-                                             getOpacitiesVarPrefix());
     // Deliberate: an unknown name is 0, although the default without an application is 1.
-    return sOpacities.value(name);
+    return themeValues().opacities.value(name);
 }
 
 double getCornerRadius(const QString& name)
 {
     if (!QCoreApplication::instance())
         return 0.0;
-    static const Snapshot<double> sRadii(getThemeVariablePropertyName(),
-                                         getCornerRadiusVarPrefix());
-    return sRadii.value(name);
+    return themeValues().radii.value(name);
 }
 
 int getDisabledFactor(const QString& name)
 {
     if (!QCoreApplication::instance())
         return 100;
-    static const Snapshot<int> sFactors(getInternalThemeVariablePropertyName(),
-                                        getDisabledFactorsVarPrefix());
     // Deliberate: an unknown name is 0, although the default without an application is 100.
-    return sFactors.value(name);
+    return themeValues().factors.value(name);
 }
 
 QStringList getColors(const QRegularExpression& re)

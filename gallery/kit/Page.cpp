@@ -1,7 +1,7 @@
 #include "kit/Page.h"
 
 #include "Helpers.h"
-#include "kit/ThemeValues.h"
+#include "kit/Decoration.h"
 
 #include <QBoxLayout>
 #include <QEvent>
@@ -49,7 +49,7 @@ private:
 QLabel* makeText(const QString& text, const QColor& ink, const QString& font)
 {
     auto* label = new Words(text);
-    ThemeValues::dress(*label, ink, ThemeValues::font(font));
+    Decoration::dress(*label, ink, Decoration::font(font));
     return label;
 }
 
@@ -57,12 +57,12 @@ QLabel* makeText(const QString& text, const QColor& ink, const QString& font)
 
 QLabel* makeLabel(const QString& text)
 {
-    return makeText(text, ThemeValues::text(), QStringLiteral("base"));
+    return makeText(text, Decoration::text(), QStringLiteral("base"));
 }
 
 QLabel* makeCaption(const QString& text)
 {
-    return makeText(text, ThemeValues::quietText(), QStringLiteral("small"));
+    return makeText(text, Decoration::quietText(), QStringLiteral("small"));
 }
 
 QWidget* captioned(const QString& caption, QWidget* widget)
@@ -105,7 +105,7 @@ Section::Section(const QString& title, const QString& description)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(3 * Unit, 2 * Unit, 3 * Unit, 3 * Unit);
     layout->setSpacing(Unit / 2);
-    layout->addWidget(makeText(title, ThemeValues::text(), QStringLiteral("medium")));
+    layout->addWidget(makeText(title, Decoration::text(), QStringLiteral("medium")));
     if (!description.isEmpty()) {
         QLabel* words = makeCaption(description);
         words->setWordWrap(true);
@@ -126,10 +126,10 @@ void Panel::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    painter.setPen(ThemeValues::border());
-    painter.setBrush(ThemeValues::surface());
+    painter.setPen(Decoration::border());
+    painter.setBrush(Decoration::surface());
     BRELK::Helpers::drawRoundedRectShape(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5),
-                                         ThemeValues::radius(QStringLiteral("LargeSize")),
+                                         Decoration::radius(QStringLiteral("LargeSize")),
                                          BRELK::Helpers::None, &painter);
 }
 
@@ -137,11 +137,11 @@ Page::Page(const QString& title, const QString& description) : m_sections(new QV
 {
     m_sections->setContentsMargins(4 * Unit, 3 * Unit, 4 * Unit, 4 * Unit);
     m_sections->setSpacing(2 * Unit);
-    QLabel* words = makeText(description, ThemeValues::quietText(), QStringLiteral("base"));
+    QLabel* words = makeText(description, Decoration::quietText(), QStringLiteral("base"));
     words->setWordWrap(true);
     QWidget* heading =
         lineUp(QBoxLayout::TopToBottom, Unit / 2,
-               {makeText(title, ThemeValues::text(), QStringLiteral("large")), words});
+               {makeText(title, Decoration::text(), QStringLiteral("large")), words});
     m_sections->addWidget(heading);
     m_sections->addStretch();
 }

@@ -1,8 +1,8 @@
 #include "kit/Swatch.h"
 
 #include "Helpers.h"
+#include "kit/Decoration.h"
 #include "kit/Page.h"
-#include "kit/ThemeValues.h"
 
 #include <QPainter>
 
@@ -14,10 +14,10 @@ void paintSwatch(QPainter& painter, const QBrush& brush, const QRectF& rect, int
 {
     painter.setPen(Qt::NoPen);
     if (!brush.isOpaque()) {
-        painter.setBrush(QBrush(ThemeValues::border(), Qt::Dense4Pattern));
+        painter.setBrush(QBrush(Decoration::border(), Qt::Dense4Pattern));
         BRELK::Helpers::drawRoundedRectShape(rect, radius, BRELK::Helpers::None, &painter);
     }
-    painter.setPen(ThemeValues::border());
+    painter.setPen(Decoration::border());
     painter.setBrush(brush);
     BRELK::Helpers::drawRoundedRectShape(rect.adjusted(0.5, 0.5, -0.5, -0.5), radius,
                                          BRELK::Helpers::None, &painter);

@@ -1,7 +1,7 @@
 #include "pages/Chart.h"
 
+#include "kit/Decoration.h"
 #include "kit/Page.h"
-#include "kit/ThemeValues.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -18,7 +18,7 @@ constexpr int Lines = 4;
 
 QColor seriesColor(int series)
 {
-    return ThemeValues::color(
+    return Decoration::color(
         QString(QLatin1String("Series0") % QString::number(series + 1) % QLatin1String("Color")),
         QPalette::Highlight);
 }
@@ -32,7 +32,7 @@ double value(int series, double x)
 
 void paintGrid(QPainter& painter, const QRectF& plot)
 {
-    painter.setPen(ThemeValues::border());
+    painter.setPen(Decoration::border());
     for (int line = 0; line <= Lines; ++line) {
         const double y = std::floor(plot.top() + plot.height() * line / Lines) + 0.5;
         painter.drawLine(QPointF(plot.left(), y), QPointF(plot.right(), y));

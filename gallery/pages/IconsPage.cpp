@@ -1,9 +1,9 @@
 #include "Pages.h"
 #include "ThemeColorHelper.h"
 #include "ThemeResources.h"
+#include "kit/Decoration.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"
-#include "kit/ThemeValues.h"
 
 #include <QClipboard>
 #include <QComboBox>
@@ -168,7 +168,7 @@ void addStandardIcons(Section& section)
         if (id == QStyle::SP_CustomBase)
             continue;
         const QIcon icon = BRELK::ThemeColorHelper::getModifiedIconWithForegroundBrush(
-            section.style()->standardIcon(id, nullptr, &section), ThemeValues::text());
+            section.style()->standardIcon(id, nullptr, &section), Decoration::text());
         sheet->add(icon.pixmap(3 * Unit, 3 * Unit),
                    QString::fromLatin1(names.key(index) + PrefixLength));
     }

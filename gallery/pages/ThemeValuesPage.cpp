@@ -1,9 +1,9 @@
 #include "Pages.h"
 #include "ThemeResources.h"
+#include "kit/Decoration.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"
 #include "kit/Swatch.h"
-#include "kit/ThemeValues.h"
 
 #include <QGridLayout>
 #include <QHeaderView>
@@ -52,9 +52,9 @@ QString describe(const QColor& color)
 
 QWidget* makeColorCell(const QString& name, const QColor& color)
 {
-    auto* swatch = new Swatch(color, ThemeValues::radius(QStringLiteral("BaseSize")), ColorSize);
+    auto* swatch = new Swatch(color, Decoration::radius(QStringLiteral("BaseSize")), ColorSize);
     QLabel* title = makeCaption(name);
-    ThemeValues::dress(*title, ThemeValues::text(), title->font());
+    Decoration::dress(*title, Decoration::text(), title->font());
     return column({swatch, title, makeCaption(describe(color))});
 }
 
@@ -143,7 +143,7 @@ void addFonts(Section& section)
     const QStringList names{QStringLiteral("small"), QStringLiteral("base"),
                             QStringLiteral("medium"), QStringLiteral("large")};
     for (const QString& name : names) {
-        const QFont font = ThemeValues::font(name);
+        const QFont font = Decoration::font(name);
         auto* sample = new QLabel(QStringLiteral("The quick brown fox jumps over the lazy dog"));
         sample->setFont(font);
         const QString values = name % QLatin1String(": ") % font.family() % QLatin1String(", ")
@@ -168,14 +168,13 @@ void addNumbers(Section& section)
     int column = 0;
     for (const char* size : {"SmallSize", "BaseSize", "MediumSize", "LargeSize"}) {
         const QString name = QString::fromLatin1(size);
-        const int radius = ThemeValues::radius(name);
-        grid->addWidget(
-            makeNumberCell(name, QString::number(radius), ThemeValues::accent(), radius), 0,
-            column++);
+        const int radius = Decoration::radius(name);
+        grid->addWidget(makeNumberCell(name, QString::number(radius), Decoration::accent(), radius),
+                        0, column++);
     }
     column = 0;
     for (auto opacity = opacities.begin(); opacity != opacities.end(); ++opacity) {
-        QColor color = ThemeValues::accent();
+        QColor color = Decoration::accent();
         color.setAlphaF(opacity.value().toDouble());
         grid->addWidget(makeNumberCell(opacity.key(), opacity.value().toString(), color, 0), 1,
                         column++);

@@ -131,9 +131,11 @@ private Q_SLOTS:
 
     void applying()
     {
-        QByteArray text = applied("applied")
-                          + applied("twice", {QStringLiteral("a"), QStringLiteral("a")})
-                          + applied("another", {QStringLiteral("a"), QStringLiteral("b")});
+        QCOMPARE(ThemeResources::getOpacity(QStringLiteral("Early")), 0.0);
+        ThemeResources::getColor(QStringLiteral("Later"));
+        QByteArray text = applied("applied after a lookup");
+        text += applied("twice", {QStringLiteral("a"), QStringLiteral("a")})
+                + applied("another", {QStringLiteral("a"), QStringLiteral("b")});
         qputenv("BRELK_USE_NATIVE_STYLE", "");
         text += applied("with the native style");
         qunsetenv("BRELK_USE_NATIVE_STYLE");

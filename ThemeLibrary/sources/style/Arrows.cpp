@@ -28,37 +28,6 @@ int indicatorWidth(const MeasureContext& context)
 
 namespace {
 
-/// Icons of the icon theme outlive a change of theme: they look themselves up again.
-const QIcon& leftArrow()
-{
-    static const QIcon sLeftArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.left"));
-    return sLeftArrowIcon;
-}
-
-const QIcon& rightArrow()
-{
-    static const QIcon sRightArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.right"));
-    return sRightArrowIcon;
-}
-
-const QIcon& upArrow()
-{
-    static const QIcon sUpArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.up"));
-    return sUpArrowIcon;
-}
-
-const QIcon& downArrow()
-{
-    static const QIcon sDownArrowIcon = QIcon::fromTheme(QStringLiteral("chevron.down"));
-    return sDownArrowIcon;
-}
-
-const QIcon& calendar()
-{
-    static const QIcon sCalendarIcon = QIcon::fromTheme(QStringLiteral("view.calendar"));
-    return sCalendarIcon;
-}
-
 void paintArrow(const PaintContext& context, const QIcon& icon)
 {
     // Deliberate: no widget, no arrow.
@@ -76,23 +45,24 @@ void paintArrow(const PaintContext& context, const QIcon& icon)
 
 void paintDown(const PaintContext& context)
 {
-    paintArrow(context,
-               WidgetTraits::isCalendarPopupEditor(context.widget) ? calendar() : downArrow());
+    paintArrow(context, WidgetTraits::isCalendarPopupEditor(context.widget)
+                            ? themeValues().calendar.icon()
+                            : themeValues().downArrow.icon());
 }
 
 void paintLeft(const PaintContext& context)
 {
-    paintArrow(context, leftArrow());
+    paintArrow(context, themeValues().leftArrow.icon());
 }
 
 void paintRight(const PaintContext& context)
 {
-    paintArrow(context, rightArrow());
+    paintArrow(context, themeValues().rightArrow.icon());
 }
 
 void paintUp(const PaintContext& context)
 {
-    paintArrow(context, upArrow());
+    paintArrow(context, themeValues().upArrow.icon());
 }
 
 } // namespace BRELK::Arrows

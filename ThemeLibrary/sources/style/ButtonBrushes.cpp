@@ -1,6 +1,5 @@
 #include "BaseStyle.h"
-#include "FrozenTheme.h"
-#include "ThemeNames.h"
+#include "ThemeValues.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
 
@@ -13,8 +12,6 @@
 #include <QStyleOption>
 
 #include <algorithm>
-#include <array>
-#include <optional>
 
 // How a button-like control finds its brushes: words for what it is and how it stands are joined to
 // theme names, then a row of rules, each of which may override the ones before it, dresses special
@@ -28,8 +25,6 @@ enum class Family { Button, ToggleButton, Input };
 enum class CheckWord { Default, Checked, Unchecked };
 enum class PointerWord { None, Pressed, Hover };
 enum class Part { Background, Border, Foreground };
-
-constexpr size_t Count = 3; ///< of each of these
 
 /// The words of a composed name, but for the kind.
 struct Words
@@ -69,35 +64,33 @@ QString partName(Part part)
     }
 }
 
-/// The brushes of one kind, by all other words.
-using KindBrushes = std::array<std::optional<QBrush>, 2 * Count * Count * Count * Count>;
-
-KindBrushes& brushesOf(const QString& kind)
+ComposedPlaces& placesOf(const QString& kind)
 {
     constexpr int MostKinds = 64;
-    static KindBrushes sOfNoKind;
-    static QHash<QString, KindBrushes> sOfKinds;
-
+    ThemeValues& values = themeValues();
     if (kind.isEmpty())
-        return sOfNoKind;
-    if (sOfKinds.size() >= MostKinds && !sOfKinds.contains(kind))
-        sOfKinds.clear();
-    return sOfKinds[kind];
+        return values.composedBrushes;
+    QHash<QString, ComposedPlaces>& ofKinds = values.composedBrushesOfKinds;
+    if (ofKinds.size() >= MostKinds && !ofKinds.contains(kind))
+        ofKinds.clear();
+    return ofKinds[kind];
 }
 
-/// The theme is frozen at its first use, so each name is composed once. The brush is the caller's
-/// until the next call.
+/// Each name is composed once.
 const QBrush& composedBrush(const Words& words, const QString& kind, bool enabled)
 {
-    size_t place = enabled ? 1 : 0;
+    size_t index = enabled ? 1 : 0;
     for (const size_t word :
          {size_t(words.family), size_t(words.check), size_t(words.pointer), size_t(words.part)})
-        place = place * Count + word;
-    std::optional<QBrush>& brush = brushesOf(kind).at(place);
-    if (!brush)
-        brush = BaseStyle::getBrush(
-            familyName(words.family) + kind + stateName(words) + partName(words.part), enabled);
-    return *brush;
+        index = index * ComposedPlaces::Words + word;
+    FrozenGroup<QBrush>& brushes = themeValues().brushes;
+    int& place = placesOf(kind).places.at(index);
+    if (place < 0) {
+        const QString name =
+            familyName(words.family) + kind + stateName(words) + partName(words.part);
+        place = brushes.placeOf(enabled ? name : ThemeNames::twin(name));
+    }
+    return brushes.at(place);
 }
 
 struct ButtonLook
@@ -116,7 +109,7 @@ struct ButtonLook
 
     const QBrush& brush(ThemeNames::BrushName name) const
     {
-        return FrozenTheme::brush(name, enabled);
+        return themeValues().brushes.value(name, enabled);
     }
 
     /// The brush of a button like this one, in its state.

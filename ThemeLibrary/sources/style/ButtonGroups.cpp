@@ -1,7 +1,6 @@
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
-#include "ThemeResources.h"
 
 // The segments of button groups.
 
@@ -41,7 +40,7 @@ void drawWorkflowStep(const QRectF& rect, QPainter& painter, int diameter, const
     Helpers::drawRoundedRectShape(rect.adjusted(inset, inset, -inset, -inset),
                                   int((rect.height() - diameter) / 2), Helpers::None, &painter);
     painter.setBrush(dotBrush);
-    painter.setPen(ThemeResources::getBrush(ThemeNames::ListBackgroundBrush).color());
+    painter.setPen(themeValues().brushes.value(ThemeNames::ListBackgroundBrush).color());
     QRectF first(0, 0, diameter, diameter);
     first.moveCenter(rect.center());
     QRectF second = first;

@@ -1,6 +1,6 @@
 #include "BaseStyle.h"
 #include "ThemeColorHelper.h"
-#include "ThemeNames.h"
+#include "ThemeValues.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
 
@@ -62,7 +62,7 @@ QIcon originalIcon(QAbstractButton& button)
 void colorLineEditButton(QToolButton& button)
 {
     const bool pointedAt = button.underMouse() && button.isEnabled();
-    const QBrush brush = pointedAt ? QBrush(BaseStyle::getColor(ThemeNames::MainColor, true))
+    const QBrush brush = pointedAt ? QBrush(themeValues().colors.value(ThemeNames::MainColor))
                                    : QBrush(button.palette().color(QPalette::WindowText));
     const bool keepsIcon =
         WidgetProperties::flag(button.parent(), WidgetProperties::CustomActionIcons)
@@ -78,9 +78,9 @@ void colorCommandLink(QCommandLinkButton& button)
         return;
     const bool pointedAt =
         !button.isChecked() && !button.isDown() && button.underMouse() && button.isEnabled();
-    const QBrush brush = pointedAt ? BaseStyle::getBrush(
-                             ThemeNames::ButtonUncheckedHoverForegroundBrush, button.isEnabled())
-                                   : button.palette().brush(QPalette::ButtonText);
+    const QBrush brush =
+        pointedAt ? themeValues().brushes.value(ThemeNames::ButtonUncheckedHoverForegroundBrush)
+                  : button.palette().brush(QPalette::ButtonText);
     applyIcon(button, originalIcon(button), brush);
 }
 

@@ -3,7 +3,6 @@
 #include "Shapes.h"
 #include "StyleContext.h"
 #include "ThemeNames.h"
-#include "ThemeResources.h"
 #include "WidgetTraits.h"
 
 #include <QAbstractScrollArea>
@@ -105,8 +104,9 @@ void paintToolTip(const PaintContext& context)
 {
     const QPalette& palette = context.option.palette;
     const bool isError = QToolTip::text().contains(QLatin1String("errorTooltip"));
-    const QBrush border = isError ? QBrush(ThemeResources::getColor(ThemeNames::StatusDangerColor))
-                                  : palette.brush(QPalette::Shadow);
+    const QBrush border = isError
+                              ? QBrush(themeValues().colors.value(ThemeNames::StatusDangerColor))
+                              : palette.brush(QPalette::Shadow);
     const QPen pen = context.painter.pen();
     const QBrush brush = context.painter.brush();
     context.painter.setPen(QPen(border, 0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin));

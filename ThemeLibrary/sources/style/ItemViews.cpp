@@ -24,9 +24,11 @@ constexpr int IndicatorSize = 16; ///< of the arrow that tells of children
 
 int listViewPadding(const BaseStyle& style)
 {
-    static const int sListViewPadding = style.pixelMetric(
-        QStyle::PixelMetric(BaseStyle::BRELK_PM_ListViewPadding), nullptr, nullptr);
-    return sListViewPadding;
+    std::optional<int>& padding = themeValues().listViewPadding;
+    if (!padding)
+        padding = style.pixelMetric(QStyle::PixelMetric(BaseStyle::BRELK_PM_ListViewPadding),
+                                    nullptr, nullptr);
+    return *padding;
 }
 
 bool isInListMode(const QWidget* widget)
@@ -160,7 +162,7 @@ bool hasThemedBackground(const StyleContext& context)
     if (context.enabled() || context.flag(WidgetProperties::CustomItemViewPalette))
         return false;
     return context.option.palette.brush(QPalette::Active, QPalette::Base)
-           == FrozenTheme::brush(ThemeNames::ItemViewBackgroundBrush, true);
+           == themeValues().brushes.value(ThemeNames::ItemViewBackgroundBrush, true);
 }
 
 void paintSeparator(const PaintContext& context)
@@ -174,11 +176,10 @@ void paintSeparator(const PaintContext& context)
 /// The room that a thin scroll bar over the list takes from its rows.
 int scrollBarRoom(const StyleContext& context)
 {
-    static const int sVerticalScrollBarPadding = listViewPadding(context.style);
     const auto* list = qobject_cast<const QListView*>(context.widget);
     const QScrollBar* bar = list ? list->verticalScrollBar() : nullptr;
     return bar && bar->isVisible() && WidgetTraits::isMinimizedScrollBar(bar)
-               ? sVerticalScrollBarPadding
+               ? listViewPadding(context.style)
                : 0;
 }
 
@@ -289,12 +290,12 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
 
 void paintChildIndicator(const PaintContext& context, const QBrush& brush)
 {
-    static const QIcon sChildIcon = QIcon::fromTheme(QStringLiteral("chevron.right"));
     const QRect& rect = context.option.rect;
     const int end = listViewPadding(context.style) / 2 + scrollBarRoom(context);
     const QRect place(rect.right() + 1 - end - IndicatorSize, rect.y(), IndicatorSize,
                       rect.height());
-    Shapes::drawIcon(context, sChildIcon, brush, context.visual(place), IndicatorSize);
+    Shapes::drawIcon(context, themeValues().rightArrow.icon(), brush, context.visual(place),
+                     IndicatorSize);
 }
 
 void paintItemFocus(const PaintContext& context, const QStyleOptionViewItem& item)

@@ -93,7 +93,7 @@ QBrush inputBackground(const PaintContext& context)
         return context.brush(ThemeNames::InputBackgroundActiveBrush);
     // A read-only field stands back like a disabled one, but its text does not.
     const bool editable = context.enabled() && !context.has(QStyle::State_ReadOnly);
-    return FrozenTheme::brush(ThemeNames::InputUncheckedBackgroundBrush, editable);
+    return themeValues().brushes.value(ThemeNames::InputUncheckedBackgroundBrush, editable);
 }
 
 QBrush inputBorder(const PaintContext& context)

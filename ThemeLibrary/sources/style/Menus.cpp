@@ -3,7 +3,6 @@
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
-#include "ThemeResources.h"
 
 #include <qdrawutil.h>
 
@@ -186,7 +185,7 @@ namespace {
 QBrush barBrush(const PaintContext& context)
 {
     const bool enabled = context.widget ? context.widget->isEnabled() : context.enabled();
-    return FrozenTheme::brush(ThemeNames::BackgroundSubLevel2Brush, enabled);
+    return themeValues().brushes.value(ThemeNames::BackgroundSubLevel2Brush, enabled);
 }
 
 } // namespace
@@ -198,7 +197,7 @@ void paintPanel(const PaintContext& context)
         return;
     const PainterSaver saver(context.painter);
     const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
-    const QBrush fill = ThemeResources::getBrush(ThemeNames::BackgroundSubLevel1Brush);
+    const QBrush fill = themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush);
     qDrawPlainRect(&context.painter, context.option.rect, border,
                    context.metric(QStyle::PM_MenuHMargin), &fill);
 }
@@ -238,7 +237,7 @@ void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     // The base style fills it with the color of buttons and draws two dashed lines, a dark and a
     // light one: here the color of menus and one line like that of separators.
-    const QBrush fill = ThemeResources::getBrush(ThemeNames::BackgroundSubLevel1Brush);
+    const QBrush fill = themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush);
     QStyleOptionMenuItem tearoff = item;
     tearoff.palette.setBrush(QPalette::Button, fill);
     tearoff.palette.setBrush(QPalette::Dark, context.style.lightOutlineBrush(item.palette));

@@ -1,7 +1,6 @@
 #include "BaseStyle.h"
 #include "ComboBoxDefaultItemDelegate.h"
-#include "ThemeNames.h"
-#include "ThemeResources.h"
+#include "ThemeValues.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
 
@@ -60,20 +59,20 @@ template <size_t Count>
 void handOut(QWidget& widget, const HandedBrush (&brushes)[Count])
 {
     for (const HandedBrush& brush : brushes)
-        widget.setProperty(brush.property, BaseStyle::getBrush(brush.name, brush.enabled));
+        widget.setProperty(brush.property, themeValues().brushes.value(brush.name, brush.enabled));
 }
 
 int cornerRadius(ThemeNames::RadiusName size)
 {
-    return int(ThemeResources::getCornerRadius(size));
+    return int(themeValues().radii.value(size));
 }
 
 /// Sets `role` for all groups to the theme brush `name`, and for the Disabled group to its twin.
 void setPaletteBrush(QWidget& widget, QPalette::ColorRole role, ThemeNames::BrushName name)
 {
     QPalette palette = widget.palette();
-    palette.setBrush(role, BaseStyle::getBrush(name, true));
-    palette.setBrush(QPalette::Disabled, role, BaseStyle::getBrush(name, false));
+    palette.setBrush(role, themeValues().brushes.value(name));
+    palette.setBrush(QPalette::Disabled, role, themeValues().brushes.value(name, false));
     widget.setPalette(palette);
 }
 
@@ -114,7 +113,7 @@ void fadeDisabledLabel(BaseStyle&, QWidget& widget)
 {
     QPalette palette = widget.palette();
     palette.setBrush(QPalette::Disabled, QPalette::WindowText,
-                     BaseStyle::getBrush(ThemeNames::ForegroundBrush, false));
+                     themeValues().brushes.value(ThemeNames::ForegroundBrush, false));
     widget.setPalette(palette);
 }
 
@@ -150,7 +149,7 @@ ThemeNames::FontName tabFontName(const QWidget& tabs)
 
 void setTabFont(BaseStyle&, QWidget& widget)
 {
-    const QFont font = ThemeResources::getFont(tabFontName(widget));
+    const QFont font = themeValues().fonts.value(tabFontName(widget));
     widget.setProperty(Properties::StyleSheetWidgetFont, font);
     widget.setFont(font);
 }
@@ -187,8 +186,8 @@ void paintBackground(BaseStyle&, QWidget& widget)
 
 void setCardTitleFonts(BaseStyle&, QWidget& widget)
 {
-    const QFont minimized = ThemeResources::getFont(ThemeNames::BaseFont);
-    const QFont normal = ThemeResources::getFont(ThemeNames::MediumFont);
+    const QFont minimized = themeValues().fonts.value(ThemeNames::BaseFont);
+    const QFont normal = themeValues().fonts.value(ThemeNames::MediumFont);
     widget.setProperty(Properties::CardTitleMinimizedFont, minimized);
     widget.setProperty(Properties::CardTitleDefaultFont, normal);
     if (const QObject* card = widget.parent())
@@ -263,7 +262,7 @@ void dressRoundedPixmap(BaseStyle&, QWidget& widget)
 
 void setPillFont(BaseStyle&, QWidget& widget)
 {
-    QFont font = ThemeResources::getFont(ThemeNames::SmallFont);
+    QFont font = themeValues().fonts.value(ThemeNames::SmallFont);
     font.setBold(true);
     widget.setFont(font);
 }
@@ -271,7 +270,7 @@ void setPillFont(BaseStyle&, QWidget& widget)
 void dressPeriodicTable(BaseStyle&, QWidget& widget)
 {
     const auto hand = [&](const char* property, ThemeNames::ColorName name) {
-        widget.setProperty(property, BaseStyle::getColor(name, true));
+        widget.setProperty(property, themeValues().colors.value(name));
     };
     hand(Properties::PeriodicTableBackgroundColor, ThemeNames::StatusConfigColor);
     hand(Properties::PeriodicTableBorderColor, ThemeNames::StatusConfigColor);
@@ -286,7 +285,7 @@ void dressPeriodicTable(BaseStyle&, QWidget& widget)
         ThemeNames::Series10Color, ThemeNames::Series11Color};
     QList<QColor> colors;
     for (const auto name : Series)
-        colors.append(ThemeResources::getColor(name));
+        colors.append(themeValues().colors.value(name));
     widget.setProperty(Properties::PeriodicTableColorList, QVariant::fromValue(colors));
 }
 
@@ -317,7 +316,7 @@ void calmWeekends(BaseStyle&, QWidget& widget)
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
         QTextCharFormat format = calendar.weekdayTextFormat(day);
         if (format.foreground() == QBrush(Qt::red)) {
-            format.setForeground(ThemeResources::getColor(ThemeNames::StatusDangerColor));
+            format.setForeground(themeValues().colors.value(ThemeNames::StatusDangerColor));
             calendar.setWeekdayTextFormat(day, format);
         }
     }

@@ -162,7 +162,7 @@ QBrush fillBrush(const PaintContext& context)
     const QColor themed =
         context.style.getPalette().color(palette.currentColorGroup(), QPalette::Highlight);
     // An application's own highlight color is kept.
-    if (highlight == themed || highlight == BaseStyle::getColor(ThemeNames::MainColor, true))
+    if (highlight == themed || highlight == themeValues().colors.value(ThemeNames::MainColor))
         return context.brush(ThemeNames::MainBrush);
     if (!context.enabled())
         highlight.setAlpha(DisabledHighlightAlpha);

@@ -3,7 +3,6 @@
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
-#include "ThemeResources.h"
 
 #include <QAbstractScrollArea>
 
@@ -107,7 +106,7 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& bar)
                                      ? ThemeNames::ForegroundDisabledBrush
                                      : ThemeNames::PrioritySecondarySubLevel1Brush);
     if (BaseStyle::isHovered(&bar))
-        brush = ThemeResources::getColor(ThemeNames::MainColor);
+        brush = themeValues().colors.value(ThemeNames::MainColor);
 
     const bool horizontal = context.has(QStyle::State_Horizontal);
     const int inset = int(SliderInset * (horizontal ? bar.rect.height() : bar.rect.width()));

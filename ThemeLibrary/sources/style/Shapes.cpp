@@ -2,7 +2,6 @@
 
 #include "Texts.h"
 #include "ThemeColorHelper.h"
-#include "ThemeResources.h"
 
 #include <QGuiApplication>
 
@@ -65,7 +64,7 @@ QPen borderPen(const QBrush& border)
 
 int cornerRadius(ThemeNames::RadiusName name)
 {
-    return int(ThemeResources::getCornerRadius(name));
+    return int(themeValues().radii.value(name));
 }
 
 void drawBox(const PaintContext& context, const QRectF& rect, int radius, const QBrush& fill,

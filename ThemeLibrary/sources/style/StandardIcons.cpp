@@ -1,8 +1,7 @@
 #include "BaseStyle.h"
 #include "Helpers.h"
 #include "ThemeColorHelper.h"
-#include "ThemeNames.h"
-#include "ThemeResources.h"
+#include "ThemeValues.h"
 #include "WidgetProperties.h"
 
 #include <QIcon>
@@ -100,7 +99,7 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
     if (name.isEmpty())
         return {};
     const bool enabled = !option || option->state & QStyle::State_Enabled;
-    const QBrush mainBrush = BaseStyle::getBrush(ThemeNames::MainBrush, enabled);
+    const QBrush mainBrush = themeValues().brushes.value(ThemeNames::MainBrush, enabled);
     const QIcon icon = QIcon::fromTheme(name);
     if (!sSpecificIcons.contains(name))
         return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, mainBrush);
@@ -113,20 +112,19 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
 QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
                               const QWidget* widget) const
 {
-    static QIcon toolbarHorizontalIcon;
-    static QIcon toolbarVerticalIcon;
+    const auto extensionIcon = [this](QIcon& icon, const char* const* xpm) {
+        if (icon.isNull())
+            icon = generateToolBarExpandButtonIcon(xpm, m_palette);
+        return icon;
+    };
     const QString name = iconName(pixmap);
     if (!name.isEmpty())
         return QIcon::fromTheme(name);
     switch (pixmap) {
     case SP_ToolBarHorizontalExtensionButton:
-        if (toolbarHorizontalIcon.isNull())
-            toolbarHorizontalIcon = generateToolBarExpandButtonIcon(toolbarHorizontal, m_palette);
-        return toolbarHorizontalIcon;
+        return extensionIcon(themeValues().horizontalExtension, toolbarHorizontal);
     case SP_ToolBarVerticalExtensionButton:
-        if (toolbarVerticalIcon.isNull())
-            toolbarVerticalIcon = generateToolBarExpandButtonIcon(toolbarVertical, m_palette);
-        return toolbarVerticalIcon;
+        return extensionIcon(themeValues().verticalExtension, toolbarVertical);
     case SP_CustomBase: return highlightedIcon(option, widget);
     default: return QProxyStyle::standardIcon(pixmap, option, widget);
     }
@@ -147,7 +145,7 @@ QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
     // Other widgets than labels get their icons ready for the state before they are painted.
     if (!option || mode != QIcon::Disabled || !qobject_cast<const QLabel*>(option->styleObject))
         return pixmap;
-    const QBrush brush = getBrush(ThemeNames::ForegroundBrush, false);
+    const QBrush brush = themeValues().brushes.value(ThemeNames::ForegroundBrush, false);
     const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon(pixmap), brush);
     const qreal ratio = pixmap.devicePixelRatioF();
     return icon.pixmap(int(pixmap.width() / ratio), int(pixmap.height() / ratio), QIcon::Normal,

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BaseStyle.h"
-#include "FrozenTheme.h"
+#include "ThemeValues.h"
 #include "WidgetProperties.h"
 
 #include <QStyleOption>
@@ -54,13 +54,13 @@ struct StyleContext
     /// The theme brush `name`, or its twin when the control is disabled.
     const QBrush& brush(ThemeNames::BrushName name) const
     {
-        return FrozenTheme::brush(name, enabled());
+        return themeValues().brushes.value(name, enabled());
     }
 
     /// The theme color `name`, or its twin when the control is disabled.
     const QColor& color(ThemeNames::ColorName name) const
     {
-        return FrozenTheme::color(name, enabled());
+        return themeValues().colors.value(name, enabled());
     }
 
     const QBrush& borderBrush() const { return BaseStyle::getBorderBrush(enabled()); }

@@ -2,7 +2,6 @@
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
-#include "ThemeResources.h"
 #include "WidgetTraits.h"
 
 // Status bars, splitters and rubber bands, and what layouts and windows measure.
@@ -66,17 +65,17 @@ void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& 
 {
     const PainterSaver saver(context.painter);
     const QRectF rect = Shapes::onPixels(band.rect);
-    const QColor color = ThemeResources::getColor(ThemeNames::MainColor);
+    const QColor color = themeValues().colors.value(ThemeNames::MainColor);
     context.painter.setRenderHint(QPainter::Antialiasing);
     context.painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     if (band.shape == QRubberBand::Rectangle) {
         constexpr int Opaque = 255;
         QColor fill = color;
-        fill.setAlpha(int(ThemeResources::getOpacity(ThemeNames::RubberBandOpacity) * Opaque));
+        fill.setAlpha(int(themeValues().opacities.value(ThemeNames::RubberBandOpacity) * Opaque));
         context.painter.setBrush(fill);
     }
     if (context.widget && WidgetTraits::isCardWidget(context.widget->parent())) {
-        const qreal radius = ThemeResources::getCornerRadius(ThemeNames::MediumSize);
+        const qreal radius = themeValues().radii.value(ThemeNames::MediumSize);
         context.painter.drawRoundedRect(rect, radius, radius);
     } else {
         context.painter.drawRect(rect);

@@ -10,7 +10,7 @@ class QWidget;
 
 /// The theme values that the gallery decorates itself with. Without a theme the palette and the
 /// application's font stand in, so the gallery also shows an application that is not themed.
-namespace Gallery::ThemeValues {
+namespace Gallery::Decoration {
 
 /// The theme's color `name`, else the application palette's color of `fallback`.
 QColor color(const QString& name, QPalette::ColorRole fallback);
@@ -35,4 +35,4 @@ int radius(const QString& name);
 /// Gives `label` a color and a font of the theme.
 void dress(QLabel& label, const QColor& ink, const QFont& font);
 
-} // namespace Gallery::ThemeValues
+} // namespace Gallery::Decoration

@@ -1,4 +1,4 @@
-#include "kit/ThemeValues.h"
+#include "kit/Decoration.h"
 
 #include "ThemeColorHelper.h"
 #include "ThemeResources.h"
@@ -8,7 +8,7 @@
 
 using namespace BRELK;
 
-namespace Gallery::ThemeValues {
+namespace Gallery::Decoration {
 
 QColor color(const QString& name, QPalette::ColorRole fallback)
 {
@@ -70,4 +70,4 @@ void dress(QLabel& label, const QColor& ink, const QFont& font)
     label.setFont(font);
 }
 
-} // namespace Gallery::ThemeValues
+} // namespace Gallery::Decoration
