@@ -1,3 +1,4 @@
+#include "Cells.h"
 #include "Pages.h"
 #include "ThemeResources.h"
 #include "companions/Companions.h"
@@ -149,6 +150,8 @@ void fillViews(Page& page)
                   captioned(QStringLiteral("Panel of a cascade"), cascade),
                   captioned(QStringLiteral("Editing in place"), editing)}),
              true);
+    page.addSection(QStringLiteral("Cells"), QStringLiteral("Controls that a delegate paints."))
+        .add(makeControlCells(), true);
 }
 
 } // namespace Gallery

@@ -116,6 +116,29 @@ QString faultIn(const QStyle& style, const Element& element, const Sample& sampl
     return warnings(messages);
 }
 
+/// What an element paints in the middle of a picture: its option stands there, or the painter does.
+QImage painted(const QStyle& style, const Element& element, const Departure& departure, bool moved)
+{
+    constexpr QPoint Place(60, 30);
+    const Sample own = sampleNamed(element.name);
+    Sample sample = own;
+    departure.apply(sample);
+    QImage image(260, 200, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::gray);
+    QPainter painter(&image);
+    if (!moved) {
+        painter.translate(Place);
+    } else {
+        sample.option->rect.translate(Place);
+        if (auto* frame = qstyleoption_cast<QStyleOptionTabWidgetFrame*>(sample.option.get()))
+            frame->selectedTabRect.translate(Place);
+        if (auto* base = qstyleoption_cast<QStyleOptionTabBarBase*>(sample.option.get()))
+            base->selectedTabRect.translate(Place);
+    }
+    element.use(style, sample, &painter);
+    return image;
+}
+
 } // namespace
 
 class tst_Contract : public QObject
@@ -161,6 +184,23 @@ private Q_SLOTS:
                     QFAIL(qPrintable(QLatin1String(first.name) + QLatin1String(", ")
                                      + QLatin1String(second.name) + QLatin1String(": ") + fault));
             }
+    }
+
+    void elementsArePaintedWhereTheyStand_data() { elements_data(); }
+
+    /// As a delegate paints them, which passes what it likes as widget.
+    void elementsArePaintedWhereTheyStand()
+    {
+        QFETCH(int, index);
+        const Element& element = StyleOptions::elements().at(index);
+        if (isLeftToBase(element))
+            return;
+        for (const Departure& departure : Departures)
+            if (departure.aspect == Departure::Nothing || departure.aspect == Departure::Look
+                || departure.aspect == Departure::Widget)
+                QVERIFY2(painted(*m_style, element, departure, false)
+                             == painted(*m_style, element, departure, true),
+                         departure.name);
     }
 
     void metricsAndHintsNeedNeitherOptionNorWidget()

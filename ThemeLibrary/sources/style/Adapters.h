@@ -54,10 +54,21 @@ template <class Option,
           QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubControl, const BasePart&)>
 struct Adapter<Rule>
 {
+    /// Rules place the parts of a control at the origin, where widgets paint; that of a delegate
+    /// stands anywhere, and its parts with it.
     static QRect call(const StyleContext& context, QStyle::SubControl part, const BasePart& base)
     {
         const auto* option = qstyleoption_cast<const Option*>(&context.option);
-        return option ? Rule(context, *option, part, base) : base.rect();
+        if (!option)
+            return base.rect();
+        const QPoint place = option->rect.topLeft();
+        if (place.isNull())
+            return Rule(context, *option, part, base);
+        Option atOrigin = *option;
+        atOrigin.rect.moveTo(0, 0);
+        const StyleContext moved{context.style, atOrigin, context.widget};
+        const QRect rect = Rule(moved, atOrigin, part, base.of(atOrigin));
+        return rect.isNull() ? rect : rect.translated(place);
     }
 };
 

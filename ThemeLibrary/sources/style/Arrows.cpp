@@ -1,6 +1,6 @@
+#include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
-#include "Shapes.h"
 #include "WidgetTraits.h"
 
 #include <QToolButton>
@@ -14,7 +14,6 @@ namespace BRELK::Arrows {
 namespace {
 
 constexpr int MenuIndicatorSize = 20; ///< keeps the arrow off border and focus mark
-constexpr int IconSize = 16;
 constexpr int ComboBoxIndicatorSize =
     24; ///< where the text of a combo box ends, its arrow area begins
 
@@ -36,9 +35,7 @@ void paintArrow(const PaintContext& context, const QIcon& icon)
     const QBrush brush = qobject_cast<const QToolButton*>(context.widget)
                              ? ButtonContent::foreground(context.option, context.widget)
                              : context.option.palette.brush(QPalette::ButtonText);
-    const QRect& rect = context.option.rect;
-    const int size = qMin(context.measure().dpiScaled(IconSize), qMin(rect.width(), rect.height()));
-    Shapes::drawIcon(context, icon, brush, rect, size);
+    ArrowIcons::draw(context, icon, context.option.rect, brush);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
@@ -6,6 +7,7 @@
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
 
 // Push buttons, command links, and the panels of everything that looks like a button.
@@ -65,10 +67,10 @@ Corners joinedBefore(const StyleContext& context)
     return context.rightToLeft() ? Helpers::LeftCorners : Helpers::RightCorners;
 }
 
-/// The two buttons of a spin box lie inside its border: each has one round corner.
+/// The two buttons of a spin box at the origin lie inside its border: each has one round corner.
 Corners spinButtonCorners(const StyleContext& context)
 {
-    const bool isUpper = context.option.rect.center().y() < context.widget->rect().center().y();
+    const bool isUpper = context.option.rect.top() < context.option.rect.height();
     return joinedBehind(context) | (isUpper ? Helpers::BottomCorners : Helpers::TopCorners);
 }
 
@@ -87,13 +89,24 @@ bool isArrowOfEditor(const QWidget* widget)
     return (comboBox && comboBox->isEditable()) || WidgetTraits::isCalendarPopupEditor(widget);
 }
 
+bool hasFrame(const QWidget* editor)
+{
+    const auto* comboBox = qobject_cast<const QComboBox*>(editor);
+    return comboBox ? comboBox->hasFrame()
+                    : static_cast<const QAbstractSpinBox*>(editor)->hasFrame();
+}
+
 /// The arrow of an editable combo box ends before the box does, its panel with it.
 QRect panelRect(const StyleContext& context)
 {
-    QRect rect = context.option.rect;
-    if (context.widget && isArrowOfEditor(context.widget))
-        rect.setRight(qMax(rect.right(), context.widget->width() - 1));
-    return rect;
+    if (!isArrowOfEditor(context.widget))
+        return context.option.rect;
+    QStyleOptionComboBox comboBox;
+    comboBox.initFrom(context.widget);
+    comboBox.rect = QRect(QPoint(), context.widget->size());
+    comboBox.frame = hasFrame(context.widget);
+    const QRect arrow = context.part(QStyle::CC_ComboBox, comboBox, QStyle::SC_ComboBoxArrow);
+    return context.option.rect.adjusted(0, 0, comboBox.rect.right() - arrow.right(), 0);
 }
 
 Corners straightCorners(const StyleContext& context)
@@ -275,7 +288,7 @@ void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
                                      button.rect.y() + (button.rect.height() - indicator) / 2,
                                      indicator, indicator});
         ButtonContent::commonCallButtonText(arrow, context.widget);
-        context.draw(QStyle::PE_IndicatorArrowDown, arrow);
+        ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, arrow);
     }
 }
 

@@ -175,7 +175,12 @@ void paintCheckBox(const PaintContext& context, const QStyleOptionButton& button
 
     if (context.has(QStyle::State_HasFocus)) {
         auto focus = optionFrom<QStyleOptionFocusRect>(button);
-        focus.rect = context.part(QStyle::SE_CheckBoxFocusRect);
+        // Qt places an icon's at the origin.
+        QStyleOptionButton atOrigin = button;
+        atOrigin.rect.moveTo(0, 0);
+        const QRect rect =
+            context.proxy().subElementRect(QStyle::SE_CheckBoxFocusRect, &atOrigin, context.widget);
+        focus.rect = rect.translated(button.rect.topLeft());
         context.draw(QStyle::PE_FrameFocusRect, focus);
     }
 }

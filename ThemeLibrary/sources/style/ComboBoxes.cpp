@@ -1,3 +1,4 @@
+#include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
 #include "InputMetrics.h"
@@ -99,7 +100,7 @@ void paintArrow(const PaintContext& context, const QStyleOptionComboBox& comboBo
     auto arrow = optionFrom<QStyleOptionButton>(comboBox);
     arrow.rect = rect;
     ButtonContent::commonCallButtonText(arrow, context.widget);
-    context.draw(QStyle::PE_IndicatorArrowDown, arrow);
+    ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, arrow);
 }
 
 /// A combo box without a frame shows by its ground that it is pointed at or open. That covers the
@@ -188,13 +189,6 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
 
 void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
-    // Deliberate: everything is taken at the origin, where the widget paints.
-    if (!comboBox.rect.topLeft().isNull()) {
-        QStyleOptionComboBox copy = comboBox;
-        copy.rect.moveTo(0, 0);
-        paintComboBox({{context.style, copy, context.widget}, context.painter}, copy);
-        return;
-    }
     const QRect arrowRect = context.proxy().subControlRect(
         QStyle::CC_ComboBox, &comboBox, QStyle::SC_ComboBoxArrow, context.widget);
     const bool hasArrow = comboBox.subControls & QStyle::SC_ComboBoxArrow;

@@ -122,12 +122,13 @@ RectRule ruleOf(QStyle::SubElement element)
 PartRule ruleOf(QStyle::ComplexControl control)
 {
     switch (control) {
-    case QStyle::CC_ComboBox:  return by<ComboBoxes::partRect>;
-    case QStyle::CC_GroupBox:  return by<GroupBoxes::partRect>;
-    case QStyle::CC_ScrollBar: return by<ScrollBars::partRect>;
-    case QStyle::CC_Slider:    return by<Sliders::partRect>;
-    case QStyle::CC_SpinBox:   return by<SpinBoxes::partRect>;
-    default:                   return nullptr;
+    case QStyle::CC_ComboBox:    return by<ComboBoxes::partRect>;
+    case QStyle::CC_GroupBox:    return by<GroupBoxes::partRect>;
+    case QStyle::CC_MdiControls: return by<TitleBars::controlRect>;
+    case QStyle::CC_ScrollBar:   return by<ScrollBars::partRect>;
+    case QStyle::CC_Slider:      return by<Sliders::partRect>;
+    case QStyle::CC_SpinBox:     return by<SpinBoxes::partRect>;
+    default:                     return nullptr;
     }
 }
 

@@ -4,6 +4,7 @@
 
 class QStyleOptionButton;
 class QStyleOptionComboBox;
+class QStyleOptionComplex;
 class QStyleOptionDockWidget;
 class QStyleOptionFrame;
 class QStyleOptionGroupBox;
@@ -185,6 +186,9 @@ void paintLabel(const PaintContext& context, const QStyleOptionTab& tab);
 } // namespace Tabs
 
 namespace TitleBars {
+/// Of the buttons of a maximized sub-window.
+QRect controlRect(const StyleContext& context, const QStyleOptionComplex& controls,
+                  QStyle::SubControl part, const BasePart& base);
 void paintWindowFrame(const PaintContext& context);
 void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& dock);
 void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titleBar);

@@ -1,3 +1,4 @@
+#include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
@@ -278,7 +279,10 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
         scrollBarRoom(context) + (showsChildren(context.widget, item) ? IndicatorSize : 0);
     const QRect rect = context.rightToLeft() ? whole.adjusted(margin + room, 0, -margin, 0)
                                              : whole.adjusted(margin, 0, -margin - room, 0);
-    const int alignment = int(QStyle::visualAlignment(item.direction, item.displayAlignment));
+    Qt::Alignment given = item.displayAlignment;
+    if (!(given & Qt::AlignVertical_Mask)) // a model that names one side does not mean the top
+        given |= Qt::AlignVCenter;
+    const int alignment = int(QStyle::visualAlignment(item.direction, given));
     context.painter.setFont(item.font);
     if (!isOneLine(item, rect)) {
         paintLines(context, item, rect, alignment, brush);
@@ -317,7 +321,7 @@ void paintArrow(const PaintContext& context, bool down)
     ButtonContent::setForeground(arrow, textBrush(context));
     const QStyle::PrimitiveElement sideways =
         context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
-    context.draw(down ? QStyle::PE_IndicatorArrowDown : sideways, arrow);
+    ArrowIcons::drawOf(context, down ? QStyle::PE_IndicatorArrowDown : sideways, arrow);
 }
 
 } // namespace

@@ -1,3 +1,4 @@
+#include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
@@ -227,9 +228,10 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
         arrow.rect = context.visual(
             {rect.right() + 1 - columns.end, rect.y() + (rect.height() - side) / 2, side, side});
         ButtonContent::setForeground(arrow, brush);
-        context.draw(context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft
-                                           : QStyle::PE_IndicatorArrowRight,
-                     arrow);
+        ArrowIcons::drawOf(context,
+                           context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft
+                                                 : QStyle::PE_IndicatorArrowRight,
+                           arrow);
     }
 }
 

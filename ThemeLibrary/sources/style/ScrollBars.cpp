@@ -1,3 +1,4 @@
+#include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
@@ -77,7 +78,7 @@ void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool 
     if (BaseStyle::isHovered(&bar) || BaseStyle::isPressed(bar))
         ButtonContent::setForeground(arrow, context.color(ThemeNames::MainColor));
     if (bar.rect.contains(arrow.rect))
-        context.draw(lineArrow(context, forwards), arrow);
+        ArrowIcons::drawOf(context, lineArrow(context, forwards), arrow);
 }
 
 } // namespace

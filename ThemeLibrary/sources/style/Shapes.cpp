@@ -87,6 +87,17 @@ void drawGround(const PaintContext& context, const QRect& rect, int radius, cons
                             Helpers::None, QPen(Qt::NoPen), fill, &context.painter);
 }
 
+QRect visiblePart(const QPainter& painter, const QRect& rect)
+{
+    const QPaintDevice* device = painter.device();
+    const QRect bounds = device ? QRect(0, 0, device->width(), device->height()) : QRect();
+    if (bounds.isEmpty() || device->devType() == QInternal::Picture)
+        return rect;
+    const QRect seen =
+        painter.combinedTransform().inverted().mapRect(QRectF(bounds)).toAlignedRect();
+    return rect & seen;
+}
+
 void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
               const QBrush& brush)
 {
@@ -153,6 +164,12 @@ void drawGrips(const PaintContext& context, Qt::Orientation orientation, int fro
                int across, const QColor& ground)
 {
     constexpr int Step = 4;
+    const bool upright = orientation == Qt::Vertical;
+    const QRect seen = visiblePart(
+        context.painter, upright ? QRect(QPoint(across, from), QPoint(across + GripSize, to))
+                                 : QRect(QPoint(from, across), QPoint(to, across + GripSize)));
+    from += qMax(0, (upright ? seen.top() : seen.left()) - from) / Step * Step;
+    to = qMin(to, (upright ? seen.bottom() : seen.right()) + 1);
     context.style.drawGrips(context.painter, orientation, from, to, across, Step, GripSize, 1);
     if (!isLight(ground.isValid() ? ground : context.option.palette.color(QPalette::Window)))
         return;

@@ -31,6 +31,10 @@ void drawBox(const PaintContext& context, const QRectF& rect, int radius, const 
 /// The ground inside the border of such a box.
 void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill);
 
+/// What of `rect` the device of `painter` can show: all of it on a device without bounds. For those
+/// who draw many things one after another.
+QRect visiblePart(const QPainter& painter, const QRect& rect);
+
 /// A horizontal or vertical line of one pixel, both ends included.
 void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
               const QBrush& brush);

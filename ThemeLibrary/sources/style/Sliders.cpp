@@ -6,6 +6,8 @@
 #include <QCursor>
 #include <QSlider>
 
+#include <algorithm>
+
 // Sliders and dials.
 //
 // Properties: "rangeSlider", "slider_high_contrast", "slider_highlighted".
@@ -140,13 +142,15 @@ QRectF highlightedRect(const SliderLook& look)
 {
     const QRectF groove = look.groove;
     const QRect& handle = look.handle;
+    const QPoint origin = look.slider.rect.topLeft();
     if (look.horizontal) {
         return look.slider.upsideDown
-                   ? groove.adjusted(handle.right() - look.radius + 0.5, 0.5, -1.0, 0.5)
+                   ? groove.adjusted(handle.right() - origin.x() - look.radius + 0.5, 0.5, -1.0,
+                                     0.5)
                    : groove.adjusted(1.0, 0.5, -(groove.right() - handle.right()) - 0.5, 0.5);
     }
     return look.slider.upsideDown
-               ? groove.adjusted(0.5, handle.bottom() - look.radius + 0.5, 0.5, -1.0)
+               ? groove.adjusted(0.5, handle.bottom() - origin.y() - look.radius + 0.5, 0.5, -1.0)
                : groove.adjusted(0.5, 1.0, 0.5, -(groove.bottom() - handle.bottom()) - 0.5);
 }
 
@@ -172,18 +176,22 @@ qint64 tickInterval(const SliderLook& look, int available)
     if (slider.tickInterval >= 1)
         return slider.tickInterval;
     const int stepWidth =
-        positionOf(slider, slider.singleStep, available) - positionOf(slider, 0, available);
+        qAbs(positionOf(slider, slider.singleStep, available) - positionOf(slider, 0, available));
     return qMax(1, stepWidth < SmallestStepWidth ? slider.pageStep : slider.singleStep);
 }
 
-void paintTick(const SliderLook& look, int position, int inset, int length, const QBrush& brush)
+/// A tick on each side that has ticks, or those of neighbouring positions as one.
+void paintTick(const SliderLook& look, int from, int to, int inset, int length)
 {
+    const QBrush brush = look.context.brush(ThemeNames::InputForegroundBrush).color();
     const QRect& rect = look.slider.rect;
-    const auto draw = [&](int from, int to) {
-        if (look.horizontal)
-            Shapes::drawLine(look.context, {position, from}, {position, to}, brush);
+    const auto draw = [&](int start, int end) {
+        const QRect tick = look.horizontal ? QRect(QPoint(from, start), QPoint(to, end))
+                                           : QRect(QPoint(start, from), QPoint(end, to));
+        if (from == to)
+            Shapes::drawLine(look.context, tick.topLeft(), tick.bottomRight(), brush);
         else
-            Shapes::drawLine(look.context, {from, position}, {to, position}, brush);
+            look.context.painter.fillRect(tick, brush);
     };
     const int start = look.horizontal ? rect.top() : rect.left();
     const int end = look.horizontal ? rect.bottom() : rect.right();
@@ -193,27 +201,54 @@ void paintTick(const SliderLook& look, int position, int inset, int length, cons
         draw(end - length, end - inset);
 }
 
+/// Along a slider: where the ticks of its ends stand, and which part can be seen.
+struct TickRow
+{
+    int start;
+    int space;
+    int seenFrom;
+    int seenTo;
+};
+
+TickRow tickRow(const SliderLook& look)
+{
+    const QRect& rect = look.slider.rect;
+    const QRect seen = Shapes::visiblePart(look.context.painter, rect);
+    const int length = look.context.metric(QStyle::PM_SliderLength);
+    const int start = length / 2;
+    return look.horizontal
+               ? TickRow{rect.left() + start, rect.width() - length, seen.left(), seen.right()}
+               : TickRow{rect.top() + start, rect.height() - length, seen.top(), seen.bottom()};
+}
+
 void paintTicks(const SliderLook& look)
 {
     const QStyleOptionSlider& slider = look.slider;
-    const PaintContext& context = look.context;
-    const int tickLength = context.metric(QStyle::PM_SliderTickmarkOffset);
-    const int handleLength = context.metric(QStyle::PM_SliderLength);
-    const int space = (look.horizontal ? slider.rect.width() : slider.rect.height()) - handleLength;
-    const qint64 interval = tickInterval(look, context.metric(QStyle::PM_SliderSpaceAvailable));
+    const int tickLength = look.context.metric(QStyle::PM_SliderTickmarkOffset);
+    const TickRow row = tickRow(look);
+    const qint64 interval =
+        tickInterval(look, look.context.metric(QStyle::PM_SliderSpaceAvailable));
     const qint64 range = qint64(slider.maximum) - slider.minimum;
-    if (range < 0 || space <= 0 || range / interval > space) // closer than a pixel
+    if (range < 0 || row.space <= 0)
         return;
-
-    const QBrush brush = context.brush(ThemeNames::InputForegroundBrush).color();
-    const qint64 end = qint64(slider.maximum) + 1;
-    for (qint64 value = slider.minimum; value <= end; value += interval) {
-        if (value == end && interval == 1)
-            break;
-        const int shown = int(qMin(value, qint64(slider.maximum)));
-        const int inset = shown == slider.minimum || shown == slider.maximum ? 1 : 2;
-        paintTick(look, positionOf(slider, shown, space) + handleLength / 2, inset, tickLength,
-                  brush);
+    if (range / interval > row.space) { // closer than a pixel: one at each
+        paintTick(look, row.start, row.start + row.space, 2, tickLength);
+        paintTick(look, row.start, row.start, 1, 1);
+        paintTick(look, row.start + row.space, row.start + row.space, 1, 1);
+        return;
+    }
+    const auto indexAt = [&](int position) {
+        const qint64 value = QStyle::sliderValueFromPosition(
+            slider.minimum, slider.maximum, position - row.start, row.space, slider.upsideDown);
+        return (value - slider.minimum) / interval;
+    };
+    const std::pair<qint64, qint64> seen = std::minmax(indexAt(row.seenFrom), indexAt(row.seenTo));
+    const qint64 last = (range + (interval == 1 ? 0 : 1)) / interval;
+    for (qint64 i = qMax(seen.first - 1, qint64(0)); i <= qMin(seen.second + 1, last); ++i) {
+        const int value = int(qMin(slider.minimum + i * interval, qint64(slider.maximum)));
+        const int inset = value == slider.minimum || value == slider.maximum ? 1 : 2;
+        const int position = row.start + positionOf(slider, value, row.space);
+        paintTick(look, position, position, inset, tickLength);
     }
 }
 
@@ -235,9 +270,14 @@ void paintHandle(const SliderLook& look)
     const QBrush brush = handleBrush(look);
     painter.setBrush(brush);
     painter.setPen(look.highContrast ? look.highContrastBorder().color() : brush.color());
-    // With a radius beyond half the side this is a circle, and quicker than drawing an ellipse.
-    const QRect circle = look.handle.adjusted(1, 1, -1, -1);
-    Helpers::drawRoundedRectShape(circle, circle.width(), Helpers::None, &painter);
+    const QRect ellipse = look.handle.adjusted(1, 1, -1, -1);
+    if (ellipse.width() == ellipse.height()) {
+        // With a radius beyond half the side this is a circle, and quicker than an ellipse.
+        Helpers::drawRoundedRectShape(ellipse, ellipse.width(), Helpers::None, &painter);
+        return;
+    }
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawEllipse(ellipse);
 }
 
 /// Around the way of the handle, clear of the ticks.

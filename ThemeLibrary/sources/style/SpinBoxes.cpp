@@ -4,6 +4,7 @@
 #include "Pictures.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
+#include "WidgetTraits.h"
 
 // Spin boxes, date and time editors.
 //
@@ -123,7 +124,9 @@ void paintStepButton(const PaintContext& context, const StepButton& button,
     bevel.rect = copy.rect;
     bevel.state = copy.state;
     setPalette(bevel, copy.palette);
-    context.draw(QStyle::PE_PanelButtonBevel, bevel);
+    // For another widget it would be that of a button that stands alone.
+    if (WidgetTraits::isSpinBox(context.widget) || BaseStyle::isDown(bevel))
+        context.draw(QStyle::PE_PanelButtonBevel, bevel);
 
     if (context.style.getButtonBackgroundState(bevel) == BaseStyle::ButtonBackground_Highlighted)
         ButtonContent::setForeground(copy, copy.palette.brush(QPalette::HighlightedText));
@@ -226,6 +229,14 @@ void paintPlus(const PaintContext& context)
 
 void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBox)
 {
+    if (!spinBox.rect.topLeft().isNull()) { // the upper button is known by where it is
+        QStyleOptionSpinBox atOrigin = spinBox;
+        atOrigin.rect.moveTo(0, 0);
+        const PainterSaver saver(context.painter);
+        context.painter.translate(spinBox.rect.topLeft());
+        paintSpinBox({{context.style, atOrigin, context.widget}, context.painter}, atOrigin);
+        return;
+    }
     const QRect frame = context.proxy().subControlRect(QStyle::CC_SpinBox, &spinBox,
                                                        QStyle::SC_SpinBoxFrame, context.widget);
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);

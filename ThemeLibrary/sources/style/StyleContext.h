@@ -119,6 +119,12 @@ public:
         : m_style(style), m_control(control), m_option(option), m_part(part), m_widget(widget)
     { }
 
+    /// The same part of another option.
+    BasePart of(const QStyleOptionComplex& option) const
+    {
+        return {m_style, m_control, &option, m_part, m_widget};
+    }
+
     QRect rect() const
     {
         return m_style.QProxyStyle::subControlRect(m_control, m_option, m_part, m_widget);

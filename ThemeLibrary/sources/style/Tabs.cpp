@@ -342,10 +342,18 @@ void paintFocus(const PaintContext& context, const QStyleOptionTab& tab)
     const bool upright = isUpright(sideOf(tab.shape));
     auto focus = optionFrom<QStyleOptionFocusRect>(tab);
     focus.rect.adjust(inset, inset, -inset, -inset);
+    // Qt places the buttons across the tab as if that were at the origin.
+    QStyleOptionTab atOrigin = tab;
+    atOrigin.rect.moveTo(0, 0);
+    const auto part = [&](QStyle::SubElement element) {
+        return context.proxy()
+            .subElementRect(element, &atOrigin, context.widget)
+            .translated(tab.rect.topLeft());
+    };
     if (!tab.leftButtonSize.isEmpty())
-        focus.rect = beside(focus.rect, context.part(QStyle::SE_TabBarTabLeftButton), upright);
+        focus.rect = beside(focus.rect, part(QStyle::SE_TabBarTabLeftButton), upright);
     if (!tab.rightButtonSize.isEmpty())
-        focus.rect = beside(focus.rect, context.part(QStyle::SE_TabBarTabRightButton), upright);
+        focus.rect = beside(focus.rect, part(QStyle::SE_TabBarTabRightButton), upright);
     context.draw(QStyle::PE_FrameFocusRect, focus);
 }
 

@@ -9,7 +9,11 @@
 
 namespace BRELK::TitleBars {
 
-namespace { } // namespace
+QRect controlRect(const StyleContext&, const QStyleOptionComplex&, QStyle::SubControl,
+                  const BasePart& base)
+{
+    return base.rect();
+}
 
 namespace {
 

@@ -2,6 +2,8 @@
 #include "Shapes.h"
 #include "ThemeNames.h"
 
+#include <QComboBox>
+
 // Tool bars, their handles and separators.
 
 namespace BRELK::ToolBars {
@@ -22,16 +24,18 @@ void paintHandle(const PaintContext& context)
 
 void paintSeparator(const PaintContext& context)
 {
-    constexpr int EndMargin = 4;
+    constexpr int SeparatorMargin = 4;
+    // In the popup of a combo box it parts rows from edge to edge.
+    const int endMargin = qobject_cast<const QComboBox*>(context.widget) ? 0 : SeparatorMargin;
     const QRect& rect = context.option.rect;
     const QBrush brush = context.color(ThemeNames::BackgroundUpLevel1Color);
     const QPoint centre = rect.center();
     if (context.has(QStyle::State_Horizontal))
-        Shapes::drawLine(context, {centre.x(), rect.top() + EndMargin},
-                         {centre.x(), rect.bottom() - EndMargin}, brush);
+        Shapes::drawLine(context, {centre.x(), rect.top() + endMargin},
+                         {centre.x(), rect.bottom() - endMargin}, brush);
     else
-        Shapes::drawLine(context, {rect.left() + EndMargin, centre.y()},
-                         {rect.right() - EndMargin, centre.y()}, brush);
+        Shapes::drawLine(context, {rect.left() + endMargin, centre.y()},
+                         {rect.right() - endMargin, centre.y()}, brush);
 }
 
 void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBar)

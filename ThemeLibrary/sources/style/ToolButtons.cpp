@@ -1,3 +1,4 @@
+#include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
@@ -104,7 +105,7 @@ void paintMenuPart(const PaintContext& context, const QStyleOptionToolButton& bu
     menu.subControls = QStyle::SC_ToolButtonMenu;
     if (state & PanelStates && !context.flag(WidgetProperties::Circular))
         context.draw(QStyle::PE_IndicatorButtonDropDown, menu);
-    context.draw(QStyle::PE_IndicatorArrowDown, menu);
+    ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, menu);
 }
 
 void paintMenuMark(const PaintContext& context, const QStyleOptionToolButton& button)
@@ -113,7 +114,7 @@ void paintMenuMark(const PaintContext& context, const QStyleOptionToolButton& bu
     QStyleOptionToolButton mark = button;
     mark.rect = context.visual({button.rect.right() - side,
                                 button.rect.y() + (button.rect.height() - side) / 2, side, side});
-    context.draw(QStyle::PE_IndicatorArrowDown, mark);
+    ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, mark);
 }
 
 QBrush textBrush(const QStyleOptionToolButton& button)
