@@ -118,17 +118,14 @@ void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& ba
     const QRect rect = partRect(context, bar, QStyle::SC_TitleBarSysMenu);
     if (!rect.isValid())
         return;
-    if (!bar.icon.isNull()) {
-        ButtonContent::commonModifyStyleOptionIcon(bar.icon, bar.palette.brush(QPalette::Text))
-            .paint(&context.painter, rect, Qt::AlignCenter);
-        return;
-    }
-    const PainterSaver saver(context.painter);
+    const bool isOwn = !bar.icon.isNull();
     const QIcon icon =
-        context.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &bar, context.widget);
-    context.proxy().drawItemPixmap(
-        &context.painter, rect, Qt::AlignCenter,
-        Shapes::iconPixmap(context.painter, icon, {MenuIconSize, MenuIconSize}));
+        isOwn ? ButtonContent::commonModifyStyleOptionIcon(bar.icon,
+                                                           bar.palette.brush(QPalette::Text))
+              : context.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &bar, context.widget);
+    const QSize size = isOwn ? rect.size() : QSize(MenuIconSize, MenuIconSize);
+    context.proxy().drawItemPixmap(&context.painter, rect, Qt::AlignCenter,
+                                   Shapes::iconPixmap(context.painter, icon, size));
 }
 
 /// The theme has no icon for these, and the toolkit's have colors of their own.
