@@ -13,7 +13,7 @@ namespace {
 
 void print(const char* key, const QString& value)
 {
-    std::printf("%s=%s\n", key, qPrintable(value));
+    std::printf("%s %s\n", key, qPrintable(value));
 }
 
 void printState(const ThemeQApplication& app)

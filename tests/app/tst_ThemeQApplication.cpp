@@ -1,3 +1,4 @@
+#include "LookSheet.h"
 #include "TemporaryRepository.h"
 #include "Transcript.h"
 
@@ -14,8 +15,8 @@ private:
 
     /// What the program reports and prints when it is started with these arguments between blanks,
     /// and these given to its constructor; "REPOSITORY" stands for the themes' directory.
-    QByteArray start(const char* arguments, const char* theme, const char* repository,
-                     const char* next = nullptr) const
+    LookSheet::States::value_type start(const char* arguments, const char* theme,
+                                        const char* repository, const char* next = nullptr) const
     {
         const auto expanded = [this](const char* text) {
             return QString::fromLatin1(text).replace(QLatin1String("REPOSITORY"),
@@ -32,29 +33,32 @@ private:
         process.start(QStringLiteral(VARN_TEST_PROGRAM),
                       expanded(arguments).split(QLatin1Char(' ')));
         process.waitForFinished();
-        return QByteArray("# '") + arguments + "' '" + theme + "' '" + repository + "' "
-               + (process.exitCode() == 0 ? "\n" : "crashed\n")
-               + process.readAll().replace(m_repository.path().toUtf8(), "REPOSITORY");
+        return {QByteArray("'") + arguments + "' '" + theme + "' '" + repository + "'"
+                    + (next ? QByteArray(" then ") + next : QByteArray()),
+                (process.exitCode() == 0 ? "" : "crashed\n")
+                    + process.readAll().replace(m_repository.path().toUtf8(), "REPOSITORY")};
     }
 
 private Q_SLOTS:
 
     void themesAreChosen()
     {
-        m_repository.addTheme(QStringLiteral("Day"), "Day of the designer", "#00ff00");
+        m_repository.addTheme(QStringLiteral("Day"), "Daylight", "#00ff00");
         m_repository.addTheme(QStringLiteral("Night"), "Night", "#0000ff");
         m_repository.addTheme(QStringLiteral("--theme"), "Odd", "#ff00ff");
-        QByteArray text;
+        LookSheet::States starts;
         for (const char* arguments :
              {"--theme Day", "file", "file --theme Night", "--theme Night --theme Day", "--theme",
               "--theme=Night", "--theme --theme", "--theme Dusk"})
-            text += start(arguments, "Day", "REPOSITORY");
-        text += start("--theme Day --theme-repository REPOSITORY", "", "/none");
+            starts += start(arguments, "Day", "REPOSITORY");
+        starts += start("--theme Day --theme-repository REPOSITORY", "", "/none");
         for (const char* repository : {"/none", "", "REPOSITORY/Day"})
-            text += start("--theme Dusk", "", repository);
+            starts += start("--theme Dusk", "", repository);
         for (const char* next : {"Night", "Dusk"})
-            text += start("", "Day", "REPOSITORY", next);
-        COMPARE_TRANSCRIPT("ThemeQApplication", text);
+            starts += start("", "Day", "REPOSITORY", next);
+        LookSheet sheet;
+        sheet.add(starts.first().first, starts.first().second, starts.mid(1), 0);
+        COMPARE_TRANSCRIPT("ThemeQApplication", sheet.text());
     }
 };
 

@@ -44,18 +44,6 @@ private Q_SLOTS:
         QCOMPARE(ProbeTheme::nameOf(style.lightOutlineBrush(polished)), "palette.Midlight");
     }
 
-    void grips()
-    {
-        const auto painted = [this](Qt::Orientation orientation, int from, int to) {
-            return drawn([&](QPainter* painter) {
-                m_style->drawGrips(*painter, orientation, from, to, 3, 4, 3, 2);
-            });
-        };
-        QCOMPARE(painted(Qt::Vertical, 5, 5) + painted(Qt::Horizontal, 9, 2), "");
-        COMPARE_TRANSCRIPT("BaseStyle.grips",
-                           painted(Qt::Horizontal, 1, 6) + painted(Qt::Vertical, 1, 6));
-    }
-
     void standardIcons()
     {
         QByteArray names;

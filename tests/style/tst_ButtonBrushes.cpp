@@ -1,3 +1,4 @@
+#include "LookSheet.h"
 #include "StateSheet.h"
 
 using namespace BRELK;
@@ -20,32 +21,13 @@ void setProperties(QObject& object, const QByteArray& words)
     }
 }
 
-/// The brushes of background, border and foreground by the beginnings of their names, or by one
-/// word if these are alike: "ButtonChecked", "ButtonChecked MainBrush none". Of disabled ones,
-/// "Disabled" follows.
+/// The brushes of background, border and foreground.
 QByteArray brushesOf(const QStyleOption& option, const QWidget* widget)
 {
     const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&option, widget);
-    const std::pair<QBrush, QByteArray> parts[] = {{brushes.backgroundBrush, "BackgroundBrush"},
-                                                   {brushes.borderBrush, "BorderBrush"},
-                                                   {brushes.foregroundBrush, "ForegroundBrush"}};
-    QByteArrayList words;
-    int disabled = 0;
-    for (const auto& [brush, ending] : parts) {
-        QByteArray name = ProbeTheme::nameOf(brush);
-        if (name.endsWith("Disabled")) {
-            name.chop(8);
-            ++disabled;
-        }
-        if (name.endsWith(ending) && name != ending)
-            name.chop(ending.size());
-        words.append(name);
-    }
-    if (words.count(words.first()) == words.size())
-        words = {words.first()};
-    if (disabled > 0)
-        words.append(disabled == 3 ? "Disabled" : "partly Disabled");
-    return words.join(' ');
+    return ProbeTheme::nameOf(brushes.backgroundBrush) + ' '
+           + ProbeTheme::nameOf(brushes.borderBrush) + ' '
+           + ProbeTheme::nameOf(brushes.foregroundBrush);
 }
 
 template <class Option = QStyleOptionButton>
@@ -85,17 +67,17 @@ private Q_SLOTS:
             State state;
             QStyleOptionButton::ButtonFeatures features = QStyleOptionButton::None;
         } states[] = {
-            {"at rest", Enabled},
+            {"at-rest", Enabled},
             {"hovered", Hovered},
             {"pressed", Pressed | Hovered},
             {"checked", Checked},
-            {"checked and hovered", Checked | Hovered},
+            {"checked-hovered", Checked | Hovered},
             {"disabled", QStyle::State_MouseOver | QStyle::State_Active},
             {"default", Checked | QStyle::State_Active, QStyleOptionButton::DefaultButton},
-            {"default, pressed", Pressed | QStyle::State_Active, QStyleOptionButton::DefaultButton},
-            {"default in an inactive window", Enabled, QStyleOptionButton::DefaultButton},
+            {"default-pressed", Pressed | QStyle::State_Active, QStyleOptionButton::DefaultButton},
+            {"default-inactive", Enabled, QStyleOptionButton::DefaultButton},
             {"flat", Enabled, QStyleOptionButton::Flat},
-            {"flat, pressed", Pressed, QStyleOptionButton::Flat},
+            {"flat-pressed", Pressed, QStyleOptionButton::Flat},
         };
 
         const std::pair<const char*, const char*> kinds[] = {
@@ -115,26 +97,29 @@ private Q_SLOTS:
             {"checkable", "ButtonGroupWidget_Workflow ButtonGroupWidget_Exclusive"},
             {"checkable checked", "ButtonGroupWidget_Workflow ButtonGroupWidget_Exclusive"},
         };
-        QByteArray text;
+        LookSheet::States looks;
         for (const auto& [own, groups] : kinds) {
             QWidget group;
             setProperties(group, groups);
             // A plain widget, since "checkable" is a property that buttons have of their own.
             QWidget widget(&group);
             setProperties(widget, own);
-            text += QByteArray("# ") + own + ' ' + groups + '\n';
+            QByteArray text;
             for (const auto& [name, state, features] : states) {
                 auto option = optionOf(state);
                 option.features = features;
-                const QByteArray brushes = brushesOf(option, &widget);
+                QByteArray brushes = brushesOf(option, &widget);
                 text += QByteArray(name) + ": " + brushes + '\n';
                 widget.setEnabled(false);
-                if (!brushes.contains("none"))
-                    QCOMPARE(brushesOf(option, &widget), brushes + " Disabled");
+                brushes.replace("BrushDisabled", "Brush").replace("Brush", "BrushDisabled");
+                QCOMPARE(brushesOf(option, &widget), brushes);
                 widget.setEnabled(true);
             }
+            looks.append({QByteArray(own) + (*groups ? " in " : "") + groups, text});
         }
-        COMPARE_TRANSCRIPT("ButtonBrushes.names", text);
+        LookSheet sheet;
+        sheet.add("plain", looks.first().second, looks.mid(1), 0);
+        COMPARE_TRANSCRIPT("ButtonBrushes.names", sheet.text());
     }
 
     void buttonsWithRulesOfTheirOwn()

@@ -59,23 +59,6 @@ private Q_SLOTS:
         }
     }
 
-    void applicationsColorsAreKept()
-    {
-        Open<QLineEdit> edit;
-        QPalette palette = edit.palette();
-        palette.setColor(QPalette::Base, Qt::red);
-        edit.setPalette(palette);
-        QVERIFY(drawn(QStyle::PE_PanelLineEdit, optionOf<QStyleOptionFrame>(edit, BoxSize), &edit)
-                    .contains("brush #ff0000"));
-
-        Open<QComboBox> box;
-        box.setPlaceholderText(QStringLiteral("Text"));
-        auto option = optionOf<QStyleOptionComboBox>(box, BoxSize);
-        option.currentText = box.placeholderText();
-        QVERIFY(
-            drawn(QStyle::CE_ComboBoxLabel, option, &box).contains("pen palette.PlaceholderText"));
-    }
-
     void popupIsAsWideAsItsLongestItem()
     {
         const QString text = QStringLiteral("An item that is very much longer than the box");

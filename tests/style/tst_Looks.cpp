@@ -1,6 +1,9 @@
 #include "LookSheet.h"
+#include "PictureDifference.h"
 #include "SpyStyle.h"
 #include "StateSheet.h"
+
+#include <QPicture>
 
 // What the elements look like that the style paints or measures itself, in transcripts.
 
@@ -12,8 +15,17 @@ namespace {
 
 constexpr State RightToLeft{"right to left"};
 
-/// What an element measures and paints.
-QByteArray lookOf(const Element& element, const Settings& settings, const State& state)
+/// The elements of these kinds that the style paints or measures itself.
+QVector<Element> ownElements(const QByteArrayList& kinds)
+{
+    QVector<Element> own;
+    for (const Element& element : StyleOptions::elements())
+        if (kinds.contains(element.name.left(2)) && !isLeftToBase(element))
+            own.append(element);
+    return own;
+}
+
+Sample sampleOf(const Element& element, const Settings& settings, const State& state)
 {
     const Sample sample = StyleOptions::sampleNamed(element.name, settings);
     if (state.name == RightToLeft.name) {
@@ -22,11 +34,50 @@ QByteArray lookOf(const Element& element, const Settings& settings, const State&
     }
     sample.widget->setEnabled(state.removed == QStyle::State_None);
     setState(*sample.option, state);
+    return sample;
+}
+
+/// What an element measures and paints.
+QByteArray lookOf(const Element& element, const Settings& settings, const State& state)
+{
+    const Sample sample = sampleOf(element, settings, state);
     QByteArray measured;
     const QByteArray painted = drawn([&](QPainter* painter) {
         measured = element.use(*QApplication::style(), sample, painter);
     });
     return measured + painted;
+}
+
+/// A recording, painted anew each time it is played, of what is to be seen on a fine screen.
+class FinePicture : public QPicture
+{
+protected:
+    int metric(PaintDeviceMetric metric) const override
+    {
+        const int scale = metric == PdmDevicePixelRatio || metric == PdmDevicePixelRatioScaled;
+        return QPicture::metric(metric) << scale;
+    }
+};
+
+constexpr int Fine = 2; ///< the ratio of such a screen
+
+QImage onFineScreen(const QSize& size, const std::function<void(QPainter*)>& paint, bool recorded)
+{
+    QImage image(size * Fine, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::white);
+    if (!recorded)
+        image.setDevicePixelRatio(Fine);
+    QPainter painter(&image);
+    if (!recorded) {
+        paint(&painter);
+        return image;
+    }
+    FinePicture picture;
+    QPainter recorder(&picture);
+    paint(&recorder);
+    recorder.end();
+    painter.drawPicture(0, 0, picture);
+    return image;
 }
 
 void addLook(LookSheet& sheet, const Element& element, const QByteArray& words = {},
@@ -44,8 +95,9 @@ Settings settingsOf(const QByteArray& words)
     Settings settings;
     for (const QByteArray& word : words.simplified().split(' ')) {
         const QList<QByteArray> pair = word.split('=');
-        settings.insert(pair.first(), pair.size() == 2 ? QVariant(QString::fromLatin1(pair.last()))
-                                                       : QVariant(true));
+        settings.insert(pair.first() == "no_menu_arrow" ? "no menu arrow" : pair.first(),
+                        pair.size() == 2 ? QVariant(QString::fromLatin1(pair.last()))
+                                         : QVariant(true));
     }
     return settings;
 }
@@ -88,10 +140,33 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, prefix);
         LookSheet sheet;
-        for (const Element& element : StyleOptions::elements())
-            if (element.name.startsWith(prefix) && !isLeftToBase(element))
-                addLook(sheet, element);
+        for (const Element& element : ownElements({prefix}))
+            addLook(sheet, element);
         COMPARE_TRANSCRIPT("Elements." + prefix, sheet.text());
+    }
+
+    /// Drawings are kept as pixels and as laid-out lines, and nobody may see that.
+    void onFineScreensAsPaintedAnew()
+    {
+        constexpr int Rounding = 8;
+        // Their pens are a pixel wide, of the screen or of the recording.
+        const QByteArrayList pens{"PE_IndicatorSpinUp", "PE_IndicatorSpinDown", "CC_SpinBox"};
+        for (const Element& element : ownElements({"PE", "CE", "CC"}))
+            for (const State& state : {AtRest, Checked, Disabled}) {
+                const Sample sample = sampleOf(element, {}, state);
+                const QSize size = sample.option->rect.size();
+                const auto paint = [&](QPainter* painter) {
+                    element.use(*QApplication::style(), sample, painter);
+                };
+                QVERIFY2(!drawnAtRatio(Fine, paint).contains("blurred"), element.name);
+                if (pens.contains(element.name))
+                    continue;
+                const QImage expected = onFineScreen(size, paint, true);
+                for (int time = 0; time < 2; ++time)
+                    QVERIFY2(largestDifference(onFineScreen(size, paint, false), expected)
+                                 <= Rounding,
+                             element.name);
+            }
     }
 
     void withSettings_data()

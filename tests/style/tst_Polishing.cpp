@@ -32,17 +32,20 @@ QByteArrayList describe(const QWidget& widget)
     if (widget.testAttribute(Qt::WA_StyledBackground))
         lines += "paints its background";
     const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        for (int role = 0; role < QPalette::NColorRoles; ++role)
-            if (role != QPalette::NoRole)
-                lines += QByteArray(roles.valueToKey(role)) + ' ' + QByteArray::number(group) + ": "
-                         + toText(widget.palette().brush(group, QPalette::ColorRole(role)));
+    for (int role = 0; role < QPalette::NColorRoles; ++role) {
+        QByteArray line = roles.valueToKey(role);
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            line += ' ' + toText(widget.palette().brush(group, QPalette::ColorRole(role)));
+        lines += line;
+    }
     if (const auto* area = qobject_cast<const QScrollArea*>(&widget))
         lines += QByteArray("viewport ") + roles.valueToKey(area->viewport()->backgroundRole());
     if (const auto* bar = qobject_cast<const QProgressBar*>(&widget))
         lines += "text direction " + QByteArray::number(bar->textDirection());
     if (widget.layout())
         lines += "spacing " + QByteArray::number(widget.layout()->spacing());
+    if (const auto* edit = qobject_cast<const QLineEdit*>(&widget))
+        lines += "margin " + QByteArray::number(edit->textMargins().left());
     return lines;
 }
 
@@ -109,6 +112,9 @@ private Q_SLOTS:
         QMainWindow inner(&window);
         inner.setWindowFlags(Qt::Widget);
         sheet += polished(std::move(inner));
+        QSpinBox spinBox;
+        QComboBox comboBox;
+        sheet += polished(QLineEdit(&spinBox)) + polished(QLineEdit(&comboBox));
         Components::CardWidget card;
         for (const bool minimized : {false, true}) {
             card.minimized = minimized;

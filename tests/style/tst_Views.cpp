@@ -51,12 +51,6 @@ private Q_SLOTS:
         QStyleOptionViewItem row = rowOf(list);
         row.backgroundBrush = Qt::red;
         QVERIFY(drawn(QStyle::CE_ItemViewItem, row, &list).contains("brush #ff0000"));
-
-        QPalette palette = list.palette();
-        palette.setColor(QPalette::Highlight, Qt::green);
-        list.setPalette(palette);
-        QVERIFY(drawn(QStyle::PE_PanelItemViewItem, rowOf(list, QStyle::State_Selected), &list)
-                    .contains("brush #00ff00"));
     }
 
     void partsDoNotDependOnTheText()

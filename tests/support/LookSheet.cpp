@@ -88,11 +88,15 @@ QPair<QByteArray, QByteArray> shortest(const QByteArray& from, const QByteArray&
         ++tail;
     while (!begins(from, from.size() - tail) || !begins(to, to.size() - tail))
         --tail;
-    if (head + tail == from.size() || head + tail == to.size()) // else nothing to look for
+    // There must be something to look for.
+    while (head + tail == from.size() && head > 0)
         do
             --head;
-        while (head > 0 && !begins(from, head));
-    head = qMax(head, 0);
+        while (!begins(from, head));
+    while (head + tail == from.size() && tail > 0)
+        do
+            --tail;
+        while (!begins(from, from.size() - tail));
     return {from.mid(head, from.size() - head - tail), to.mid(head, to.size() - head - tail)};
 }
 

@@ -166,7 +166,7 @@ QPalette palette()
 
 QPixmap pixmap(const QColor& color)
 {
-    QPixmap filled(16, 16);
+    QPixmap filled(64, 64);
     filled.fill(color);
     return filled;
 }
@@ -216,8 +216,10 @@ QByteArray nameOf(const QImage& picture)
 
 QByteArray iconOf(const QImage& picture)
 {
-    static QHash<QByteArray, QByteArray> sNames{{shapeOf(pixmap().toImage()), "own"}};
+    static QHash<QByteArray, QByteArray> sNames;
     const QByteArray shape = shapeOf(picture);
+    if (shape.count(shape.at(0)) == shape.size())
+        return "own";
     QByteArray& name = sNames[shape];
     if (name.isEmpty()) {
         name = "unknown";

@@ -43,7 +43,8 @@ void publishEmpty();
 /// "palette.Disabled.Text", "palette.Inactive.Text".
 QPalette palette();
 
-/// A small picture in the color that icons are recolored from, or in another one.
+/// A picture for icons of 16 pixels also on fine screens, in the color that icons are recolored
+/// from, or in another one.
 QPixmap pixmap(const QColor& color = QColor(0xE5, 0xEE, 0xF4));
 
 /// The name of the theme brush, theme color or palette role that has this color. A translucent one

@@ -22,6 +22,19 @@ void apply(const Settings& settings, const QByteArray& prefix, QObject& object)
             object.setProperty(name, setting.value());
 }
 
+/// Colors that the application sets, before the style sees the widget.
+void applyColors(const Settings& settings, QWidget& widget)
+{
+    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
+    QPalette palette = widget.palette();
+    for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
+        if (setting.key().startsWith("palette."))
+            palette.setColor(QPalette::ColorRole(roles.keyToValue(setting.key().mid(8))),
+                             setting.value().toString());
+    if (palette != widget.palette())
+        widget.setPalette(palette);
+}
+
 /// Gives a widget what it can show: those of these properties that it has, and then the settings.
 void fill(QWidget& widget, const Settings& settings)
 {
@@ -43,12 +56,15 @@ void fill(QWidget& widget, const Settings& settings)
         if (widget.metaObject()->indexOfProperty(name) >= 0)
             widget.setProperty(name, value);
     apply(settings, {}, widget);
+    applyColors(settings, widget);
     const bool upright = widget.property("orientation").toInt() == Qt::Vertical;
     widget.ensurePolished();
     apply(settings, {}, widget); // again, as polishing sets some
     widget.resize(upright ? WidgetSize.transposed() : WidgetSize);
-    if (auto* comboBox = qobject_cast<QComboBox*>(&widget))
+    if (auto* comboBox = qobject_cast<QComboBox*>(&widget)) {
         comboBox->addItem(ProbeTheme::pixmap(), QStringLiteral("Text"));
+        apply(settings, {}, widget);
+    }
     if (auto* groupBox = qobject_cast<QGroupBox*>(&widget))
         groupBox->setCheckable(true);
     if (auto* tabBar = qobject_cast<QTabBar*>(&widget))
@@ -377,7 +393,6 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings)
     if (!sample.widget)
         sample = plain<QWidget>(settings);
     const auto states = QMetaEnum::fromType<QStyle::StateFlag>();
-    const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting) {
         const QByteArray& key = setting.key();
         if (key.startsWith("option."))
@@ -385,9 +400,6 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings)
         else if (key.startsWith("State_"))
             sample.option->state.setFlag(QStyle::StateFlag(states.keyToValue(key)),
                                          setting.value().toBool());
-        else if (key.startsWith("palette."))
-            sample.option->palette.setColor(QPalette::ColorRole(roles.keyToValue(key.mid(8))),
-                                            setting.value().toString());
     }
     const auto ofParent = settings.lowerBound("parent.");
     if (ofParent != settings.cend() && ofParent.key().startsWith("parent.")) {

@@ -34,8 +34,9 @@ struct Open : Widget
 };
 
 /// What makes a sample a special one: properties of the widget by their names, those of a group of
-/// buttons around it as "parent.name", fields of the option as "option.name", "State_name" and
-/// "palette.role", and as "class" that of the widget, where several kinds paint with the element.
+/// buttons around it as "parent.name", colors of its palette as "palette.role", fields of the
+/// option as "option.name" and "State_name", and as "class" that of the widget, where several kinds
+/// paint with the element.
 using Settings = QMap<QByteArray, QVariant>;
 
 /// By the name of an element, as "CE_PushButton".

@@ -204,8 +204,10 @@ public:
                    Qt::ImageConversionFlags) override
     {
         const QImage part = image.copy(source.toAlignedRect());
-        write("pixmap " + ProbeTheme::iconOf(part) + ' ' + toText(rect) + " brush "
-              + ProbeTheme::nameOf(part));
+        write(
+            "pixmap " + ProbeTheme::iconOf(part) + ' ' + toText(rect) + " brush "
+            + ProbeTheme::nameOf(part)
+            + (part.width() < rect.width() * paintDevice()->devicePixelRatioF() ? " blurred" : ""));
     }
 
     void drawTextItem(const QPointF& place, const QTextItem& item) override
@@ -263,7 +265,7 @@ private:
 class Paper : public QImage
 {
 public:
-    Paper() : QImage(4096, 4096, Format_Alpha8) { }
+    explicit Paper(qreal ratio) : QImage(4096, 4096, Format_Alpha8) { setDevicePixelRatio(ratio); }
 
     mutable Engine engine;
 
@@ -289,9 +291,9 @@ QByteArray toText(const QRectF& rect)
     return toText(rect.topLeft()) + ' ' + toText(rect.width()) + 'x' + toText(rect.height());
 }
 
-QByteArray drawn(const std::function<void(QPainter*)>& paint)
+QByteArray drawnAtRatio(qreal ratio, const std::function<void(QPainter*)>& paint)
 {
-    Paper paper;
+    Paper paper(ratio);
     QPainter painter(&paper);
     paint(&painter);
     painter.end();

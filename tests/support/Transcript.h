@@ -13,14 +13,20 @@
 /// What `paint` draws, in words: a line for each shape with its brush, pen, transform and clip, but
 /// only what is not as by default, and free of fonts and antialiasing. Colors have the names of the
 /// probe theme. Of a text it tells the rectangle that the style was given for it, or else where it
-/// begins; of a pixmap the icon and the color that most of it has.
+/// begins; of a pixmap the icon, the color that most of it has, and whether it has too few pixels
+/// for a device of this ratio.
 ///
 /// Look into it for the one fact that a test is about. What matters as a whole is kept as a file
 /// under tests/style/transcripts:
 /// \code
 /// COMPARE_TRANSCRIPT("CheckBoxes", drawn(QStyle::PE_IndicatorCheckBox, option, &checkBox));
 /// \endcode
-QByteArray drawn(const std::function<void(QPainter*)>& paint);
+QByteArray drawnAtRatio(qreal ratio, const std::function<void(QPainter*)>& paint);
+
+inline QByteArray drawn(const std::function<void(QPainter*)>& paint)
+{
+    return drawnAtRatio(1, paint);
+}
 
 /// The style, whose texts are told with their rectangles.
 class TranscribedStyle : public BRELK::BaseStyle

@@ -1,5 +1,6 @@
 #include "BaseStyle.h"
 #include "BaseTheme.h"
+#include "LookSheet.h"
 #include "MessageRecorder.h"
 #include "TemporaryRepository.h"
 #include "ThemeFactory.h"
@@ -85,9 +86,9 @@ class tst_BaseTheme : public QObject
 
 private:
     /// What applying a theme reports and changes, and what applying another one after it does.
-    QByteArray applied(const QByteArray& title, const QStringList& themes = {QStringLiteral("a")})
+    QByteArray applied(const QStringList& themes = {QStringLiteral("a")})
     {
-        QByteArray text = "# " + title + '\n';
+        QByteArray text;
         for (const QString& theme : themes) {
             MessageRecorder messages;
             BaseTheme(m_files.path(theme)).customize(qApp);
@@ -133,26 +134,35 @@ private Q_SLOTS:
     {
         QCOMPARE(ThemeResources::getOpacity(QStringLiteral("Early")), 0.0);
         ThemeResources::getColor(QStringLiteral("Later"));
-        QByteArray text = applied("applied after a lookup");
-        text += applied("twice", {QStringLiteral("a"), QStringLiteral("a")})
-                + applied("another", {QStringLiteral("a"), QStringLiteral("b")});
+        LookSheet::States cases;
+        const auto apply = [&](const QByteArray& name,
+                               const QStringList& themes = {QStringLiteral("a")}) {
+            cases.append({name, applied(themes)});
+        };
+        const QByteArray afterLookups = applied();
+        apply("applied");
+        apply("twice", {QStringLiteral("a"), QStringLiteral("a")});
+        apply("another", {QStringLiteral("a"), QStringLiteral("b")});
         qputenv("BRELK_USE_NATIVE_STYLE", "");
-        text += applied("with the native style");
+        apply("with the native style");
         qunsetenv("BRELK_USE_NATIVE_STYLE");
         QApplication::setPalette(QPalette(Qt::green));
-        text += applied("over colors of the application's own");
+        apply("over colors of the application's own");
         for (const char* file : {"theme.xml", "config.xml", "qpaletteMapping.xml"}) {
             const QString path = m_files.path(QLatin1String("a/") + QLatin1String(file));
             QFile::remove(path);
-            text += applied(QByteArray("without ") + file);
+            apply(QByteArray("without ") + file);
             QDir().mkdir(path);
-            text += applied(QByteArray("with a directory ") + file);
+            apply(QByteArray("with a directory ") + file);
             QDir().rmdir(path);
             m_files.write(QLatin1String("a/") + QLatin1String(file), "<theme><name>A</nam");
-            text += applied(QByteArray("with a broken ") + file);
+            apply(QByteArray("with a broken ") + file);
             m_files.addTheme(QStringLiteral("a"), "A");
         }
-        COMPARE_TRANSCRIPT("BaseTheme.applying", text);
+        LookSheet sheet;
+        cases.append({"applied after lookups", afterLookups});
+        sheet.add("applied", cases.first().second, cases.mid(1), 0);
+        COMPARE_TRANSCRIPT("BaseTheme.applying", sheet.text());
     }
 
     void bundlesAndFonts()
@@ -164,18 +174,17 @@ private Q_SLOTS:
         for (const char* name : {"broken.rcc", "ignored.RCC", "ignored.rcc.txt", "sub/ignored.rcc"})
             m_files.write(scalable + QLatin1String(name), "no bundle");
         m_files.write(QStringLiteral("a/Fonts/broken.ttf"), "no font");
-        QVERIFY(applied("").startsWith("# \n"
-                                       "Error reading font: REPOSITORY/a/Fonts/broken.ttf\n"
-                                       "Error reading resource bundle: "
-                                       "REPOSITORY/a/Images/A/scalable/broken.rcc\n"
-                                       "brushes"));
+        QVERIFY(applied().startsWith("Error reading font: REPOSITORY/a/Fonts/broken.ttf\n"
+                                     "Error reading resource bundle: "
+                                     "REPOSITORY/a/Images/A/scalable/broken.rcc\n"
+                                     "brushes"));
         QVERIFY(QFile::exists(QStringLiteral(":/from/a/bundle")));
     }
 
     void variablesAreThereWhenWidgetsAreRestyled()
     {
         const Witness widget;
-        applied("");
+        applied();
         QCOMPARE(widget.seenColor.value<QColor>(), QColor(Qt::red));
         QCOMPARE(widget.seenIcons, QStringLiteral("before"));
     }

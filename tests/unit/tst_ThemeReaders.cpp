@@ -147,9 +147,10 @@ private Q_SLOTS:
     void configurations()
     {
         QByteArray text;
-        for (const char* theme : {"Factors", "Colors", "Base", "Derived", "BadEntries", "BadRoot",
-                                  "ExtendsItself", "ExtendsNothing", "ExtendsAPath", "Entities",
-                                  "Derivations", "NotClosed", "Empty", "None"})
+        for (const char* theme :
+             {"Factors", "Colors", "Base", "Derived", "BadEntries", "BadRoot", "ExtendsItself",
+              "ExtendsCircle", "ExtendsNothing", "ExtendsAPath", "Entities", "Derivations",
+              "NotClosed", "Empty", "None"})
             text += QByteArray("# ") + theme + '\n'
                     + readConfiguration(reading(theme) + QLatin1String("/config.xml"));
         COMPARE_TRANSCRIPT("Readers.configurations", text);
