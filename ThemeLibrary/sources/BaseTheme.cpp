@@ -2,6 +2,7 @@
 
 #include "BaseStyle.h"
 #include "BaseTheme_p.h"
+#include "EmbeddedIcons.h"
 #include "QPaletteReader.h"
 #include "ThemeColorHelper.h"
 #include "ThemeConfigurationReader.h"
@@ -129,7 +130,7 @@ void addSearchPaths(const QString& imagesPath, const QString& scalablePath)
     QDir::addSearchPath(ThemeResources::iconsPrefix(), scalablePath);
     QDir::addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
     // Deliberate: lower case, so this is not the embedded folder but the place that theme bundles
-    // add icons to.
+    // add icons to, and the library's own come after.
     QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << QStringLiteral(":/icons"));
     QDir::addSearchPath(ThemeResources::cursorsPrefix(), imagesPath + QLatin1String("/Cursors"));
     QDir::addSearchPath(ThemeResources::cursorsPrefix(), QStringLiteral(":/Cursors"));
@@ -181,11 +182,13 @@ void BaseTheme::customize(QApplication* app)
         themeValues().askedTooEarly.clear();
     }
 
+    QColor foreground = QGuiApplication::palette().color(QPalette::WindowText);
     if (!qEnvironmentVariableIsSet("BRELK_USE_NATIVE_STYLE")) {
         if (mapping.getStatus() != QPaletteReader::NO_ERROR)
             log(QLatin1String("Error reading theme QPalette mapping file: ") + mappingPath);
         QPalette palette = mapping.deserialize();
         deriveDisabledGroup(palette);
+        foreground = palette.color(QPalette::WindowText);
         installStyle(palette);
         installStyleSheets(*app);
     }
@@ -196,6 +199,7 @@ void BaseTheme::customize(QApplication* app)
     const QString imagesPath = m_themePath + QLatin1String("/Images/") + name;
     const QString scalablePath = imagesPath + QLatin1String("/scalable");
     registerBundles(scalablePath);
+    EmbeddedIcons::offerToIconTheme(getName(), foreground);
     addSearchPaths(imagesPath, scalablePath);
 }
 

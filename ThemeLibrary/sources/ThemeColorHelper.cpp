@@ -1,6 +1,7 @@
 #include "ThemeColorHelper.h"
 
 #include "ColorDerivations.h"
+#include "EmbeddedIcons.h"
 #include "Helpers.h"
 #include "ThemeResources.h"
 #include "ThemeResources_p.h"
@@ -14,6 +15,18 @@ namespace BRELK::ThemeColorHelper {
 
 namespace {
 
+/// Icons of desktop names are offered in the theme's foreground, and never have dots in their name.
+QIcon inReferenceColor(const QIcon& icon)
+{
+    const QString name = icon.name();
+    const QColor offered = EmbeddedIcons::offeredColor();
+    if (name.isEmpty() || name.contains(QLatin1Char('.'))
+        || offered == QColor(EmbeddedIcons::ReferenceColor))
+        return icon;
+    return Helpers::getModifiedIconWithForegroundBrush(
+        icon, offered, QColor(EmbeddedIcons::ReferenceColor), false);
+}
+
 QIcon themedOrRecolored(const QIcon& icon, const QBrush& brush)
 {
     QString brushName = ThemeResources::getBrushKey(brush);
@@ -26,9 +39,9 @@ QIcon themedOrRecolored(const QIcon& icon, const QBrush& brush)
     if (!themed.isNull() && themed.name() == themedName)
         return themed;
 
-    const QColor reference(0xE5, 0xEE, 0xF4);
+    const QColor reference(EmbeddedIcons::ReferenceColor);
     return Helpers::getModifiedIconWithForegroundBrush(
-        icon, reference, brush, brushName.contains(ThemeNames::Disabled.text));
+        inReferenceColor(icon), reference, brush, brushName.contains(ThemeNames::Disabled.text));
 }
 
 struct IconInBrush

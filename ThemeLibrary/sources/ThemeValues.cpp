@@ -105,10 +105,10 @@ const QBrush& FrozenPair::value(bool enabled)
     return enabled ? m_enabled : m_disabled;
 }
 
-const QIcon& FrozenIcon::icon()
+QIcon FrozenIcon::icon()
 {
     if (!m_icon)
-        m_icon = QIcon::fromTheme(m_name);
+        m_icon.emplace(m_name);
     return *m_icon;
 }
 

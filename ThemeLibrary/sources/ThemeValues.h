@@ -1,5 +1,6 @@
 #pragma once
 
+#include "EmbeddedIcons.h"
 #include "ThemeNames.h"
 
 #include <QBrush>
@@ -77,17 +78,17 @@ private:
     QBrush m_disabled;
 };
 
-/// An icon of the icon theme. It outlives a change of that theme: it looks itself up again.
+/// A mark of the style. It outlives a change of the icon theme: it looks itself up again.
 class FrozenIcon
 {
 public:
     explicit FrozenIcon(QLatin1String name) : m_name(name) { }
 
-    const QIcon& icon();
+    QIcon icon();
 
 private:
     QLatin1String m_name;
-    std::optional<QIcon> m_icon;
+    std::optional<EmbeddedIcons::StyleIcon> m_icon;
 };
 
 /// Where the composed brushes of a kind are, by all other words of their names; negative where none

@@ -1,9 +1,12 @@
+#include "BaseStyle.h"
+#include "BaseTheme.h"
+#include "TemporaryRepository.h"
+#include "ThemeColorHelper.h"
 #include "ThemeResources.h"
 
 #include <QDir>
 #include <QImageReader>
 #include <QRegularExpression>
-#include <QResource>
 #include <QtTest>
 
 using namespace BRELK;
@@ -28,6 +31,28 @@ QImage rendered(const QString& name, int size)
         .convertToFormat(QImage::Format_ARGB32);
 }
 
+/// That of the most opaque pixel.
+QColor strongestColor(const QIcon& icon)
+{
+    const QImage picture = icon.pixmap(48).toImage();
+    QColor strongest(Qt::transparent);
+    for (int pixel = 0; pixel < picture.width() * picture.height(); ++pixel) {
+        const QColor color = picture.pixelColor(pixel % picture.width(), pixel / picture.width());
+        if (color.alpha() > strongest.alpha())
+            strongest = color;
+    }
+    return strongest;
+}
+
+/// Icons of themes are red squares here, those of programs blue ones.
+QString ownerOf(const QIcon& icon)
+{
+    const QColor color = strongestColor(icon);
+    if (color == Qt::red || color == Qt::blue)
+        return color == Qt::red ? QStringLiteral("theme") : QStringLiteral("program");
+    return color.alpha() == 0 ? QStringLiteral("none") : QStringLiteral("library");
+}
+
 } // namespace
 
 class tst_EmbeddedIcons : public QObject
@@ -35,7 +60,29 @@ class tst_EmbeddedIcons : public QObject
     Q_OBJECT
 
 private:
+    /// Whose icons are found: by search path, by name, by a desktop's name, and as a mark of the
+    /// style.
+    static QString found()
+    {
+        const QIcon icons[] = {ThemeResources::getIcon(QStringLiteral("action.close")),
+                               QIcon::fromTheme(QStringLiteral("action.close")),
+                               QIcon::fromTheme(QStringLiteral("document-save")),
+                               BaseStyle().standardIcon(QStyle::SP_TitleBarCloseButton)};
+        QStringList owners;
+        for (const QIcon& icon : icons)
+            owners += ownerOf(icon);
+        return owners.join(QLatin1Char(' '));
+    }
+
+    QString foundAfterApplying(const char* theme) const
+    {
+        QDir::setSearchPaths(ThemeResources::iconsPrefix(), {});
+        BaseTheme(m_files.addTheme(QLatin1String(theme), theme)).customize(qApp);
+        return found();
+    }
+
     const QVector<QStringList> m_icons = table("manifest.tsv");
+    const TemporaryRepository m_files;
 
 private Q_SLOTS:
 
@@ -70,19 +117,50 @@ private Q_SLOTS:
         }
     }
 
-    void areFoundByNameInTheShippedThemes()
+    void areFoundUnderAnyIconTheme()
     {
-        const QStringList themes = QDir(QStringLiteral(VARN_THEME_REPOSITORY))
-                                       .entryList(QDir::Dirs | QDir::NoDotAndDotDot);
-        QVERIFY(!themes.isEmpty());
-        for (const QString& theme : themes) {
-            const QString bundle =
-                QStringLiteral(VARN_THEME_REPOSITORY "/%1/Images/%1/scalable/icons.rcc");
-            QVERIFY2(QResource::registerResource(bundle.arg(theme)), qPrintable(theme));
-            QIcon::setThemeName(theme);
-            for (const QStringList& row : m_icons)
-                QCOMPARE(QIcon::fromTheme(row.first()).name(), row.first());
-        }
+        QIcon::setThemeSearchPaths(
+            {m_files.path(QStringLiteral("program")), QStringLiteral(":/icons")});
+        const QByteArray index = "[Icon Theme]\nName=T\n[scalable]\nSize=16\nType=Scalable\n";
+        const QString own = QStringLiteral("%1/Images/%1/scalable/action.close.svg");
+        const QString ownIndex = QStringLiteral("%1/Images/%1/index.theme");
+        m_files.write(QStringLiteral("program/P/index.theme"), index);
+        m_files.write(QStringLiteral("program/P/scalable/document-save.svg"), svgSquare("#0000ff"));
+
+        QCOMPARE(foundAfterApplying("Bare"), QStringLiteral("library library library library"));
+        QCOMPARE(QIcon::fromTheme(QStringLiteral("document-save-all")).name(),
+                 QStringLiteral("document-save"));
+        for (const QStringList& row : m_icons)
+            QCOMPARE(QIcon::fromTheme(row.first()).name(), row.first());
+        QIcon::setThemeName(QStringLiteral("P"));
+        QCOMPARE(found(), QStringLiteral("library library program library"));
+        QIcon::setFallbackSearchPaths({});
+        QCOMPARE(found(), QStringLiteral("library none program library"));
+        QIcon::setThemeName({});
+        QCOMPARE(found(), QStringLiteral("library none none library"));
+
+        m_files.write(own.arg(QLatin1String("Folder")), svgSquare("#ff0000"));
+        QCOMPARE(foundAfterApplying("Folder"), QStringLiteral("theme theme library theme"));
+        m_files.write(own.arg(QLatin1String("Index")), svgSquare("#ff0000"));
+        m_files.write(ownIndex.arg(QLatin1String("Index")), index);
+        QCOMPARE(foundAfterApplying("Index"), QStringLiteral("theme theme library theme"));
+
+        QFile bundle(QStringLiteral(VARN_ICON_BUNDLE));
+        QVERIFY(bundle.open(QIODevice::ReadOnly));
+        m_files.write(QStringLiteral("Bundle/Images/Bundle/scalable/icons.rcc"), bundle.readAll());
+        QCOMPARE(foundAfterApplying("Bundle"), QStringLiteral("library theme theme theme"));
+    }
+
+    void ofDesktopNamesAreInTheColorOfWords()
+    {
+        foundAfterApplying("White");
+        const QIcon icon = QIcon::fromTheme(QStringLiteral("edit-copy"));
+        QCOMPARE(strongestColor(icon), QColor(Qt::white));
+        QCOMPARE(strongestColor(
+                     ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, QBrush(Qt::red))),
+                 QColor(Qt::red));
+        QCOMPARE(strongestColor(QIcon::fromTheme(QStringLiteral("action.copy"))),
+                 QColor(0xE5, 0xEE, 0xF4));
     }
 
     void cursorsLoadTheirFirstImageAndHotSpot()

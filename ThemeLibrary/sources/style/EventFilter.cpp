@@ -1,4 +1,5 @@
 #include "BaseStyle.h"
+#include "EmbeddedIcons.h"
 #include "ThemeColorHelper.h"
 #include "ThemeValues.h"
 #include "WidgetProperties.h"
@@ -67,9 +68,8 @@ void colorLineEditButton(QToolButton& button)
     const bool keepsIcon =
         WidgetProperties::flag(button.parent(), WidgetProperties::CustomActionIcons)
         && !WidgetTraits::isLineEditClearButton(&button);
-    applyIcon(button,
-              keepsIcon ? originalIcon(button) : QIcon::fromTheme(QStringLiteral("action.close")),
-              brush);
+    const EmbeddedIcons::StyleIcon clear(QStringLiteral("action.close"));
+    applyIcon(button, keepsIcon ? originalIcon(button) : QIcon(clear), brush);
 }
 
 void colorCommandLink(QCommandLinkButton& button)

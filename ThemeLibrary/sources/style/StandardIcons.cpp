@@ -1,4 +1,5 @@
 #include "BaseStyle.h"
+#include "EmbeddedIcons.h"
 #include "Helpers.h"
 #include "ThemeColorHelper.h"
 #include "ThemeValues.h"
@@ -100,7 +101,7 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
         return {};
     const bool enabled = !option || option->state & QStyle::State_Enabled;
     const QBrush mainBrush = themeValues().brushes.value(ThemeNames::MainBrush, enabled);
-    const QIcon icon = QIcon::fromTheme(name);
+    const QIcon icon = EmbeddedIcons::StyleIcon(name);
     if (!sSpecificIcons.contains(name))
         return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, mainBrush);
     const QColor reference(0xF6, 0xB4, 0x36);
@@ -119,7 +120,7 @@ QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
     };
     const QString name = iconName(pixmap);
     if (!name.isEmpty())
-        return QIcon::fromTheme(name);
+        return EmbeddedIcons::StyleIcon(name);
     switch (pixmap) {
     case SP_ToolBarHorizontalExtensionButton:
         return extensionIcon(themeValues().horizontalExtension, toolbarHorizontal);
@@ -135,7 +136,8 @@ QPixmap BaseStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* opt
 {
     const QString name = titleBarIconName(pixmap);
     if (!name.isEmpty())
-        return QIcon::fromTheme(name).pixmap(TitleBarIconSize, QIcon::Normal, QIcon::Off);
+        return QIcon(EmbeddedIcons::StyleIcon(name))
+            .pixmap(TitleBarIconSize, QIcon::Normal, QIcon::Off);
     return QProxyStyle::standardPixmap(pixmap, option, widget);
 }
 

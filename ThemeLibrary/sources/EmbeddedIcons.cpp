@@ -1,0 +1,124 @@
+#include "EmbeddedIcons.h"
+
+#include <QCache>
+#include <QFile>
+#include <QResource>
+
+#include <algorithm>
+#include <memory>
+
+// In a static library nobody else registers what rcc made. The macro needs the global namespace.
+static void registerCollections()
+{
+    Q_INIT_RESOURCE(internalRC);
+    Q_INIT_RESOURCE(ThemeLibrary);
+}
+
+namespace BRELK::EmbeddedIcons {
+
+namespace {
+
+QResource embedded(const QString& name)
+{
+    registerCollections();
+    return QResource(QLatin1String(":/BRELK/ThemeLibrary/") + name);
+}
+
+/// A binary collection of icons, to be found below a root for as long as this lives.
+class Mapping
+{
+public:
+    Mapping(const uchar* collection, const QString& root) : m_collection(collection), m_root(root)
+    {
+        QResource::registerResource(m_collection, m_root);
+    }
+
+    ~Mapping() { QResource::unregisterResource(m_collection, m_root); }
+
+    Q_DISABLE_COPY_MOVE(Mapping)
+
+private:
+    const uchar* m_collection;
+    QString m_root;
+};
+
+using MappingPointer = std::unique_ptr<Mapping>;
+
+/// The icons below `root` by the library's names, always the same bytes.
+MappingPointer mapOwnNames(const QString& root)
+{
+    static const QResource sIcons = embedded(QStringLiteral("icons.rcc"));
+    return std::make_unique<Mapping>(sIcons.data(), root);
+}
+
+bool hasIndex(const QString& themeName)
+{
+    const QStringList paths = QIcon::themeSearchPaths();
+    return std::any_of(paths.begin(), paths.end(), [&](const QString& path) {
+        return QFile::exists(path + QLatin1Char('/') + themeName + QLatin1String("/index.theme"));
+    });
+}
+
+MappingPointer mapIndex(const QString& themeName)
+{
+    static const QResource sIndex = embedded(QStringLiteral("index.rcc"));
+    if (themeName.isEmpty() || hasIndex(themeName))
+        return {};
+    return std::make_unique<Mapping>(sIndex.data(), QLatin1String("/icons/") + themeName);
+}
+
+/// A copy of the icons by the names of desktop icons, in a color. All colors are written with
+/// equally many characters, so the collection stays intact.
+QByteArray standardIcons(const QColor& color)
+{
+    const QResource icons = embedded(QStringLiteral("standard.rcc"));
+    QByteArray copy(reinterpret_cast<const char*>(icons.data()), int(icons.size()));
+    return copy.replace(QColor(ReferenceColor).name().toUpper().toLatin1(),
+                        color.name().toLatin1());
+}
+
+const MappingPointer ownIcons = mapOwnNames(QStringLiteral("/Icons"));
+
+QColor currentColor(ReferenceColor);
+
+} // namespace
+
+void offerToIconTheme(const QString& themeName, const QColor& foreground)
+{
+    static QByteArray sStandardIcons;
+    static MappingPointer sByStandardNames;
+    static MappingPointer sByOwnNames;
+    static MappingPointer sIndex;
+    const QString root = QStringLiteral("/icons");
+    sIndex.reset();
+    sByOwnNames.reset();
+    sByStandardNames.reset();
+    currentColor = foreground;
+    sStandardIcons = standardIcons(foreground);
+    sByStandardNames =
+        std::make_unique<Mapping>(reinterpret_cast<const uchar*>(sStandardIcons.constData()), root);
+    sByOwnNames = mapOwnNames(root);
+    sIndex = mapIndex(themeName);
+}
+
+QColor offeredColor()
+{
+    return currentColor;
+}
+
+StyleIcon::operator QIcon() const
+{
+    constexpr int MostIcons = 64;
+    if (!m_themed.isNull())
+        return m_themed;
+    // One icon for all calls: what is kept of it elsewhere is found by its key.
+    static QCache<QString, QIcon> sIcons(MostIcons);
+    if (const QIcon* known = sIcons.object(m_name))
+        return *known;
+    const QString path = QLatin1String(":/Icons/") + m_name + QLatin1String(".svg");
+    const QIcon own = QResource(path).isValid() ? QIcon(path) : QIcon();
+    sIcons.insert(m_name, new QIcon(own));
+    return own;
+}
+
+} // namespace BRELK::EmbeddedIcons
