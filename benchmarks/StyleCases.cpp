@@ -6,7 +6,6 @@ std::vector<Case> allCases()
 {
     std::vector<Case> cases;
     addControls(cases);
-    addContainers(cases);
     addGeometry(cases);
     addPolishing(cases);
     addViews(cases);

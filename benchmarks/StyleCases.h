@@ -26,7 +26,6 @@ struct Case
 /// Every control in its states, one style call each: what is pressed, chosen, typed in or moved,
 /// and what holds others or belongs to windows.
 void addControls(std::vector<Case>& cases);
-void addContainers(std::vector<Case>& cases);
 /// Metrics, hints, sizes and rectangles.
 void addGeometry(std::vector<Case>& cases);
 /// Polishing one widget of each kind.

@@ -1,263 +1,164 @@
-#include "StyleControls.h"
+#include "StyleCases.h"
+#include "StyleSubjects.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QMenu>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QSlider>
-#include <QSpinBox>
-#include <QToolButton>
+#include <QtWidgets>
+
+// Every control in its states, by the samples that the tests of the style look at.
 
 namespace StyleBenchmark {
 
 namespace {
 
-constexpr QSize FieldSize(140, 28);
-constexpr QSize BarSize(200, 20);
-constexpr QSize SliderSize(200, 24);
+using namespace StyleOptions;
 
-template <class Button>
-void setText(Button& button)
+using States = QVector<State>;
+
+constexpr State Normal{"normal"};
+
+const States InputStates{Normal, Hovered, Focused, Disabled};
+const States ButtonStates{Normal, Hovered, Pressed, Focused, Disabled};
+const States MovedStates{Normal, Hovered, Pressed, Disabled};
+const States PlainStates{Normal, Disabled};
+const States ItemStates{Normal, Selected, Disabled};
+const States RowStates{Normal, Hovered, Selected, Disabled};
+
+/// A kind of control: the elements that it is painted by, and the settings of its sample. A part
+/// that is active is so under the mouse only.
+struct Control
 {
-    button.setText(QStringLiteral("Button"));
-}
+    const char* name;
+    const char* elements;
+    const char* settings;
+    States states;
+};
 
-template <class Button>
-void setChecked(Button& button)
+const Control Controls[] = {
+    {"PushButton", "CE_PushButton", "size=100x28 icon=none", ButtonStates},
+    {"PushButtonChecked", "CE_PushButton", "size=100x28 icon=none checkable checked", ButtonStates},
+    {"PushButtonDefault", "CE_PushButton", "size=100x28 icon=none autoDefault default",
+     ButtonStates},
+    {"PushButtonFlat", "CE_PushButton", "size=100x28 icon=none flat", ButtonStates},
+    {"PushButtonIcon", "CE_PushButton", "size=100x28", PlainStates},
+    {"PushButtonMenu", "CE_PushButton", "size=100x28 icon=none option.features=2", PlainStates},
+
+    {"ToolButton", "CC_ToolButton",
+     "size=28x28 popupMode=DelayedPopup toolButtonStyle=ToolButtonIconOnly "
+     "option.activeSubControls=1",
+     ButtonStates},
+    {"ToolButtonFlat", "CC_ToolButton",
+     "size=28x28 popupMode=DelayedPopup toolButtonStyle=ToolButtonIconOnly autoRaise "
+     "option.activeSubControls=1",
+     ButtonStates},
+    {"ToolButtonChecked", "CC_ToolButton",
+     "size=28x28 popupMode=DelayedPopup toolButtonStyle=ToolButtonIconOnly checkable checked",
+     PlainStates},
+    {"ToolButtonText", "CC_ToolButton", "size=100x28 popupMode=DelayedPopup", PlainStates},
+    {"ToolButtonMenu", "CC_ToolButton",
+     "size=44x28 toolButtonStyle=ToolButtonIconOnly option.activeSubControls=1", ButtonStates},
+    {"ToolButtonArrow", "CC_ToolButton", "size=20x20 popupMode=DelayedPopup arrowType=RightArrow",
+     PlainStates},
+
+    {"CheckBox", "CE_CheckBox", "size=120x20 icon=none", ButtonStates},
+    {"CheckBoxChecked", "CE_CheckBox", "size=120x20 icon=none checked", ButtonStates},
+    {"CheckBoxPartial", "CE_CheckBox", "size=120x20 icon=none State_NoChange State_Off=false",
+     PlainStates},
+    {"RadioButton", "CE_RadioButton", "size=120x20 icon=none", ButtonStates},
+    {"RadioButtonChecked", "CE_RadioButton", "size=120x20 icon=none checked", ButtonStates},
+
+    {"LineEditPanel", "PE_PanelLineEdit", "size=140x28", InputStates},
+    {"ComboBox", "CC_ComboBox CE_ComboBoxLabel", "size=140x28 icon=none option.activeSubControls=4",
+     ButtonStates},
+    {"ComboBoxEditable", "CC_ComboBox", "size=140x28 editable option.activeSubControls=4",
+     ButtonStates},
+    {"SpinBox", "CC_SpinBox", "size=140x28 option.activeSubControls=1", ButtonStates},
+    {"SpinBoxPlusMinus", "CC_SpinBox", "size=140x28 buttonSymbols=PlusMinus", PlainStates},
+
+    {"Slider", "CC_Slider", "size=200x24 tickPosition=NoTicks option.activeSubControls=2",
+     InputStates},
+    {"SliderVertical", "CC_Slider",
+     "size=24x200 orientation=Vertical tickPosition=NoTicks option.activeSubControls=2",
+     MovedStates},
+    {"SliderTicks", "CC_Slider", "size=200x36 tickInterval=10", PlainStates},
+    {"ScrollBar", "CC_ScrollBar", "size=300x14 option.activeSubControls=64", MovedStates},
+    {"ScrollBarVertical", "CC_ScrollBar",
+     "size=14x300 orientation=Vertical option.activeSubControls=64", MovedStates},
+
+    {"ProgressBar", "CE_ProgressBar", "size=200x20 value=40", PlainStates},
+    {"ProgressBarFull", "CE_ProgressBar", "size=200x20 value=100", PlainStates},
+    {"ProgressBarBusy", "CE_ProgressBar", "size=200x20 maximum=0", {Normal}},
+    {"ProgressBarVertical", "CE_ProgressBar", "size=20x200 orientation=Vertical value=40",
+     PlainStates},
+
+    {"Tab", "CE_TabBarTab", "size=100x32 icon=none tabsClosable=false", RowStates},
+    {"TabIcon", "CE_TabBarTab", "size=120x32", {Normal, Selected}},
+    {"TabWidgetFrame", "PE_FrameTabWidget", "size=300x200", PlainStates},
+
+    {"MenuItem", "CE_MenuItem", "size=220x24 icon=none", ItemStates},
+    {"MenuItemIcon", "CE_MenuItem", "size=220x24", ItemStates},
+    {"MenuItemChecked", "CE_MenuItem", "size=220x24 option.checkType=1 option.checked=1",
+     ItemStates},
+    {"MenuItemSubmenu", "CE_MenuItem", "size=220x24 icon=none option.menuItemType=2", ItemStates},
+    {"MenuSeparator", "CE_MenuItem", "size=220x24 option.menuItemType=1", {Normal}},
+    {"MenuBarItem",
+     "CE_MenuBarItem",
+     "size=60x28 icon=none",
+     {Normal, Selected, Pressed, Disabled}},
+
+    {"ViewItem", "CE_ItemViewItem", "size=160x22 option.features=8", RowStates},
+    {"ViewItemFull", "CE_ItemViewItem", "size=160x22", RowStates},
+    {"ItemBranch",
+     "PE_IndicatorBranch",
+     "size=20x22 State_Children State_Item",
+     {Normal, Selected}},
+    {"HeaderSection", "CE_Header", "size=120x24 icon=none State_Raised", MovedStates},
+
+    {"GroupBox", "CC_GroupBox", "size=200x120 checkable=false", PlainStates},
+    {"GroupBoxCheckable", "CC_GroupBox", "size=200x120 option.activeSubControls=1", InputStates},
+    {"GroupBoxFlat", "CC_GroupBox", "size=200x120 checkable=false flat", {Normal}},
+    {"Frame", "CE_ShapedFrame", "size=200x120", PlainStates},
+    {"ToolBarHandle", "PE_IndicatorToolBarHandle", "size=10x34 State_Horizontal", {Normal}},
+    {"StatusBar", "PE_PanelStatusBar", "size=400x34", {Normal}},
+    {"Splitter", "CE_Splitter", "size=6x200", {Normal, Hovered}},
+    {"ToolBoxTab", "CE_ToolBoxTab", "size=200x42", {Normal, Hovered, Selected}},
+
+    {"DockTitle", "CE_DockWidgetTitle", "size=200x26", PlainStates},
+    {"TitleBar", "CC_TitleBar", "size=300x28 option.titleBarState=8", {Normal}},
+    {"ToolTip", "PE_PanelTipLabel", "size=160x26", {Normal}},
+    {"FocusRect",
+     "PE_FrameFocusRect",
+     "size=100x28 State_HasFocus State_KeyboardFocusChange",
+     {Normal}},
+    {"Arrow", "PE_IndicatorArrowDown", "size=16x16", PlainStates},
+};
+
+Work prepare(const Control& control, const State& state)
 {
-    setText(button);
-    button.setCheckable(true);
-    button.setChecked(true);
-}
-
-void addPushButtons(std::vector<Case>& cases)
-{
-    using Push = Control<QPushButton, QStyleOptionButton>;
-    const auto variant = [](const char* name, void (*setUp)(Exposed<QPushButton>&)) {
-        return Push{name, ButtonSize, setUp, fillByWidget<QPushButton, QStyleOptionButton>,
-                    draw<QStyle::CE_PushButton, QStyleOptionButton>};
-    };
-    add(cases, ButtonStates, variant("PushButton", setText));
-    add(cases, ButtonStates, variant("PushButtonChecked", setChecked));
-    add(cases, ButtonStates, variant("PushButtonDefault", [](Exposed<QPushButton>& button) {
-            setText(button);
-            button.setAutoDefault(true);
-            button.setDefault(true);
-        }));
-    add(cases, ButtonStates, variant("PushButtonFlat", [](Exposed<QPushButton>& button) {
-            setText(button);
-            button.setFlat(true);
-        }));
-    add(cases, PlainStates, variant("PushButtonIcon", [](Exposed<QPushButton>& button) {
-            setText(button);
-            button.setIcon(sampleIcon());
-        }));
-    add(cases, PlainStates, variant("PushButtonMenu", [](Exposed<QPushButton>& button) {
-            setText(button);
-            button.setMenu(new QMenu(&button));
-        }));
-}
-
-void addToolButtons(std::vector<Case>& cases)
-{
-    using Tool = Control<QToolButton, QStyleOptionToolButton>;
-    const auto variant = [](const char* name, QSize size, void (*setUp)(Exposed<QToolButton>&)) {
-        return Tool{name,
-                    size,
-                    setUp,
-                    fillByWidget<QToolButton, QStyleOptionToolButton>,
-                    draw<QStyle::CC_ToolButton, QStyleOptionToolButton>,
-                    QStyle::SC_ToolButton};
-    };
-    add(cases, ButtonStates, variant("ToolButton", {28, 28}, [](Exposed<QToolButton>& button) {
-            button.setIcon(sampleIcon());
-        }));
-    add(cases, ButtonStates, variant("ToolButtonFlat", {28, 28}, [](Exposed<QToolButton>& button) {
-            button.setIcon(sampleIcon());
-            button.setAutoRaise(true);
-        }));
-    add(cases, PlainStates,
-        variant("ToolButtonChecked", {28, 28}, [](Exposed<QToolButton>& button) {
-            setChecked(button);
-            button.setIcon(sampleIcon());
-        }));
-    add(cases, PlainStates, variant("ToolButtonText", ButtonSize, [](Exposed<QToolButton>& button) {
-            setText(button);
-            button.setIcon(sampleIcon());
-            button.setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-        }));
-    add(cases, ButtonStates, variant("ToolButtonMenu", {44, 28}, [](Exposed<QToolButton>& button) {
-            button.setIcon(sampleIcon());
-            button.setMenu(new QMenu(&button));
-            button.setPopupMode(QToolButton::MenuButtonPopup);
-        }));
-    add(cases, PlainStates, variant("ToolButtonArrow", {20, 20}, [](Exposed<QToolButton>& button) {
-            button.setArrowType(Qt::RightArrow);
-        }));
-}
-
-void addChoices(std::vector<Case>& cases)
-{
-    using Check = Control<QCheckBox, QStyleOptionButton>;
-    const auto check = [](const char* name, void (*setUp)(Exposed<QCheckBox>&)) {
-        return Check{name,
-                     {120, 20},
-                     setUp,
-                     fillByWidget<QCheckBox, QStyleOptionButton>,
-                     draw<QStyle::CE_CheckBox, QStyleOptionButton>};
-    };
-    add(cases, ButtonStates, check("CheckBox", setText));
-    add(cases, ButtonStates, check("CheckBoxChecked", setChecked));
-    add(cases, PlainStates, check("CheckBoxPartial", [](Exposed<QCheckBox>& box) {
-            setText(box);
-            box.setTristate(true);
-            box.setCheckState(Qt::PartiallyChecked);
-        }));
-    using Radio = Control<QRadioButton, QStyleOptionButton>;
-    const auto radio = [](const char* name, void (*setUp)(Exposed<QRadioButton>&)) {
-        return Radio{name,
-                     {120, 20},
-                     setUp,
-                     fillByWidget<QRadioButton, QStyleOptionButton>,
-                     draw<QStyle::CE_RadioButton, QStyleOptionButton>};
-    };
-    add(cases, ButtonStates, radio("RadioButton", setText));
-    add(cases, ButtonStates, radio("RadioButtonChecked", setChecked));
-}
-
-void paintComboBox(const QStyle& style, const QStyleOptionComboBox& option, QPainter& painter,
-                   const QWidget* widget)
-{
-    style.drawComplexControl(QStyle::CC_ComboBox, &option, &painter, widget);
-    style.drawControl(QStyle::CE_ComboBoxLabel, &option, &painter, widget);
-}
-
-void addInputs(std::vector<Case>& cases)
-{
-    add(cases, InputStates,
-        Control<QLineEdit, QStyleOptionFrame>{"LineEditPanel", FieldSize,
-                                              [](Exposed<QLineEdit>&) {},
-                                              fillByWidget<QLineEdit, QStyleOptionFrame>,
-                                              draw<QStyle::PE_PanelLineEdit, QStyleOptionFrame>});
-    const States inputs{Normal, Hovered, Pressed, Focused, Disabled};
-    using Combo = Control<QComboBox, QStyleOptionComboBox>;
-    add(cases, inputs,
-        Combo{"ComboBox", FieldSize,
-              [](Exposed<QComboBox>& box) { box.addItem(QStringLiteral("Item")); },
-              fillByWidget<QComboBox, QStyleOptionComboBox>, paintComboBox,
-              QStyle::SC_ComboBoxArrow});
-    add(cases, inputs,
-        Combo{"ComboBoxEditable", FieldSize,
-              [](Exposed<QComboBox>& box) {
-                  box.setEditable(true);
-                  box.addItem(QStringLiteral("Item"));
-              },
-              fillByWidget<QComboBox, QStyleOptionComboBox>,
-              draw<QStyle::CC_ComboBox, QStyleOptionComboBox>, QStyle::SC_ComboBoxArrow});
-    using Spin = Control<QSpinBox, QStyleOptionSpinBox>;
-    add(cases, inputs,
-        Spin{"SpinBox", FieldSize, [](Exposed<QSpinBox>& box) { box.setValue(30); },
-             fillByWidget<QSpinBox, QStyleOptionSpinBox>,
-             draw<QStyle::CC_SpinBox, QStyleOptionSpinBox>, QStyle::SC_SpinBoxUp});
-    add(cases, PlainStates,
-        Spin{"SpinBoxPlusMinus", FieldSize,
-             [](Exposed<QSpinBox>& box) { box.setButtonSymbols(QSpinBox::PlusMinus); },
-             fillByWidget<QSpinBox, QStyleOptionSpinBox>,
-             draw<QStyle::CC_SpinBox, QStyleOptionSpinBox>, QStyle::SC_SpinBoxUp});
-}
-
-template <class Slider, Qt::Orientation Orientation>
-void setRange(Exposed<Slider>& slider)
-{
-    slider.setOrientation(Orientation);
-    slider.setValue(30);
-}
-
-// Sliders and scroll bars name their parts only when they paint.
-
-void fillSlider(const Exposed<QSlider>& slider, QStyleOptionSlider& option)
-{
-    slider.initStyleOption(&option);
-    option.subControls = QStyle::SC_SliderGroove | QStyle::SC_SliderHandle;
-    if (slider.tickPosition() != QSlider::NoTicks)
-        option.subControls |= QStyle::SC_SliderTickmarks;
-}
-
-void fillScrollBar(const Exposed<QScrollBar>& bar, QStyleOptionSlider& option)
-{
-    bar.initStyleOption(&option);
-    option.subControls = QStyle::SC_All;
-}
-
-void addSliders(std::vector<Case>& cases)
-{
-    const States states{Normal, Hovered, Pressed, Disabled};
-    using Slider = Control<QSlider, QStyleOptionSlider>;
-    const auto slider = [](const char* name, QSize size, void (*setUp)(Exposed<QSlider>&)) {
-        return Slider{name,
-                      size,
-                      setUp,
-                      fillSlider,
-                      draw<QStyle::CC_Slider, QStyleOptionSlider>,
-                      QStyle::SC_SliderHandle};
-    };
-    add(cases, InputStates, slider("Slider", SliderSize, setRange<QSlider, Qt::Horizontal>));
-    add(cases, states,
-        slider("SliderVertical", SliderSize.transposed(), setRange<QSlider, Qt::Vertical>));
-    add(cases, PlainStates, slider("SliderTicks", {200, 36}, [](Exposed<QSlider>& ticked) {
-            setRange<QSlider, Qt::Horizontal>(ticked);
-            ticked.setTickPosition(QSlider::TicksBothSides);
-        }));
-
-    using Scroll = Control<QScrollBar, QStyleOptionSlider>;
-    const auto scrollBar = [](const char* name, QSize size, void (*setUp)(Exposed<QScrollBar>&)) {
-        return Scroll{name,
-                      size,
-                      setUp,
-                      fillScrollBar,
-                      draw<QStyle::CC_ScrollBar, QStyleOptionSlider>,
-                      QStyle::SC_ScrollBarSlider};
-    };
-    add(cases, states, scrollBar("ScrollBar", {300, 14}, setRange<QScrollBar, Qt::Horizontal>));
-    add(cases, states,
-        scrollBar("ScrollBarVertical", {14, 300}, setRange<QScrollBar, Qt::Vertical>));
-}
-
-void addProgressBars(std::vector<Case>& cases)
-{
-    using Progress = Control<QProgressBar, QStyleOptionProgressBar>;
-    const auto variant = [](const char* name, QSize size, void (*setUp)(Exposed<QProgressBar>&)) {
-        return Progress{name, size, setUp, fillByWidget<QProgressBar, QStyleOptionProgressBar>,
-                        draw<QStyle::CE_ProgressBar, QStyleOptionProgressBar>};
-    };
-    add(cases, PlainStates,
-        variant("ProgressBar", BarSize, [](Exposed<QProgressBar>& bar) { bar.setValue(40); }));
-    add(cases, PlainStates,
-        variant("ProgressBarFull", BarSize, [](Exposed<QProgressBar>& bar) { bar.setValue(100); }));
-    add(cases, {Normal}, variant("ProgressBarBusy", BarSize, [](Exposed<QProgressBar>& bar) {
-            bar.setRange(0, 0);
-        }));
-    add(cases, PlainStates,
-        variant("ProgressBarVertical", BarSize.transposed(), [](Exposed<QProgressBar>& bar) {
-            bar.setOrientation(Qt::Vertical);
-            bar.setValue(40);
-        }));
+    Settings settings = settingsOf(control.settings);
+    if (!(state.added & (QStyle::State_MouseOver | QStyle::State_Sunken)))
+        settings.remove("option.activeSubControls");
+    const QByteArrayList names = QByteArray(control.elements).split(' ');
+    const Sample sample = sampleNamed(names.first(), settings, state);
+    sample.option->state.setFlag(QStyle::State_Raised,
+                                 !(state.added & QStyle::State_Sunken)
+                                     && sample.option->state & QStyle::State_Raised);
+    QVector<Element> elements;
+    for (const QByteArray& name : names)
+        elements.append(elementNamed(name));
+    auto canvas = std::make_shared<Canvas>(sample.option->rect.size());
+    return {[=] {
+        for (const Element& element : elements)
+            element.paint(*sample.widget->style(), sample, &canvas->painter);
+    }};
 }
 
 } // namespace
 
 void addControls(std::vector<Case>& cases)
 {
-    addPushButtons(cases);
-    addToolButtons(cases);
-    addChoices(cases);
-    addInputs(cases);
-    addSliders(cases);
-    addProgressBars(cases);
+    for (const Control& control : Controls)
+        for (const State& state : control.states)
+            cases.push_back({std::string("controls/") + control.name + '/' + state.name,
+                             [&control, state] { return prepare(control, state); }});
 }
 
 } // namespace StyleBenchmark

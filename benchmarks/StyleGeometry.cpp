@@ -1,156 +1,89 @@
 #include "StyleCases.h"
 #include "StyleSubjects.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QCommandLinkButton>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QMetaEnum>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QScrollBar>
-#include <QSlider>
-#include <QSpinBox>
-#include <QTabBar>
-#include <QTableView>
-#include <QToolButton>
+#include <QtWidgets>
 
 namespace StyleBenchmark {
 
 namespace {
 
-/// Every value of one of QStyle's enums below its custom ones.
-template <class Enum>
-std::vector<Enum> allOf()
+using namespace StyleOptions;
+
+template <class Enum, class Ask>
+Work askAll(Ask ask)
 {
-    constexpr unsigned CustomBase = 0xf0000000;
-    const auto meta = QMetaEnum::fromType<Enum>();
-    std::vector<Enum> values;
-    for (int i = 0; i < meta.keyCount(); ++i) {
-        if (unsigned(meta.value(i)) < CustomBase)
-            values.push_back(Enum(meta.value(i)));
-    }
-    return values;
+    auto button = std::make_shared<QPushButton>();
+    button->ensurePolished();
+    const auto values = all<Enum>();
+    return {[=] {
+                for (const auto value : values)
+                    ask(*button, value);
+            },
+            double(values.size())};
 }
 
 Work askMetrics()
 {
-    auto button = std::make_shared<QPushButton>();
-    button->ensurePolished();
-    const auto metrics = allOf<QStyle::PixelMetric>();
-    return {[=] {
-                for (const auto metric : metrics)
-                    button->style()->pixelMetric(metric, nullptr, button.get());
-            },
-            double(metrics.size())};
+    return askAll<QStyle::PixelMetric>([](const QWidget& widget, QStyle::PixelMetric metric) {
+        widget.style()->pixelMetric(metric, nullptr, &widget);
+    });
 }
 
 Work askHints()
 {
-    auto button = std::make_shared<QPushButton>();
-    button->ensurePolished();
-    const auto hints = allOf<QStyle::StyleHint>();
-    return {[=] {
-                for (const auto hint : hints)
-                    button->style()->styleHint(hint, nullptr, button.get());
-            },
-            double(hints.size())};
+    return askAll<QStyle::StyleHint>([](const QWidget& widget, QStyle::StyleHint hint) {
+        widget.style()->styleHint(hint, nullptr, &widget);
+    });
 }
 
-template <class Widget, class Option, class Fill>
-Work askSize(QStyle::ContentsType type, Fill fill)
+Work askSize(QStyle::ContentsType type)
 {
-    auto widget = std::make_shared<Exposed<Widget>>();
-    auto option = std::make_shared<Option>();
-    fill(*widget, *option);
-    widget->ensurePolished();
+    const Sample sample = sampleNamed(nameOf(type), settingsOf("icon=none"));
     return {[=] {
-        widget->style()->sizeFromContents(type, option.get(), QSize(60, 16), widget.get());
+        sample.widget->style()->sizeFromContents(type, sample.option.get(), QSize(60, 16),
+                                                 sample.widget.get());
     }};
 }
 
-template <class Widget, class Option>
-Work askParts(QStyle::ComplexControl control, std::vector<QStyle::SubControl> parts)
-{
-    auto widget = std::make_shared<Exposed<Widget>>();
-    auto option = std::make_shared<Option>();
-    widget->resize(140, 28);
-    widget->ensurePolished();
-    widget->initStyleOption(option.get());
-    const auto count = double(parts.size());
-    return {[=, parts = std::move(parts)] {
-                for (const auto part : parts)
-                    widget->style()->subControlRect(control, option.get(), part, widget.get());
-            },
-            count};
-}
+using Parts = QVector<QStyle::SubControl>;
 
-constexpr auto FillByWidget = [](auto& widget, auto& option) { widget.initStyleOption(&option); };
+Work askParts(QStyle::ComplexControl control, const Parts& parts)
+{
+    const Sample sample = sampleNamed(nameOf(control), settingsOf("size=140x28"));
+    const auto* option = static_cast<const QStyleOptionComplex*>(sample.option.get());
+    return {[=] {
+                for (const auto part : parts)
+                    sample.widget->style()->subControlRect(control, option, part,
+                                                           sample.widget.get());
+            },
+            double(parts.size())};
+}
 
 void addSizes(std::vector<Case>& cases)
 {
-    const auto add = [&](const char* name, Work (*prepare)()) {
-        cases.push_back({std::string("geometry/Size/") + name, prepare});
-    };
-    add("PushButton", [] {
-        return askSize<QPushButton, QStyleOptionButton>(QStyle::CT_PushButton, FillByWidget);
-    });
-    add("CheckBox",
-        [] { return askSize<QCheckBox, QStyleOptionButton>(QStyle::CT_CheckBox, FillByWidget); });
-    add("ComboBox",
-        [] { return askSize<QComboBox, QStyleOptionComboBox>(QStyle::CT_ComboBox, FillByWidget); });
-    add("LineEdit",
-        [] { return askSize<QLineEdit, QStyleOptionFrame>(QStyle::CT_LineEdit, FillByWidget); });
-    add("SpinBox",
-        [] { return askSize<QSpinBox, QStyleOptionSpinBox>(QStyle::CT_SpinBox, FillByWidget); });
-    add("ToolButton", [] {
-        return askSize<QToolButton, QStyleOptionToolButton>(QStyle::CT_ToolButton, FillByWidget);
-    });
-    add("Tab", [] {
-        return askSize<QTabBar, QStyleOptionTab>(QStyle::CT_TabBarTab, [](auto& bar, auto& option) {
-            bar.addTab(QStringLiteral("Tab"));
-            bar.initStyleOption(&option, 0);
-        });
-    });
-    add("MenuItem", [] {
-        return askSize<QMenu, QStyleOptionMenuItem>(
-            QStyle::CT_MenuItem, [](auto& menu, auto& option) {
-                menu.initStyleOption(&option, menu.addAction(QStringLiteral("Item")));
-            });
-    });
+    for (const auto type :
+         {QStyle::CT_PushButton, QStyle::CT_CheckBox, QStyle::CT_ComboBox, QStyle::CT_LineEdit,
+          QStyle::CT_SpinBox, QStyle::CT_ToolButton, QStyle::CT_TabBarTab, QStyle::CT_MenuItem})
+        cases.push_back(
+            {std::string("geometry/Size/") + (nameOf(type) + 3), [=] { return askSize(type); }});
 }
 
 void addParts(std::vector<Case>& cases)
 {
-    const auto add = [&](const char* name, Work (*prepare)()) {
-        cases.push_back({std::string("geometry/Parts/") + name, prepare});
-    };
-    add("ComboBox", [] {
-        return askParts<QComboBox, QStyleOptionComboBox>(
-            QStyle::CC_ComboBox, {QStyle::SC_ComboBoxArrow, QStyle::SC_ComboBoxEditField});
-    });
-    add("SpinBox", [] {
-        return askParts<QSpinBox, QStyleOptionSpinBox>(
-            QStyle::CC_SpinBox,
-            {QStyle::SC_SpinBoxUp, QStyle::SC_SpinBoxDown, QStyle::SC_SpinBoxEditField});
-    });
-    add("Slider", [] {
-        return askParts<QSlider, QStyleOptionSlider>(
-            QStyle::CC_Slider, {QStyle::SC_SliderGroove, QStyle::SC_SliderHandle});
-    });
-    add("ScrollBar", [] {
-        return askParts<QScrollBar, QStyleOptionSlider>(
-            QStyle::CC_ScrollBar, {QStyle::SC_ScrollBarGroove, QStyle::SC_ScrollBarSlider,
-                                   QStyle::SC_ScrollBarAddLine, QStyle::SC_ScrollBarSubLine});
-    });
-    add("GroupBox", [] {
-        return askParts<QGroupBox, QStyleOptionGroupBox>(
-            QStyle::CC_GroupBox, {QStyle::SC_GroupBoxContents, QStyle::SC_GroupBoxFrame,
-                                  QStyle::SC_GroupBoxLabel, QStyle::SC_GroupBoxCheckBox});
-    });
+    const std::pair<QStyle::ComplexControl, Parts> controls[] = {
+        {QStyle::CC_ComboBox, {QStyle::SC_ComboBoxArrow, QStyle::SC_ComboBoxEditField}},
+        {QStyle::CC_SpinBox,
+         {QStyle::SC_SpinBoxUp, QStyle::SC_SpinBoxDown, QStyle::SC_SpinBoxEditField}},
+        {QStyle::CC_Slider, {QStyle::SC_SliderGroove, QStyle::SC_SliderHandle}},
+        {QStyle::CC_ScrollBar,
+         {QStyle::SC_ScrollBarGroove, QStyle::SC_ScrollBarSlider, QStyle::SC_ScrollBarAddLine,
+          QStyle::SC_ScrollBarSubLine}},
+        {QStyle::CC_GroupBox,
+         {QStyle::SC_GroupBoxContents, QStyle::SC_GroupBoxFrame, QStyle::SC_GroupBoxLabel,
+          QStyle::SC_GroupBoxCheckBox}}};
+    for (const auto& [control, parts] : controls)
+        cases.push_back({std::string("geometry/Parts/") + (nameOf(control) + 3),
+                         [control = control, parts = parts] { return askParts(control, parts); }});
 }
 
 template <class Widget>

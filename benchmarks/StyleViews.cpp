@@ -2,6 +2,7 @@
 #include "StyleSubjects.h"
 
 #include <QAbstractTableModel>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCursor>
 #include <QHeaderView>
@@ -51,7 +52,7 @@ public:
 
 private:
     int m_columns;
-    QVariant m_icon = sampleIcon();
+    QVariant m_icon = ProbeTheme::pixmap();
 };
 
 /// A view with the model that it shows.

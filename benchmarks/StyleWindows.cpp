@@ -1,6 +1,8 @@
 #include "StyleCases.h"
 #include "StyleSubjects.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QBoxLayout>
 #include <QCheckBox>
 #include <QComboBox>
@@ -45,7 +47,7 @@ Work paintWhole(const std::shared_ptr<QWidget>& widget, qreal scale = 1)
 void fillMenu(QMenu& menu)
 {
     for (const char* name : {"&New\tCtrl+N", "&Open...\tCtrl+O", "&Save\tCtrl+S"})
-        menu.addAction(sampleIcon(), text(name));
+        menu.addAction(ProbeTheme::pixmap(), text(name));
     menu.addSeparator();
     menu.addMenu(text("&Recent"))->addAction(text("One"));
     for (const char* name : {"Show &grid", "Show &rulers"}) {
@@ -89,7 +91,7 @@ Work paintToolBar()
 {
     auto bar = std::make_shared<QToolBar>();
     for (const char* name : {"New", "Open", "Save", "Cut", "Copy", "Paste", "Undo", "Redo"})
-        bar->addAction(sampleIcon(), text(name));
+        bar->addAction(ProbeTheme::pixmap(), text(name));
     bar->addSeparator();
     bar->resize(500, 40);
     return paintWhole(bar);
@@ -159,7 +161,7 @@ std::shared_ptr<QMainWindow> createWindow()
         fillMenu(*window->menuBar()->addMenu(text(title)));
     QToolBar* bar = window->addToolBar(text("Tools"));
     for (const char* name : {"New", "Open", "Save", "Cut", "Copy", "Paste"})
-        bar->addAction(sampleIcon(), text(name));
+        bar->addAction(ProbeTheme::pixmap(), text(name));
 
     auto* tabs = new QTabWidget;
     tabs->addTab(createForm(), text("Form"));

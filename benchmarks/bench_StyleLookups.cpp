@@ -1,11 +1,8 @@
 #include "BaseStyle.h"
-#include "StyleSubjects.h"
+#include "StyleOptions.h"
 #include "ThemeQApplication.h"
 
-#include <QComboBox>
-#include <QPushButton>
-#include <QSpinBox>
-#include <QToolButton>
+#include <QStyleOption>
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>
@@ -15,7 +12,7 @@
 namespace {
 
 using namespace BRELK;
-using StyleBenchmark::Exposed;
+using namespace StyleOptions;
 
 /// A closure with a name.
 template <class Function>
@@ -37,35 +34,30 @@ void addLookups()
     add("getBorderBrush", [] { return BaseStyle::getBorderBrush(true); });
 }
 
-template <class Widget, class Option>
-void addButtonBrushes(const char* name, void (*setUp)(Widget&), QStyle::State state = {})
-{
-    auto widget = std::make_shared<Exposed<Widget>>();
-    setUp(*widget);
-    widget->ensurePolished();
-    Option option;
-    widget->initStyleOption(&option);
-    option.state |= QStyle::State_Active | QStyle::State_Enabled | state;
-    add(name, [=] { return BaseStyle::buttonBrushes(&option, widget.get()); });
-}
-
 void addAllButtonBrushes()
 {
-    using Push = QStyleOptionButton;
-    addButtonBrushes<QPushButton, Push>("buttonBrushes/plain", [](QPushButton&) {});
-    addButtonBrushes<QPushButton, Push>(
-        "buttonBrushes/hovered", [](QPushButton&) {}, QStyle::State_MouseOver);
-    addButtonBrushes<QPushButton, Push>("buttonBrushes/disabled",
-                                        [](QPushButton& button) { button.setEnabled(false); });
-    addButtonBrushes<QPushButton, Push>("buttonBrushes/ofKind", [](QPushButton& button) {
-        button.setProperty("ButtonType", QStringLiteral("Tarrin"));
-    });
-    addButtonBrushes<QToolButton, QStyleOptionToolButton>("buttonBrushes/toolButton",
-                                                          [](QToolButton&) {});
-    addButtonBrushes<QComboBox, QStyleOptionComboBox>("buttonBrushes/comboBox", [](QComboBox&) {});
-    addButtonBrushes<QSpinBox, QStyleOptionSpinBox>("buttonBrushes/spinBox", [](QSpinBox&) {});
+    const struct
+    {
+        const char* name;
+        const char* element;
+        const char* settings;
+        State state = AtRest;
+    } buttons[] = {{"plain", "CE_PushButton", ""},
+                   {"hovered", "CE_PushButton", "", Hovered},
+                   {"disabled", "CE_PushButton", "", Disabled},
+                   {"ofKind", "CE_PushButton", "ButtonType=Tarrin"},
+                   {"toolButton", "CC_ToolButton", "popupMode=DelayedPopup"},
+                   {"comboBox", "CC_ComboBox", ""},
+                   {"spinBox", "CC_SpinBox", ""}};
+
+    for (const auto& button : buttons) {
+        const Sample sample =
+            sampleNamed(button.element, settingsOf(button.settings), button.state);
+        add((std::string("buttonBrushes/") + button.name).c_str(),
+            [=] { return BaseStyle::buttonBrushes(sample.option.get(), sample.widget.get()); });
+    }
     add("buttonBrushes/noWidget",
-        [option = Push()] { return BaseStyle::buttonBrushes(&option, nullptr); });
+        [option = QStyleOptionButton()] { return BaseStyle::buttonBrushes(&option, nullptr); });
 }
 
 } // namespace

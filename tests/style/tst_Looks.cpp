@@ -8,39 +8,23 @@
 // What the elements look like that the style paints or measures itself, in transcripts.
 
 using namespace StateSheet;
-using StyleOptions::Element;
-using StyleOptions::Settings;
 
 namespace {
-
-constexpr State RightToLeft{"right to left"};
 
 /// The elements of these kinds that the style paints or measures itself.
 QVector<Element> ownElements(const QByteArrayList& kinds)
 {
     QVector<Element> own;
-    for (const Element& element : StyleOptions::elements())
+    for (const Element& element : elements())
         if (kinds.contains(element.name.left(2)) && !isLeftToBase(element))
             own.append(element);
     return own;
 }
 
-Sample sampleOf(const Element& element, const Settings& settings, const State& state)
-{
-    const Sample sample = StyleOptions::sampleNamed(element.name, settings);
-    if (state.name == RightToLeft.name) {
-        sample.widget->setLayoutDirection(Qt::RightToLeft);
-        sample.option->direction = Qt::RightToLeft;
-    }
-    sample.widget->setEnabled(state.removed == QStyle::State_None);
-    setState(*sample.option, state);
-    return sample;
-}
-
 /// What an element measures and paints.
 QByteArray lookOf(const Element& element, const Settings& settings, const State& state)
 {
-    const Sample sample = sampleOf(element, settings, state);
+    const Sample sample = sampleNamed(element.name, settings, state);
     QByteArray measured;
     const QByteArray painted = drawn([&](QPainter* painter) {
         measured = element.use(*QApplication::style(), sample, painter);
@@ -87,19 +71,7 @@ void addLook(LookSheet& sheet, const Element& element, const QByteArray& words =
     for (const State& state : {Hovered, Pressed, Checked, Focused, Disabled, RightToLeft})
         states.append({state.name, lookOf(element, settings, state)});
     sheet.add(element.name + words, lookOf(element, settings, AtRest), states,
-              StyleOptions::sampleNamed(element.name, settings).option->rect.width());
-}
-
-Settings settingsOf(const QByteArray& words)
-{
-    Settings settings;
-    for (const QByteArray& word : words.simplified().split(' ')) {
-        const QList<QByteArray> pair = word.split('=');
-        settings.insert(pair.first() == "no_menu_arrow" ? "no menu arrow" : pair.first(),
-                        pair.size() == 2 ? QVariant(QString::fromLatin1(pair.last()))
-                                         : QVariant(true));
-    }
-    return settings;
+              sampleNamed(element.name, settings).option->rect.width());
 }
 
 /// `row` with each of the alternatives in its braces.
@@ -153,7 +125,7 @@ private Q_SLOTS:
         const QByteArrayList pens{"PE_IndicatorSpinUp", "PE_IndicatorSpinDown", "CC_SpinBox"};
         for (const Element& element : ownElements({"PE", "CE", "CC"}))
             for (const State& state : {AtRest, Checked, Disabled}) {
-                const Sample sample = sampleOf(element, {}, state);
+                const Sample sample = sampleNamed(element.name, {}, state);
                 const QSize size = sample.option->rect.size();
                 const auto paint = [&](QPainter* painter) {
                     element.use(*QApplication::style(), sample, painter);
@@ -188,9 +160,9 @@ private Q_SLOTS:
         QFETCH(QByteArrayList, rows);
         LookSheet sheet;
         for (const QByteArray& row : rows) {
-            const QByteArrayList elements = row.split('|').first().simplified().split(' ');
-            for (const Element& element : StyleOptions::elements())
-                if (elements.contains(element.name))
+            const QByteArrayList names = row.split('|').first().simplified().split(' ');
+            for (const Element& element : elements())
+                if (names.contains(element.name))
                     addLook(sheet, element, row.mid(row.indexOf('|') + 1),
                             settingsOf(row.split('|').last()));
         }

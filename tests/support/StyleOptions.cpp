@@ -35,13 +35,18 @@ void applyColors(const Settings& settings, QWidget& widget)
         widget.setPalette(palette);
 }
 
+QIcon iconOf(const Settings& settings)
+{
+    return settings.value("icon").toByteArray() == "none" ? QIcon() : QIcon(ProbeTheme::pixmap());
+}
+
 /// Gives a widget what it can show: those of these properties that it has, and then the settings.
 void fill(QWidget& widget, const Settings& settings)
 {
     const std::pair<const char*, QVariant> properties[] = {
         {"frameShape", QFrame::StyledPanel},
         {"frameShadow", QFrame::Sunken},
-        {"icon", QIcon(ProbeTheme::pixmap())},
+        {"icon", iconOf(settings)},
         {"orientation", Qt::Horizontal},
         {"popupMode", QToolButton::MenuButtonPopup},
         {"tabsClosable", true},
@@ -62,14 +67,14 @@ void fill(QWidget& widget, const Settings& settings)
     apply(settings, {}, widget); // again, as polishing sets some
     widget.resize(upright ? WidgetSize.transposed() : WidgetSize);
     if (auto* comboBox = qobject_cast<QComboBox*>(&widget)) {
-        comboBox->addItem(ProbeTheme::pixmap(), QStringLiteral("Text"));
+        comboBox->addItem(iconOf(settings), QStringLiteral("Text"));
         apply(settings, {}, widget);
     }
     if (auto* groupBox = qobject_cast<QGroupBox*>(&widget))
-        groupBox->setCheckable(true);
+        groupBox->setCheckable(settings.value("checkable", true).toBool());
     if (auto* tabBar = qobject_cast<QTabBar*>(&widget))
         for (const char* tab : {"First", "Second"})
-            tabBar->addTab(ProbeTheme::pixmap(), QLatin1String(tab));
+            tabBar->addTab(iconOf(settings), QLatin1String(tab));
     if (auto* tabWidget = qobject_cast<QTabWidget*>(&widget))
         tabWidget->addTab(new QWidget, QStringLiteral("Page"));
     if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
@@ -155,7 +160,7 @@ Sample menuItem(const Settings& settings)
     auto widget = std::make_shared<Open<Menu>>();
     QAction* action = widget->addAction(QStringLiteral("&Open\tCtrl+O"));
     if (!settings.contains("option.checkType")) // the mark stands where the icon would
-        action->setIcon(ProbeTheme::pixmap());
+        action->setIcon(iconOf(settings));
     return filled<Menu, QStyleOptionMenuItem>(settings, widget, action);
 }
 
@@ -321,18 +326,13 @@ QStyle::SubControl lastPartOf(QStyle::ComplexControl control)
     }
 }
 
-template <class Element>
-QByteArray use(Element element, const QStyle& style, const Sample& sample, QPainter* painter)
+template <class Painted>
+QByteArray measure(Painted, const QStyle&, const Sample&)
 {
-    if constexpr (std::is_same_v<Element, QStyle::PrimitiveElement>)
-        style.drawPrimitive(element, sample.option.get(), painter, sample.widget.get());
-    else
-        style.drawControl(element, sample.option.get(), painter, sample.widget.get());
     return {};
 }
 
-QByteArray use(QStyle::ComplexControl control, const QStyle& style, const Sample& sample,
-               QPainter* painter)
+QByteArray measure(QStyle::ComplexControl control, const QStyle& style, const Sample& sample)
 {
     const auto* option = static_cast<const QStyleOptionComplex*>(sample.option.get());
     QByteArray text = "parts";
@@ -341,16 +341,15 @@ QByteArray use(QStyle::ComplexControl control, const QStyle& style, const Sample
                 + toText(style.subControlRect(control, option, QStyle::SubControl(part),
                                               sample.widget.get()));
     style.hitTestComplexControl(control, option, QPoint(5, 5), sample.widget.get());
-    style.drawComplexControl(control, option, painter, sample.widget.get());
     return text + '\n';
 }
 
-QByteArray use(QStyle::SubElement element, const QStyle& style, const Sample& sample, QPainter*)
+QByteArray measure(QStyle::SubElement element, const QStyle& style, const Sample& sample)
 {
     return toText(style.subElementRect(element, sample.option.get(), sample.widget.get())) + '\n';
 }
 
-QByteArray use(QStyle::ContentsType type, const QStyle& style, const Sample& sample, QPainter*)
+QByteArray measure(QStyle::ContentsType type, const QStyle& style, const Sample& sample)
 {
     QByteArray text = "sizes";
     for (const QSize contents : {QSize(40, 16), QSize(), QSize(20000, 20000)}) {
@@ -362,19 +361,82 @@ QByteArray use(QStyle::ContentsType type, const QStyle& style, const Sample& sam
     return text + '\n';
 }
 
+template <class Measured>
+void paint(Measured, const QStyle&, const Sample&, QPainter*)
+{ }
+
+void paint(QStyle::PrimitiveElement element, const QStyle& style, const Sample& sample,
+           QPainter* painter)
+{
+    style.drawPrimitive(element, sample.option.get(), painter, sample.widget.get());
+}
+
+void paint(QStyle::ControlElement element, const QStyle& style, const Sample& sample,
+           QPainter* painter)
+{
+    style.drawControl(element, sample.option.get(), painter, sample.widget.get());
+}
+
+void paint(QStyle::ComplexControl control, const QStyle& style, const Sample& sample,
+           QPainter* painter)
+{
+    style.drawComplexControl(control, static_cast<const QStyleOptionComplex*>(sample.option.get()),
+                             painter, sample.widget.get());
+}
+
 template <class Enum>
 void appendAll(QVector<Element>& elements)
 {
     for (const Enum element : all<Enum>())
         elements.append({nameOf(element),
+                         [element](const QStyle& style, const Sample& sample) {
+                             return measure(element, style, sample);
+                         },
                          [element](const QStyle& style, const Sample& sample, QPainter* painter) {
-                             return use(element, style, sample, painter);
+                             paint(element, style, sample, painter);
                          }});
+}
+
+void setState(const Sample& sample, const State& state)
+{
+    QStyleOption& option = *sample.option;
+    option.state = (option.state | state.added) & ~state.removed;
+    const bool enabled = option.state & QStyle::State_Enabled;
+    sample.widget->setEnabled(enabled);
+    if (!enabled)
+        option.palette.setCurrentColorGroup(QPalette::Disabled);
+    if (state.direction == Qt::RightToLeft) {
+        sample.widget->setLayoutDirection(state.direction);
+        option.direction = state.direction;
+    }
+}
+
+void setSize(const Sample& sample, const QByteArray& size)
+{
+    const QList<QByteArray> numbers = size.split('x');
+    if (numbers.size() != 2)
+        return;
+    sample.widget->resize(numbers.first().toInt(), numbers.last().toInt());
+    sample.option->rect = sample.widget->rect();
 }
 
 } // namespace
 
-Sample sampleNamed(const QByteArray& element, const Settings& settings)
+Settings settingsOf(const QByteArray& words)
+{
+    Settings settings;
+    for (const QByteArray& word : words.simplified().split(' ')) {
+        const QList<QByteArray> pair = word.split('=');
+        QByteArray name = pair.first();
+        if (name.startsWith("no_")) // others have "_" in their names
+            name.replace('_', ' ');
+        settings.insert(name, pair.size() == 2 ? QVariant(QString::fromLatin1(pair.last()))
+                                               : QVariant(true));
+    }
+    return settings;
+}
+
+Sample sampleNamed(const QByteArray& element, const Settings& settings, const State& state)
 {
     const QByteArray name = element.mid(3);
     const auto fits = [&](const QByteArray& pattern) {
@@ -407,6 +469,8 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings)
         apply(settings, "parent.", *sample.parent);
         sample.widget->setParent(sample.parent.get());
     }
+    setSize(sample, settings.value("size").toByteArray());
+    setState(sample, state);
     return sample;
 }
 
@@ -427,6 +491,12 @@ const QVector<Element>& elements()
         return elements;
     }();
     return sElements;
+}
+
+const Element& elementNamed(const QByteArray& name)
+{
+    return *std::find_if(elements().cbegin(), elements().cend(),
+                         [&](const Element& element) { return element.name == name; });
 }
 
 } // namespace StyleOptions

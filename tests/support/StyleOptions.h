@@ -39,8 +39,31 @@ struct Open : Widget
 /// paint with the element.
 using Settings = QMap<QByteArray, QVariant>;
 
+/// "name=value" or, for what is true, "name", between blanks; "_" stands for a blank in a name. Of
+/// all samples "size=120x28" and of those with icons "icon=none" is understood.
+Settings settingsOf(const QByteArray& words);
+
+/// A state that a widget can be painted in, as it differs from the one at rest.
+struct State
+{
+    const char* name;
+    QStyle::State added = QStyle::State_None;
+    QStyle::State removed = QStyle::State_None;
+    Qt::LayoutDirection direction = Qt::LeftToRight;
+};
+
+constexpr State AtRest{"at rest"};
+constexpr State Hovered{"hovered", QStyle::State_MouseOver};
+constexpr State Pressed{"pressed", QStyle::State_MouseOver | QStyle::State_Sunken};
+constexpr State Checked{"checked", QStyle::State_On};
+constexpr State Selected{"selected", QStyle::State_Selected};
+constexpr State Focused{"focused", QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange};
+constexpr State Disabled{"disabled", {}, QStyle::State_Enabled};
+constexpr State RightToLeft{"right to left", {}, {}, Qt::RightToLeft};
+
 /// By the name of an element, as "CE_PushButton".
-Sample sampleNamed(const QByteArray& element, const Settings& settings = {});
+Sample sampleNamed(const QByteArray& element, const Settings& settings = {},
+                   const State& state = AtRest);
 
 /// Every value of one of QStyle's enums, without its aliases and without the custom base.
 template <class Enum>
@@ -72,11 +95,21 @@ QByteArray nameOf(QStyle::ComplexControl control, QStyle::SubControl part);
 struct Element
 {
     QByteArray name;
-    /// Paints it or measures it, with all its parts, and tells what it measured.
-    std::function<QByteArray(const QStyle& style, const Sample& sample, QPainter* painter)> use;
+    /// Measures it with all its parts and tells of it; of what is only painted it tells nothing.
+    std::function<QByteArray(const QStyle& style, const Sample& sample)> measure;
+    std::function<void(const QStyle& style, const Sample& sample, QPainter* painter)> paint;
+
+    QByteArray use(const QStyle& style, const Sample& sample, QPainter* painter) const
+    {
+        const QByteArray measured = measure(style, sample);
+        paint(style, sample, painter);
+        return measured;
+    }
 };
 
 /// Everything that is painted or measured with an option.
 const QVector<Element>& elements();
+
+const Element& elementNamed(const QByteArray& name);
 
 } // namespace StyleOptions
