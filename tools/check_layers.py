@@ -19,7 +19,7 @@ LAYERS = (
     (0, "companion library", ["CommonUtils/*"]),
     (6, "theme application", [LIBRARY + name for name in ("BaseTheme.*", "ThemeFactory.*", "ThemeQApplication.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
-        "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "PainterSaver.*", "Pictures.*", "Shapes.*",
+        "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "OwnColors.*", "PainterSaver.*", "Pictures.*", "Shapes.*",
         "StyleContext.*", "Texts.*", "WidgetProperties.*", "WidgetTraits.*")]),
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",

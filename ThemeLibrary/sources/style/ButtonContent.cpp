@@ -1,5 +1,6 @@
 #include "ButtonContent.h"
 
+#include "OwnColors.h"
 #include "ThemeColorHelper.h"
 #include "WidgetTraits.h"
 
@@ -38,29 +39,46 @@ struct PaletteKey
 };
 
 template <class Option>
-void prepare(Option& option, const QWidget* widget)
+void prepare(const BaseStyle& style, Option& option, const QWidget* widget)
 {
-    const QBrush brush = foreground(option, widget);
+    const QBrush brush = foreground({style, option, widget});
     setForeground(option, brush);
     modifyStyleOptionIcon(option, brush);
 }
 
 } // namespace
 
-QBrush foreground(const QStyleOption& option, const QWidget* widget)
+QBrush foreground(const StyleContext& context)
 {
-    const QBrush themed = BaseStyle::buttonBrushes(&option, widget).foregroundBrush;
+    const BaseStyle::ButtonBrushes brushes =
+        BaseStyle::buttonBrushes(&context.option, context.widget);
+    const bool isToolButton = qobject_cast<const QToolButton*>(context.widget);
+    const bool isOnPanel = !isToolButton || hasPanel(context.option);
     // The bar of a calendar is highlighted.
-    if (WidgetTraits::isCalendarButton(widget) && qobject_cast<const QToolButton*>(widget))
-        return hasPanel(option) ? themed : option.palette.brush(QPalette::HighlightedText);
-    return textBrush(option, widget, QPalette::ButtonText, themed);
+    if (isToolButton && WidgetTraits::isCalendarButton(context.widget))
+        return isOnPanel ? brushes.foregroundBrush
+                         : context.option.palette.brush(QPalette::HighlightedText);
+    return textBrush(context, QPalette::ButtonText, brushes.foregroundBrush,
+                     isOnPanel ? brushes.backgroundBrush : QBrush());
 }
 
-QBrush textBrush(const QStyleOption& option, const QWidget* widget, QPalette::ColorRole role,
-                 const QBrush& themed)
+QBrush textBrush(const StyleContext& context, QPalette::ColorRole role, const QBrush& themed,
+                 const QBrush& ground)
 {
-    const bool isApplications = widget && widget->palette().resolve() & (1U << role);
-    return isApplications || themed.style() == Qt::NoBrush ? option.palette.brush(role) : themed;
+    const QBrush& given = context.option.palette.brush(role);
+    const bool isSet = context.widget && context.widget->palette().resolve() & (1U << role);
+    const bool isOwn = isSet || OwnColors::has(context, role);
+    const QBrush brush = isOwn || themed.style() == Qt::NoBrush ? given : themed;
+    if (isOwn && OwnColors::isForThis(context, role))
+        return brush;
+    if (ground.style() == Qt::NoBrush)
+        return OwnColors::has(context, QPalette::Window) ? OwnColors::readable(
+                   context.option.palette.brush(QPalette::Window), {brush, given})
+                                                         : brush;
+    const QBrush ownGround = OwnColors::controlGround(context);
+    if (ownGround.style() != Qt::NoBrush)
+        return OwnColors::readable(ownGround, {brush, given});
+    return isOwn ? OwnColors::readable(ground, {brush, themed}) : brush;
 }
 
 void setForeground(QStyleOption& option, const QBrush& brush)
@@ -108,19 +126,20 @@ void modifyStyleOptionIcon(QStyleOptionViewItem& option, const QBrush& brush)
     option.icon = commonModifyStyleOptionIcon(option.icon, brush);
 }
 
-void commonCallButtonText(QStyleOption& option, const QWidget* widget)
+void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget)
 {
-    setForeground(option, foreground(option, widget));
+    setForeground(option, foreground({style, option, widget}));
 }
 
-void commonCallButtonText(QStyleOptionButton& option, const QWidget* widget)
+void commonCallButtonText(const BaseStyle& style, QStyleOptionButton& option, const QWidget* widget)
 {
-    prepare(option, widget);
+    prepare(style, option, widget);
 }
 
-void commonCallButtonText(QStyleOptionToolButton& option, const QWidget* widget)
+void commonCallButtonText(const BaseStyle& style, QStyleOptionToolButton& option,
+                          const QWidget* widget)
 {
-    prepare(option, widget);
+    prepare(style, option, widget);
 }
 
 } // namespace BRELK::ButtonContent

@@ -6,13 +6,14 @@
 /// foreground.
 namespace BRELK::ButtonContent {
 
-/// The brush that `role` is painted in: the application's own, where it set that role on the widget
-/// or above it, else `themed`, else the palette's.
-QBrush textBrush(const QStyleOption& option, const QWidget* widget, QPalette::ColorRole role,
-                 const QBrush& themed);
+/// The brush that a button-like control writes in on a panel that the theme fills with `ground`, or
+/// without a panel on what it stands on: the application's own for `role`, else `themed`, else the
+/// palette's. Whatever that is, it is read on the ground.
+QBrush textBrush(const StyleContext& context, QPalette::ColorRole role, const QBrush& themed,
+                 const QBrush& ground);
 
 /// The brush that a button-like control writes and draws in, on the ground that it shows.
-QBrush foreground(const QStyleOption& option, const QWidget* widget);
+QBrush foreground(const StyleContext& context);
 
 /// `icon` in `brush`; as it is for a brush that paints nothing.
 QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush);
@@ -27,10 +28,12 @@ void modifyStyleOptionIcon(QStyleOptionViewItem& option, const QBrush& brush);
 void setForeground(QStyleOption& option, const QBrush& brush);
 
 /// Gives the option's texts and arrows the foreground of its button brushes.
-void commonCallButtonText(QStyleOption& option, const QWidget* widget);
+void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget);
 
 /// As above, and recolors the icon.
-void commonCallButtonText(QStyleOptionButton& option, const QWidget* widget);
-void commonCallButtonText(QStyleOptionToolButton& option, const QWidget* widget);
+void commonCallButtonText(const BaseStyle& style, QStyleOptionButton& option,
+                          const QWidget* widget);
+void commonCallButtonText(const BaseStyle& style, QStyleOptionToolButton& option,
+                          const QWidget* widget);
 
 } // namespace BRELK::ButtonContent

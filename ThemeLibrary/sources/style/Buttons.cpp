@@ -1,6 +1,7 @@
 #include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "Texts.h"
@@ -142,6 +143,18 @@ bool isFilled(const StyleContext& context)
                 || BaseStyle::isFlatButton(&context.option));
 }
 
+/// An application's own ground takes the place of the theme's, and of a border of that color.
+bool showOwnGround(const StyleContext& context, BaseStyle::ButtonBrushes& brushes)
+{
+    const QBrush own = OwnColors::controlGround(context);
+    if (own.style() == Qt::NoBrush)
+        return false;
+    if (brushes.borderBrush == brushes.backgroundBrush)
+        brushes.borderBrush = own;
+    brushes.backgroundBrush = own;
+    return true;
+}
+
 /// A flat button at rest is not filled: a text that is made for its filling may not be seen.
 bool isMeantForFilling(const StyleContext& context, const QBrush& background)
 {
@@ -237,11 +250,13 @@ void paintPanel(const PaintContext& context)
     if (isSpinButtonOnGround(context))
         return;
     BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&context.option, context.widget);
+    const bool hasOwnGround = showOwnGround(context, brushes);
     if (context.widget && WidgetTraits::isSegmentedGroup(context.widget->parent())) {
         paintSegment(context, brushes);
         return;
     }
-    const bool filled = isFilled(context);
+    const bool filled =
+        isFilled(context) || (hasOwnGround && !BaseStyle::isFlatButton(&context.option));
     const bool hasError = showsError(context);
     if (!filled && !hasError && BaseStyle::isFlatButton(&context.option))
         return;
@@ -287,7 +302,7 @@ void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
         arrow.rect = context.visual({button.rect.right() - indicator - ArrowMargin,
                                      button.rect.y() + (button.rect.height() - indicator) / 2,
                                      indicator, indicator});
-        ButtonContent::commonCallButtonText(arrow, context.widget);
+        ButtonContent::commonCallButtonText(context.style, arrow, context.widget);
         ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, arrow);
     }
 }
@@ -301,7 +316,8 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
     if (themed.style() == Qt::NoBrush)
         themed = context.color(ThemeNames::ForegroundColor);
     const QBrush foreground =
-        ButtonContent::textBrush(button, context.widget, QPalette::ButtonText, themed);
+        ButtonContent::textBrush(context, QPalette::ButtonText, themed,
+                                 isFilled(context) ? brushes.backgroundBrush : QBrush());
 
     constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
     const int textWidth = Texts::width(context.painter, Flags, button.text);

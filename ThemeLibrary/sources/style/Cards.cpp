@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -57,7 +58,10 @@ void paintEnd(const PaintContext& context, bool isUpper)
     const Corners joined = alone     ? Helpers::None
                            : isUpper ? Helpers::BottomCorners
                                      : Helpers::TopCorners;
-    paintPart(context, context.brush(ThemeNames::BackgroundUpLevel1Brush), joined);
+    paintPart(context,
+              OwnColors::ground(context, QPalette::Window,
+                                context.brush(ThemeNames::BackgroundUpLevel1Brush)),
+              joined);
     if (alone)
         return;
     const QRect& rect = context.option.rect;

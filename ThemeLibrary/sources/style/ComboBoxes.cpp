@@ -2,6 +2,7 @@
 #include "ButtonContent.h"
 #include "Families.h"
 #include "InputMetrics.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -99,7 +100,7 @@ void paintArrow(const PaintContext& context, const QStyleOptionComboBox& comboBo
 {
     auto arrow = optionFrom<QStyleOptionButton>(comboBox);
     arrow.rect = rect;
-    ButtonContent::commonCallButtonText(arrow, context.widget);
+    ButtonContent::commonCallButtonText(context.style, arrow, context.widget);
     ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, arrow);
 }
 
@@ -111,8 +112,9 @@ void paintQuietBackground(const PaintContext& context, const QStyleOptionComboBo
         return;
     const auto name = BaseStyle::isDown(comboBox) ? ThemeNames::BackgroundSubLevel2Brush
                                                   : ThemeNames::BackgroundUpLevel1Brush;
+    const QBrush own = OwnColors::controlGround(context);
     Shapes::drawBox(context, comboBox.rect, Shapes::cornerRadius(ThemeNames::SmallSize),
-                    context.brush(name), Qt::NoBrush);
+                    own.style() == Qt::NoBrush ? context.brush(name) : own, Qt::NoBrush);
     if (comboBox.subControls & QStyle::SC_ComboBoxArrow)
         paintArrow(context, comboBox,
                    context.part(QStyle::CC_ComboBox, comboBox, QStyle::SC_ComboBoxArrow));
@@ -122,10 +124,10 @@ QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& combo
 {
     if (showsPlaceholder(context.widget))
         return comboBox.palette.brush(QPalette::PlaceholderText);
-    const QBrush themed = comboBox.frame
-                              ? BaseStyle::buttonBrushes(&comboBox, context.widget).foregroundBrush
-                              : context.brush(ThemeNames::ForegroundBrush);
-    return ButtonContent::textBrush(comboBox, context.widget, QPalette::ButtonText, themed);
+    const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&comboBox, context.widget);
+    const QBrush themed =
+        comboBox.frame ? brushes.foregroundBrush : context.brush(ThemeNames::ForegroundBrush);
+    return ButtonContent::textBrush(context, QPalette::ButtonText, themed, brushes.backgroundBrush);
 }
 
 /// The base style moves the field of a pressed box; a text that jumps is hard to read.
@@ -154,8 +156,9 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
         iconRect.moveRight(comboBox.editable ? rect.right() - IconSpacing : rect.right());
     // The line edit leaves this place open; a box that is pointed at shows its own ground there.
     if (comboBox.editable && !BaseStyle::isHovered(&comboBox) && !BaseStyle::isDown(comboBox))
-        context.painter.fillRect(iconRect,
-                                 context.brush(ThemeNames::InputUncheckedBackgroundBrush));
+        context.painter.fillRect(
+            iconRect, OwnColors::ground(context, QPalette::Base,
+                                        context.brush(ThemeNames::InputUncheckedBackgroundBrush)));
     const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(comboBox.currentIcon, brush);
     context.proxy().drawItemPixmap(&context.painter, iconRect, Qt::AlignCenter,
                                    Shapes::iconPixmap(context.painter, icon, size));

@@ -1,6 +1,7 @@
 #include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -89,27 +90,37 @@ QPalette::ColorGroup colorGroup(const StyleContext& context)
     return context.has(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
 }
 
-QBrush textBrush(const StyleContext& context)
-{
-    return context.option.palette.brush(colorGroup(context), context.has(QStyle::State_Selected)
-                                                                 ? QPalette::HighlightedText
-                                                                 : QPalette::Text);
-}
-
 bool hasViewFocus(const StyleContext& context)
 {
     return context.widget ? context.widget->hasFocus() : context.has(QStyle::State_Active);
 }
 
-/// An application that colors the selection of one view keeps its color.
+/// An application that colors the selection keeps its color.
 QBrush selectionBrush(const StyleContext& context)
 {
-    const bool isApplications =
+    const bool isSet =
         context.widget && context.widget->palette().resolve() & (1U << QPalette::Highlight);
-    if (isApplications)
+    if (isSet || OwnColors::has(context, QPalette::Highlight))
         return context.option.palette.brush(colorGroup(context), QPalette::Highlight);
     const bool focused = hasViewFocus(context) || WidgetTraits::isComboBoxList(context.widget);
     return context.brush(focused ? ThemeNames::MainBrush : ThemeNames::MainSubLevel1Brush);
+}
+
+QBrush textBrush(const StyleContext& context)
+{
+    const bool isSelected = context.has(QStyle::State_Selected);
+    const QPalette::ColorRole role = isSelected ? QPalette::HighlightedText : QPalette::Text;
+    const QBrush& given = context.option.palette.brush(colorGroup(context), role);
+    const bool isOwn =
+        OwnColors::has(context, role)
+        || OwnColors::has(context, isSelected ? QPalette::Highlight : QPalette::Base);
+    if (!isOwn || OwnColors::isForThis(context, role))
+        return given;
+    const QBrush ground =
+        isSelected ? selectionBrush(context)
+                   : OwnColors::ground(context, QPalette::Base,
+                                       context.brush(ThemeNames::ItemViewBackgroundBrush));
+    return OwnColors::readable(ground, {given, context.style.getPalette().brush(role)});
 }
 
 /// In a table that selects rows, the toolkit repaints the whole row under the mouse, but tells it
@@ -169,9 +180,13 @@ bool hasThemedBackground(const StyleContext& context)
 void paintSeparator(const PaintContext& context)
 {
     const QRect& rect = context.option.rect;
-    if (hasSeparators(context))
-        Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(),
-                         context.color(ThemeNames::BackgroundColor));
+    constexpr int OwnDepth = 12; ///< percent, on the application's ground
+    if (!hasSeparators(context))
+        return;
+    const QBrush line = OwnColors::has(context, QPalette::Base)
+                            ? OwnColors::deeper(context.option.palette.base(), OwnDepth)
+                            : context.color(ThemeNames::BackgroundColor);
+    Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), line);
 }
 
 /// The room that a thin scroll bar over the list takes from its rows.
@@ -344,8 +359,10 @@ void paintPanel(const PaintContext& context, const QStyleOptionViewItem& item)
 void paintRow(const PaintContext& context, const QStyleOptionViewItem& item)
 {
     if (item.features & QStyleOptionViewItem::Alternate)
-        context.painter.fillRect(item.rect,
-                                 context.brush(ThemeNames::ItemViewAlternateBackgroundBrush));
+        context.painter.fillRect(
+            item.rect,
+            OwnColors::ground(context, QPalette::AlternateBase,
+                              context.brush(ThemeNames::ItemViewAlternateBackgroundBrush)));
     else if (hasThemedBackground(context))
         context.painter.fillRect(item.rect, context.brush(ThemeNames::ItemViewBackgroundBrush));
     // In a tree the row begins before its first item, with the branches.

@@ -1,6 +1,6 @@
-#include "ButtonContent.h"
 #include "Families.h"
 #include "InputMetrics.h"
+#include "OwnColors.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
@@ -84,7 +84,7 @@ QBrush background(const PaintContext& context, const QBrush& themed)
         const QWidget* viewport = area->viewport();
         return viewport->palette().brush(viewport->backgroundRole());
     }
-    return ButtonContent::textBrush(context.option, context.widget, QPalette::Base, themed);
+    return OwnColors::ground(context, QPalette::Base, themed);
 }
 
 QBrush inputBackground(const PaintContext& context)
@@ -121,6 +121,9 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
     const bool ofComboBox = isComboBox(context.widget);
     if (ofComboBox) {
         brushes = BaseStyle::buttonBrushes(&frame, context.widget);
+        const QBrush own = OwnColors::controlGround(context);
+        if (own.style() != Qt::NoBrush)
+            brushes.backgroundBrush = own;
     } else {
         brushes.borderBrush = inputBorder(context);
         // A line edit's panel is filled already, and a plain frame shows what it stands on.

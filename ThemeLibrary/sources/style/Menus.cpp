@@ -1,6 +1,7 @@
 #include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -166,15 +167,28 @@ void paintTexts(const PaintContext& context, const QStyleOptionMenuItem& item, c
                      tab >= 0 ? item.text.left(tab) : item.text, brush);
 }
 
+QBrush selectionBrush(const StyleContext& context)
+{
+    return OwnColors::ground(context, QPalette::Highlight, context.color(ThemeNames::MainColor));
+}
+
+QBrush selectedBrush(const StyleContext& context)
+{
+    return OwnColors::words(context, QPalette::HighlightedText, QPalette::Highlight,
+                            context.color(ThemeNames::MainColor));
+}
+
 QBrush itemBrush(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     if (isSelected(context))
-        return item.palette.brush(QPalette::HighlightedText);
+        return selectedBrush(context);
     if (context.flag(WidgetProperties::IsComboBoxPopupItem)) {
         const QBrush themed = BaseStyle::buttonBrushes(&item, context.widget).foregroundBrush;
-        return ButtonContent::textBrush(item, context.widget, QPalette::Text, themed);
+        if (!OwnColors::has(context, QPalette::Text) && themed.style() != Qt::NoBrush)
+            return themed;
     }
-    return item.palette.brush(QPalette::Text);
+    return OwnColors::words(context, QPalette::Text, QPalette::Base,
+                            context.brush(ThemeNames::BackgroundSubLevel1Brush));
 }
 
 } // namespace
@@ -186,7 +200,9 @@ namespace {
 QBrush barBrush(const PaintContext& context)
 {
     const bool enabled = context.widget ? context.widget->isEnabled() : context.enabled();
-    return themeValues().brushes.value(ThemeNames::BackgroundSubLevel2Brush, enabled);
+    const QBrush& themed =
+        themeValues().brushes.value(ThemeNames::BackgroundSubLevel2Brush, enabled);
+    return OwnColors::ground(context, QPalette::Window, themed);
 }
 
 } // namespace
@@ -198,7 +214,8 @@ void paintPanel(const PaintContext& context)
         return;
     const PainterSaver saver(context.painter);
     const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
-    const QBrush fill = themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush);
+    const QBrush fill = OwnColors::ground(
+        context, QPalette::Base, themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush));
     qDrawPlainRect(&context.painter, context.option.rect, border,
                    context.metric(QStyle::PM_MenuHMargin), &fill);
 }
@@ -207,7 +224,7 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     const PainterSaver saver(context.painter);
     if (isSelected(context))
-        context.painter.fillRect(item.rect, context.color(ThemeNames::MainColor));
+        context.painter.fillRect(item.rect, selectionBrush(context));
     else if (context.flag(WidgetProperties::IsComboBoxPopupItem))
         context.painter.fillRect(item.rect, context.brush(ThemeNames::BackgroundSubLevel1Brush));
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
@@ -239,7 +256,8 @@ void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     // The base style fills it with the color of buttons and draws two dashed lines, a dark and a
     // light one: here the color of menus and one line like that of separators.
-    const QBrush fill = themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush);
+    const QBrush fill = OwnColors::ground(
+        context, QPalette::Base, themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush));
     QStyleOptionMenuItem tearoff = item;
     tearoff.palette.setBrush(QPalette::Button, fill);
     tearoff.palette.setBrush(QPalette::Dark, context.style.lightOutlineBrush(item.palette));
@@ -254,14 +272,17 @@ void paintBarItem(const PaintContext& context, const QStyleOptionMenuItem& item)
     const PainterSaver saver(context.painter);
     const QRect& rect = item.rect;
     const bool open = isSelected(context) && BaseStyle::isPressed(item);
-    const QColor main = context.color(ThemeNames::MainColor);
-    context.painter.fillRect(rect, open ? QBrush(main) : barBrush(context));
+    const QBrush main = selectionBrush(context);
+    context.painter.fillRect(rect, open ? main : barBrush(context));
     if (isSelected(context) && !open)
         context.painter.fillRect(
             QRect(rect.x(), rect.bottom() + 1 - HoverLine, rect.width(), HoverLine), main);
 
+    const bool isOwn = OwnColors::has(context, QPalette::Window);
     const QBrush brush =
-        item.palette.brush(open ? QPalette::HighlightedText : QPalette::ButtonText);
+        open ? selectedBrush(context)
+             : OwnColors::words(context, isOwn ? QPalette::WindowText : QPalette::ButtonText,
+                                QPalette::Window, barBrush(context));
     if (item.icon.isNull()) {
         Shapes::drawText(context, rect,
                          Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine

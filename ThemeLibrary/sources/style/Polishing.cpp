@@ -1,5 +1,6 @@
 #include "BaseStyle.h"
 #include "ComboBoxDefaultItemDelegate.h"
+#include "OwnColors.h"
 #include "ThemeValues.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
@@ -86,9 +87,21 @@ bool hasThemedBase(const QWidget* widget)
     return is<QAbstractItemView>(widget) && !has<Properties::CustomItemViewPalette>(widget);
 }
 
-void setThemedBase(BaseStyle&, QWidget& widget)
+/// Under an application's own palette the words in a view are not the theme's, so its ground is not
+/// either.
+void setThemedBase(BaseStyle& style, QWidget& widget)
 {
-    setPaletteBrush(widget, QPalette::Base, ThemeNames::ItemViewBackgroundBrush);
+    constexpr uint Base = 1U << QPalette::Base;
+    if (!OwnColors::isForAll(style, QPalette::Base)) {
+        setPaletteBrush(widget, QPalette::Base, ThemeNames::ItemViewBackgroundBrush);
+        return;
+    }
+    QPalette palette = widget.palette();
+    if (palette.brush(QPalette::Base)
+        != BaseStyle::getBrush(ThemeNames::ItemViewBackgroundBrush, true))
+        return;
+    palette.resolve(palette.resolve() & ~Base);
+    widget.setPalette(palette);
 }
 
 bool hasThemedItems(const QWidget* widget)
@@ -414,10 +427,19 @@ void BaseStyle::unpolish(QWidget* widget)
 void BaseStyle::polish(QApplication* app)
 {
     QProxyStyle::polish(app);
+    disconnect(app, &QGuiApplication::paletteChanged, this,
+               nullptr); // a style sheet polishes again
+    connect(app, &QGuiApplication::paletteChanged, this, [this] {
+        const QWidgetList widgets = QApplication::allWidgets();
+        for (QWidget* widget : widgets)
+            if (widget->testAttribute(Qt::WA_WState_Polished) && hasThemedBase(widget))
+                setThemedBase(*this, *widget);
+    });
 }
 
 void BaseStyle::unpolish(QApplication* app)
 {
+    disconnect(app, &QGuiApplication::paletteChanged, this, nullptr);
     QProxyStyle::unpolish(app);
 }
 

@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -186,8 +187,14 @@ void drawTextIn(const PaintContext& context, const QRect& clip, const QRect& rec
         return;
     const PainterSaver saver(context.painter);
     context.painter.setClipRect(clip, Qt::IntersectClip);
-    Shapes::drawText(context, rect, Qt::AlignCenter | Qt::TextSingleLine, text,
-                     context.option.palette.brush(role));
+    QBrush brush = context.option.palette.brush(role);
+    if (OwnColors::has(context, role)) { // which need not be made for this ground
+        const QBrush ground = role == QPalette::Text
+                                  ? context.style.grooveBackgroundBrush(context.enabled())
+                                  : fillBrush(context);
+        brush = OwnColors::readable(ground, {brush, context.style.getPalette().brush(role)});
+    }
+    Shapes::drawText(context, rect, Qt::AlignCenter | Qt::TextSingleLine, text, brush);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "ButtonContent.h"
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Pictures.h"
 #include "Shapes.h"
@@ -241,10 +242,11 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
                                                        QStyle::SC_SpinBoxFrame, context.widget);
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
     const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
+    const QBrush own = OwnColors::controlGround(context);
+    const QBrush ground =
+        own.style() == Qt::NoBrush ? context.brush(ThemeNames::InputUncheckedBackgroundBrush) : own;
     if (spinBox.frame && spinBox.subControls & QStyle::SC_SpinBoxFrame)
-        Shapes::drawBox(context, frame, radius,
-                        context.brush(ThemeNames::InputUncheckedBackgroundBrush),
-                        borderColor(context, hasError));
+        Shapes::drawBox(context, frame, radius, ground, borderColor(context, hasError));
     paintStepButtons(context, spinBox, frame);
     if (!spinBox.frame && context.has(QStyle::State_HasFocus))
         context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(spinBox));

@@ -1,5 +1,6 @@
 #include "ButtonContent.h"
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -184,19 +185,22 @@ QRect shapeRect(const PaintContext& context, const QStyleOptionTab& tab, Side si
 
 QBrush tabBackground(const PaintContext& context, BaseStyle::TabBackgroundState state)
 {
-    return context.brush(state == BaseStyle::TabBackground_Selected
-                             ? ThemeNames::TabBackgroundActiveBrush
-                             : ThemeNames::TabBackgroundBrush);
+    constexpr int Depth = 8; ///< percent, by which tabs in the application's color lie behind
+    const bool selected = state == BaseStyle::TabBackground_Selected;
+    const QBrush& themed = context.brush(selected ? ThemeNames::TabBackgroundActiveBrush
+                                                  : ThemeNames::TabBackgroundBrush);
+    if (!OwnColors::has(context, QPalette::Window))
+        return themed;
+    const QBrush own = OwnColors::ground(context, QPalette::Window, themed);
+    return selected ? own : OwnColors::deeper(own, Depth);
 }
 
-QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
+QBrush themedForeground(const PaintContext& context, BaseStyle::TabBackgroundState state,
+                        const QBrush& given)
 {
-    const QBrush given = tab.palette.brush(QPalette::WindowText);
-    if (context.widget && given != context.widget->palette().brush(QPalette::WindowText))
-        return given; // the application colors this tab
     if (!context.enabled())
         return context.brush(ThemeNames::ForegroundDisabledBrush);
-    switch (context.style.getTabBackgroundState(tab)) {
+    switch (state) {
     case BaseStyle::TabBackground_Highlighted:
         return context.brush(ThemeNames::TabForegroundMouseOverBrush);
     case BaseStyle::TabBackground_Selected:
@@ -207,14 +211,32 @@ QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
     }
 }
 
+QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
+{
+    const QBrush given = tab.palette.brush(QPalette::WindowText);
+    if (context.widget && given != context.widget->palette().brush(QPalette::WindowText))
+        return given; // the application colors this tab
+    const BaseStyle::TabBackgroundState state = context.style.getTabBackgroundState(tab);
+    const QBrush themed = themedForeground(context, state, given);
+    if (!OwnColors::has(context, QPalette::Window)
+        && !OwnColors::has(context, QPalette::WindowText))
+        return themed;
+    if (OwnColors::isForThis(context, QPalette::WindowText))
+        return themed;
+    return OwnColors::readable(tabBackground(context, state),
+                               {themed, given, context.style.getPalette().windowText()});
+}
+
 } // namespace
 
 void paintFrame(const PaintContext& context)
 {
     const PainterSaver saver(context.painter);
     const QRect& rect = context.option.rect;
-    context.painter.fillRect(Shapes::onPixels(rect),
-                             context.brush(ThemeNames::TabBackgroundActiveBrush));
+    context.painter.fillRect(
+        Shapes::onPixels(rect),
+        OwnColors::ground(context, QPalette::Window,
+                          context.brush(ThemeNames::TabBackgroundActiveBrush)));
     if (const auto* frame = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(&context.option)) {
         // The selected tab and its page are one surface: no line between them.
         QRect gap = frame->selectedTabRect;

@@ -1,5 +1,6 @@
 #include "ButtonContent.h"
 #include "Families.h"
+#include "OwnColors.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
@@ -35,14 +36,23 @@ void paintLabelPart(const PaintContext& context, QStyleOptionToolBox& part, cons
                                            context.widget);
 }
 
+QBrush tabBrush(const StyleContext& context)
+{
+    return OwnColors::ground(context, QPalette::Button,
+                             context.brush(ThemeNames::BackgroundUpLevel1Brush));
+}
+
 } // namespace
 
 void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
 {
+    constexpr int OwnStep = 8; ///< percent, of the application's ground
     const QRect& rect = tab.rect;
     const bool raised = BaseStyle::isHovered(&tab) || BaseStyle::isPressed(tab);
-    context.painter.fillRect(rect, context.brush(ThemeNames::BackgroundUpLevel1Brush));
-    if (raised) {
+    const bool isOwn = OwnColors::has(context, QPalette::Button);
+    const QBrush ground = tabBrush(context);
+    context.painter.fillRect(rect, raised && isOwn ? OwnColors::deeper(ground, OwnStep) : ground);
+    if (raised && !isOwn) {
         constexpr qreal Hint = 0.35;
         QColor step = context.color(ThemeNames::BackgroundUpLevel2Color);
         // A step as light as the words on it is only hinted at.
@@ -63,11 +73,12 @@ void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab)
     constexpr int Padding = 10;
     constexpr int IconSpacing = 8;
     const int iconSize = context.metric(QStyle::PM_SmallIconSize);
+    const QBrush brush =
+        OwnColors::words(context, QPalette::ButtonText, QPalette::Button, tabBrush(context));
     QRect textRect = tab.rect.adjusted(Padding, 0, -Padding, 0);
     // The base style draws the icon as it gets it and does not mirror, so it gets the two parts one
     // by one.
     if (!tab.icon.isNull()) {
-        const QBrush brush = tab.palette.brush(QPalette::ButtonText);
         QStyleOptionToolBox icon = tab;
         icon.text.clear();
         icon.icon = ButtonContent::commonModifyStyleOptionIcon(tab.icon, brush);
@@ -76,6 +87,7 @@ void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab)
     }
     QStyleOptionToolBox text = tab;
     text.icon = QIcon();
+    ButtonContent::setForeground(text, brush);
     paintLabelPart(context, text, textRect);
 }
 

@@ -228,7 +228,7 @@ void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& 
     label.state = states.button;
     const int frameWidth = context.metric(QStyle::PM_DefaultFrameWidth);
     label.rect = buttonRect.adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
-    ButtonContent::commonCallButtonText(label, context.widget);
+    ButtonContent::commonCallButtonText(context.style, label, context.widget);
     context.draw(QStyle::CE_ToolButtonLabel, label);
 
     if (button.subControls & QStyle::SC_ToolButtonMenu)
@@ -257,7 +257,7 @@ void BaseStyle::drawToolButtonArrow(const QStyle* style, const QStyleOptionToolB
     }
     QStyleOption arrow = *option;
     arrow.rect = rect;
-    ButtonContent::commonCallButtonText(arrow, widget);
+    ButtonContent::commonCallButtonText(*this, arrow, widget);
     style->drawPrimitive(element, &arrow, painter, widget);
 }
 

@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -26,7 +27,9 @@ int layoutMargin(const MeasureContext& context)
 void paintStatusBar(const PaintContext& context)
 {
     const QRect& rect = context.option.rect;
-    context.painter.fillRect(rect, context.brush(ThemeNames::BackgroundSubLevel1Brush));
+    context.painter.fillRect(
+        rect, OwnColors::ground(context, QPalette::Window,
+                                context.brush(ThemeNames::BackgroundSubLevel1Brush)));
     Shapes::drawLine(context, rect.topLeft(), rect.topRight(), context.borderBrush().color());
 }
 
