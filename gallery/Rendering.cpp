@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDebug>
 #include <QDir>
+#include <QProgressBar>
 #include <QTextStream>
 #include <QVBoxLayout>
 
@@ -28,6 +29,22 @@ void settle()
     }
 }
 
+/// Stops bars that move by themselves.
+void holdStill(const QWidget& window)
+{
+    for (QProgressBar* bar : window.findChildren<QProgressBar*>()) {
+        if (bar->minimum() == bar->maximum())
+            bar->setStyleSheet(QStringLiteral("QProgressBar { widget-animation-duration: 0; }"));
+    }
+}
+
+QSize pageSize(const QLayout& layout)
+{
+    const int width = qMax(PageWidth, layout.totalMinimumSize().width());
+    return {width, layout.hasHeightForWidth() ? layout.totalHeightForWidth(width)
+                                              : layout.totalSizeHint().height()};
+}
+
 QPixmap picture(const PageEntry& entry)
 {
     QWidget window;
@@ -35,6 +52,7 @@ QPixmap picture(const PageEntry& entry)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSizeConstraint(QLayout::SetNoConstraint);
     layout->addWidget(buildPage(entry));
+    holdStill(window);
     // Specimens share the focus of this widget, which shows nothing.
     QWidget focus(&window);
     focus.setFocusPolicy(Qt::StrongFocus);
@@ -42,12 +60,11 @@ QPixmap picture(const PageEntry& entry)
 
     window.setAttribute(Qt::WA_DontShowOnScreen);
     window.ensurePolished();
-    const int width = qMax(PageWidth, layout->totalMinimumSize().width());
-    const int height = layout->hasHeightForWidth() ? layout->totalHeightForWidth(width)
-                                                   : window.sizeHint().height();
-    window.resize(width, height);
+    window.resize(pageSize(*layout));
     window.show();
     QApplication::setActiveWindow(&window);
+    settle();
+    window.resize(pageSize(*layout)); // widgets may have changed their minds when they were shown
     settle();
     focus.setFocus(Qt::TabFocusReason);
     settle();
@@ -65,12 +82,10 @@ bool write(const PageEntry& entry, const QDir& directory)
     return written;
 }
 
-/// Stops all that moves by itself, and makes dates and numbers those of one place.
-void holdStill()
+/// Stops the text cursor, and makes dates and numbers those of one place.
+void beSameEverywhere()
 {
     QApplication::setCursorFlashTime(0);
-    qApp->setStyleSheet(qApp->styleSheet()
-                        % QLatin1String("\nQProgressBar { widget-animation-duration: 0; }"));
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
 }
 
@@ -78,7 +93,7 @@ void holdStill()
 
 bool renderPages(const Settings& settings)
 {
-    holdStill();
+    beSameEverywhere();
     const QDir directory(settings.renderDirectory);
     QDir().mkpath(directory.path());
     const QVector<PageEntry>& pages = allPages();

@@ -56,6 +56,11 @@ struct Options
                              QStringLiteral("factor")};
     QCommandLineOption rightToLeft{QStringLiteral("rtl"),
                                    QStringLiteral("Lay out from right to left.")};
+    QCommandLineOption styleSheet{
+        QStringLiteral("style-sheet"),
+        QStringLiteral("Give the application the style sheet <text>, which may be empty, in place "
+                       "of the theme's."),
+        QStringLiteral("text")};
     QCommandLineOption listPages{QStringLiteral("list-pages"),
                                  QStringLiteral("Print the names of the pages and quit.")};
 };
@@ -80,6 +85,8 @@ QStringList Settings::toArguments() const
     arguments << QStringLiteral("--scale") << QString::number(scale);
     if (rightToLeft)
         arguments << QStringLiteral("--rtl");
+    if (styleSheet)
+        arguments << QStringLiteral("--style-sheet") << *styleSheet;
     return arguments;
 }
 
@@ -105,7 +112,7 @@ Settings readSettings(const QCoreApplication& application, const QString& defaul
         QStringLiteral("Shows every kind of widget in a theme, in every state."));
     parser.addHelpOption();
     parser.addOptions({options.theme, options.repository, options.page, options.render,
-                       options.scale, options.rightToLeft, options.listPages});
+                       options.scale, options.rightToLeft, options.styleSheet, options.listPages});
     parser.process(application);
 
     Settings settings;
@@ -115,6 +122,8 @@ Settings readSettings(const QCoreApplication& application, const QString& defaul
     settings.page = knownPage(parser.value(options.page));
     settings.renderDirectory = parser.value(options.render);
     settings.rightToLeft = parser.isSet(options.rightToLeft);
+    if (parser.isSet(options.styleSheet))
+        settings.styleSheet = parser.value(options.styleSheet);
     settings.listPages = parser.isSet(options.listPages);
     // prepareStart() has put a valid scale there.
     const double scale = toScale(qEnvironmentVariable("QT_SCALE_FACTOR"));

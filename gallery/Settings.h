@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class QCoreApplication;
 
 namespace Gallery {
@@ -14,6 +16,7 @@ struct Settings
     QString repository;
     QString page;
     QString renderDirectory; ///< empty: show the window
+    std::optional<QString> styleSheet; ///< takes the place of the application style sheet
     double scale = 1;
     bool rightToLeft = false;
     bool listPages = false;

@@ -27,6 +27,8 @@ int main(int argc, char** argv)
     }
     if (settings.rightToLeft)
         QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    if (settings.styleSheet)
+        application.setStyleSheet(*settings.styleSheet);
     if (!settings.renderDirectory.isEmpty())
         return Gallery::renderPages(settings) ? 0 : 1;
 

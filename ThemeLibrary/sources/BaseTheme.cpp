@@ -18,6 +18,7 @@
 #include <QImageReader>
 #include <QMetaEnum>
 #include <QResource>
+#include <QStyle>
 #include <QToolTip>
 
 namespace BRELK {
@@ -74,12 +75,24 @@ void deriveDisabledGroup(QPalette& palette)
     }
 }
 
+QString styleName()
+{
+    return QStringLiteral("varn");
+}
+
 void installStyle(const QPalette& palette)
 {
     auto* style = new BaseStyle;
     style->setPalette(palette);
+    style->setObjectName(styleName());
     QApplication::setStyle(style);
     QToolTip::setPalette(palette);
+}
+
+/// The application may do without the style sheet: the style needs none.
+bool wantsStyleSheet(const QApplication& app)
+{
+    return !app.property("varnNoStyleSheet").toBool();
 }
 
 void installStyleSheets(QApplication& app)
@@ -95,6 +108,8 @@ void installStyleSheets(QApplication& app)
             log(QLatin1String("Error reading stylesheet: ") + file.errorString());
     }
     app.setStyleSheet(ThemeResources::customizeStyleSheet(joined));
+    // What now stands before the style has no name by itself.
+    QApplication::style()->setObjectName(styleName());
 }
 
 void registerBundles(const QString& directory)
@@ -190,7 +205,8 @@ void BaseTheme::customize(QApplication* app)
         deriveDisabledGroup(palette);
         foreground = palette.color(QPalette::WindowText);
         installStyle(palette);
-        installStyleSheets(*app);
+        if (wantsStyleSheet(*app))
+            installStyleSheets(*app);
     }
 
     QApplication::setFont(configuration.getFont().getFont(ThemeFont::BASE_FONT));

@@ -52,8 +52,9 @@ QGroupBox* makeCheckableGroupBox(bool checked)
 
 void addGroupBoxes(Section& section)
 {
-    QGroupBox* flat = makeGroupBox(QStringLiteral("Filter"));
+    QGroupBox* flat = makeGroupBox({});
     flat->setFlat(true);
+    flat->setTitle(QStringLiteral("Filter")); // measures the box, which becoming flat does not
     QGroupBox* disabled = makeGroupBox(QStringLiteral("Filter"));
     disabled->setEnabled(false);
     QGroupBox* centered = makeGroupBox(QStringLiteral("Filter"));

@@ -44,6 +44,7 @@ QListView* makeIconList()
 {
     QListView* list = makeList();
     list->setViewMode(QListView::IconMode);
+    list->setResizeMode(QListView::Adjust);
     list->setIconSize({4 * Unit, 4 * Unit});
     list->setGridSize({13 * Unit, 9 * Unit});
     return list;

@@ -22,10 +22,11 @@ QVariant mainColor()
     return ThemeResources::getThemeVar(QStringLiteral("colors/MainColor"), {});
 }
 
-/// The installed style; the application's own is the one of its style sheet, which owns it.
+/// The installed style; below a style sheet it belongs to the style of that.
 BaseStyle* installedStyle()
 {
-    return qApp->style()->findChild<BaseStyle*>();
+    auto* own = qobject_cast<BaseStyle*>(QApplication::style());
+    return own ? own : QApplication::style()->findChild<BaseStyle*>();
 }
 
 /// Notes what a widget can see of the theme when its style changes.
@@ -64,8 +65,9 @@ QByteArray state()
                 + QStringList(group->toMap().keys()).join(QLatin1Char(' ')).toLatin1() + '\n';
     text += "main color " + mainColor().value<QColor>().name().toLatin1() + '\n';
     if (installedStyle())
-        text += "style, palette" + toText(QApplication::palette()) + ", tool tips"
-                + toText(QToolTip::palette()) + '\n';
+        text += "style " + QApplication::style()->objectName().toLatin1() + ", palette"
+                + toText(QApplication::palette()) + ", tool tips" + toText(QToolTip::palette())
+                + '\n';
     for (const char* part : {"#203040", "@"})
         if (qApp->styleSheet().contains(QLatin1String(part)))
             text += QByteArray("style sheet with ") + part + '\n';
@@ -146,6 +148,9 @@ private Q_SLOTS:
         qputenv("BRELK_USE_NATIVE_STYLE", "");
         apply("with the native style");
         qunsetenv("BRELK_USE_NATIVE_STYLE");
+        qApp->setProperty("varnNoStyleSheet", true);
+        apply("without the style sheet");
+        qApp->setProperty("varnNoStyleSheet", {});
         QApplication::setPalette(QPalette(Qt::green));
         apply("over colors of the application's own");
         for (const char* file : {"theme.xml", "config.xml", "qpaletteMapping.xml"}) {

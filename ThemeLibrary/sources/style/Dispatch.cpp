@@ -58,7 +58,10 @@ Painter painterOf(QStyle::ControlElement element)
     case QStyle::CE_ColumnViewGrip:      return by<ItemViews::paintColumnViewGrip>;
     case QStyle::CE_ComboBoxLabel:       return by<ComboBoxes::paintLabel>;
     case QStyle::CE_DockWidgetTitle:     return by<TitleBars::paintDockTitle>;
-    case QStyle::CE_HeaderLabel:         return by<ItemViews::paintHeaderLabel>;
+    case QStyle::CE_Header:              return by<Headers::paintHeader>;
+    case QStyle::CE_HeaderEmptyArea:     return by<Headers::paintEmptyArea>;
+    case QStyle::CE_HeaderLabel:         return by<Headers::paintLabel>;
+    case QStyle::CE_HeaderSection:       return by<Headers::paintSection>;
     case QStyle::CE_ItemViewItem:        return by<ItemViews::paintItem>;
     case QStyle::CE_MenuBarEmptyArea:    return by<Menus::paintBarEmptyArea>;
     case QStyle::CE_MenuBarItem:         return by<Menus::paintBarItem>;
@@ -108,6 +111,8 @@ RectRule ruleOf(QStyle::SubElement element)
     switch (element) {
     case QStyle::SE_CheckBoxContents:           return by<CheckBoxes::contentsRect>;
     case QStyle::SE_CheckBoxIndicator:          return by<CheckBoxes::indicatorRect>;
+    case QStyle::SE_HeaderArrow:                return by<Headers::markRect>;
+    case QStyle::SE_HeaderLabel:                return by<Headers::labelRect>;
     case QStyle::SE_ItemViewItemCheckIndicator: return by<ItemViews::markRect>;
     case QStyle::SE_ItemViewItemDecoration:     return by<ItemViews::markRect>;
     case QStyle::SE_ItemViewItemText:           return by<ItemViews::textRect>;
@@ -137,6 +142,7 @@ SizeRule ruleOf(QStyle::ContentsType type)
     switch (type) {
     case QStyle::CT_CheckBox:     return by<CheckBoxes::checkBoxSize>;
     case QStyle::CT_ComboBox:     return by<ComboBoxes::comboBoxSize>;
+    case QStyle::CT_HeaderSection: return by<Headers::sectionSize>;
     case QStyle::CT_ItemViewItem: return by<ItemViews::itemSize>;
     case QStyle::CT_LineEdit:     return by<LineEdits::lineEditSize>;
     case QStyle::CT_MenuBarItem:  return by<Menus::barItemSize>;

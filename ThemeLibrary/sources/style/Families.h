@@ -96,6 +96,17 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
 void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& groupBox);
 } // namespace GroupBoxes
 
+namespace Headers {
+QSize sectionSize(const MeasureContext& context, const QStyleOptionHeader& header,
+                  const QSize& contents, const QSize& base);
+QRect labelRect(const StyleContext& context, const QRect& base);
+QRect markRect(const StyleContext& context, const QRect& base);
+void paintHeader(const PaintContext& context, const QStyleOptionHeader& header);
+void paintSection(const PaintContext& context);
+void paintEmptyArea(const PaintContext& context);
+void paintLabel(const PaintContext& context, const QStyleOptionHeader& header);
+} // namespace Headers
+
 namespace ItemViews {
 QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
                const QSize& contents, const QSize& base);
@@ -108,7 +119,6 @@ void paintBranch(const PaintContext& context);
 void paintColumnViewArrow(const PaintContext& context);
 void paintItem(const PaintContext& context, const QStyleOptionViewItem& item);
 void paintColumnViewGrip(const PaintContext& context);
-void paintHeaderLabel(const PaintContext& context, const QStyleOptionHeader& header);
 } // namespace ItemViews
 
 namespace LineEdits {

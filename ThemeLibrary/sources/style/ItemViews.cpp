@@ -414,32 +414,4 @@ void paintColumnViewGrip(const PaintContext& context)
                       rect.left() + (rect.width() - Shapes::GripSize) / 2);
 }
 
-namespace {
-
-/// A style sheet gives the whole section to the label, also where the mark of sorting stands.
-void leaveRoomForSortMark(const StyleContext& context, QStyleOptionHeader& label)
-{
-    const bool isBySheet = context.widget && context.widget->testAttribute(Qt::WA_StyleSheet);
-    if (!isBySheet || label.sortIndicator == QStyleOptionHeader::None
-        || label.orientation != Qt::Horizontal)
-        return;
-    const int room =
-        context.metric(QStyle::PM_HeaderMarkSize) + context.metric(QStyle::PM_HeaderMargin);
-    label.rect = context.visual(label.rect.adjusted(0, 0, -room, 0));
-    label.text = label.fontMetrics.elidedText(label.text, Qt::ElideRight, label.rect.width());
-}
-
-} // namespace
-
-void paintHeaderLabel(const PaintContext& context, const QStyleOptionHeader& header)
-{
-    QStyleOptionHeader label = header;
-    // Models that name one side only, as that of the file dialog does, do not mean the top.
-    if (!(label.textAlignment & Qt::AlignVertical_Mask))
-        label.textAlignment |= Qt::AlignVCenter;
-    leaveRoomForSortMark(context, label);
-    context.style.QProxyStyle::drawControl(QStyle::CE_HeaderLabel, &label, &context.painter,
-                                           context.widget);
-}
-
 } // namespace BRELK::ItemViews

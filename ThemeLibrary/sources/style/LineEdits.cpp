@@ -102,6 +102,14 @@ QBrush inputBorder(const PaintContext& context)
                                                              : ThemeNames::InputBorderBrush);
 }
 
+/// A line edit without a frame takes the ground of the view that it stands in, in every state: so
+/// does the toolkit, which paints it itself under any style sheet.
+bool isFrameless(const QWidget* widget)
+{
+    const auto* lineEdit = qobject_cast<const QLineEdit*>(widget);
+    return lineEdit && !lineEdit->hasFrame();
+}
+
 /// Covers all but a thin frame: there is no place for an error mark.
 bool isScrollArea(const QWidget* widget)
 {
@@ -148,7 +156,9 @@ void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame)
 {
     if (isInComboBox(context.widget) || spinBoxOf(context.widget))
         return;
-    const QBrush fill = background(context, inputBackground(context));
+    const QBrush fill = isFrameless(context.widget)
+                            ? frame.palette.brush(QPalette::Active, QPalette::Base)
+                            : background(context, inputBackground(context));
     if (frame.lineWidth <= 0) {
         context.painter.fillRect(frame.rect, fill);
         return;

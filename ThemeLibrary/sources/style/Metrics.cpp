@@ -85,7 +85,7 @@ constexpr Metric Metrics[] = {
     scaled(BaseStyle::BRELK_PM_ListViewPadding, 8),
     row(QStyle::PM_HeaderDefaultSectionSizeVertical, 4),
     scaled(QStyle::PM_HeaderDefaultSectionSizeHorizontal, 100),
-    scaled(QStyle::PM_HeaderMargin, 4),
+    pixels(QStyle::PM_HeaderMargin, 0), // the padding of sections is their own
     scaled(QStyle::PM_HeaderGripMargin, 4),
     scaled(QStyle::PM_HeaderMarkSize, 10),
     scaled(QStyle::PM_ListViewIconSize, 16),

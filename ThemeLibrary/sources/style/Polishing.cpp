@@ -17,6 +17,7 @@
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTextCharFormat>
 
 // What polish does to widgets: rows of a question and an action, tried in order on every widget.
@@ -167,6 +168,19 @@ void setTabFont(BaseStyle&, QWidget& widget)
     widget.setFont(font);
 }
 
+/// The pages keep the font that they would have without the tabs'.
+void keepPagesFont(BaseStyle&, QWidget& widget)
+{
+    auto* pages = widget.findChild<QWidget*>(QStringLiteral("qt_tabwidget_stackedwidget"),
+                                             Qt::FindDirectChildrenOnly);
+    const QWidget* parent = widget.parentWidget();
+    if (!pages)
+        return;
+    QFont font = parent ? parent->font() : QApplication::font();
+    font.resolve(QFont::AllPropertiesResolved);
+    pages->setFont(font);
+}
+
 /// The raised segments that are the default are drawn, when small, in nothing but their shades.
 void flattenDigits(BaseStyle&, QWidget& widget)
 {
@@ -178,6 +192,10 @@ void flattenDigits(BaseStyle&, QWidget& widget)
 void raiseStatusBar(BaseStyle&, QWidget& widget)
 {
     widget.setMinimumHeight(StatusBarHeight);
+    // One without a parent is polished by its own layout, which then sets the minimum of a window.
+    if (widget.isWindow())
+        QMetaObject::invokeMethod(
+            &widget, [&widget] { widget.setMinimumHeight(StatusBarHeight); }, Qt::QueuedConnection);
 }
 
 void lightenViewport(BaseStyle&, QWidget& widget)
@@ -223,6 +241,20 @@ void dressCard(BaseStyle&, QWidget& widget)
     handOut(widget,
             {{Properties::BackgroundBrush, ThemeNames::ForegroundMouseOverBrush, true},
              {Properties::BackgroundBrushDisabled, ThemeNames::ForegroundMouseOverBrush, false}});
+}
+
+bool isComboBoxList(const QWidget* widget)
+{
+    return is<QAbstractItemView>(widget) && WidgetTraits::isInComboBoxPopup(widget);
+}
+
+/// What the library's style sheet asks for; without it, or under another, the list looks the same.
+void dressComboBoxList(BaseStyle&, QWidget& widget)
+{
+    QPalette palette = widget.palette();
+    palette.setColor(QPalette::Base,
+                     BaseStyle::getColor(ThemeNames::BackgroundUpLevel1Color, true));
+    widget.setPalette(palette);
 }
 
 void replaceDelegate(BaseStyle&, QWidget& widget)
@@ -379,6 +411,7 @@ constexpr PolishRule Rules[] = {
     {WidgetTraits::isLabel,            fadeDisabledLabel},
     {tracksHover,                      trackHover},
     {WidgetTraits::isTabWidgetOrBar,   setTabFont},
+    {is<QTabWidget>,                   keepPagesFont},
     {is<QLCDNumber>,                   flattenDigits},
     {WidgetTraits::isStatusBar,        raiseStatusBar},
     {is<QScrollArea>,                  lightenViewport},
@@ -387,6 +420,7 @@ constexpr PolishRule Rules[] = {
     {has<Properties::CardSubtitle>,    fadeSubtitle},
     {isCard,                           dressCard},
     {is<QComboBox>,                    replaceDelegate},
+    {isComboBoxList,                   dressComboBoxList},
     {isGroupContainer,                 roundGroupContainer},
     {isButtonGroup,                    dressButtonGroup},
     {showsRoundedPixmap,               dressRoundedPixmap},

@@ -25,11 +25,14 @@ bool hasButtons(const QStyleOptionSpinBox& spinBox)
 
 } // namespace
 
-/// As a style sheet sizes them, without asking the style, be it about spin boxes or not.
+/// As a style sheet sizes them, without asking the style: with the room of a frame also where none
+/// is drawn.
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
                   const QSize& contents, const QSize& /*base*/)
 {
-    return context.style.QCommonStyle::sizeFromContents(QStyle::CT_SpinBox, &spinBox, contents,
+    QStyleOptionSpinBox framed = spinBox;
+    framed.frame = true;
+    return context.style.QCommonStyle::sizeFromContents(QStyle::CT_SpinBox, &framed, contents,
                                                         context.widget);
 }
 
