@@ -5,7 +5,9 @@ from drawing import SOLID, STROKE, TONE
 from geometry import Arc
 from pathdata import number, write
 
-STROKE_WIDTH = 1.5
+# A hair more than the 1.5 units that are a pixel at 16: lines of exactly one pixel or less are drawn without
+# antialiasing proper, diagonals at half their strength and the arms of a chevron unequal.
+STROKE_WIDTH = 1.51
 _TONE_OPACITY = ".25"
 
 

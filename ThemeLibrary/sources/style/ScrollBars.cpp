@@ -58,7 +58,8 @@ QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyl
 
 namespace {
 
-constexpr int ArrowSize = 10;
+constexpr int ArrowIconSize = 16; ///< larger than the bar, as smaller icons have washed-out strokes
+constexpr int ArrowSize = 10; ///< what such an icon shows
 constexpr qreal SliderInset = 0.2; ///< of the bar's thickness, on either side of the slider
 
 QStyle::PrimitiveElement lineArrow(const StyleContext& context, bool forwards)
@@ -73,11 +74,11 @@ void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool 
 {
     context.painter.fillRect(bar.rect, context.style.grooveBackgroundBrush(context.enabled()));
     QStyleOptionSlider arrow = bar;
-    arrow.rect = QRect(0, 0, ArrowSize, ArrowSize);
+    arrow.rect = QRect(0, 0, ArrowIconSize, ArrowIconSize);
     arrow.rect.moveCenter(bar.rect.center());
     if (BaseStyle::isHovered(&bar) || BaseStyle::isPressed(bar))
         ButtonContent::setForeground(arrow, context.color(ThemeNames::MainColor));
-    if (bar.rect.contains(arrow.rect))
+    if (qMin(bar.rect.width(), bar.rect.height()) >= ArrowSize)
         ArrowIcons::drawOf(context, lineArrow(context, forwards), arrow);
 }
 
