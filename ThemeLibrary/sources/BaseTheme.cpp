@@ -215,7 +215,7 @@ void BaseTheme::customize(QApplication* app)
     const QString imagesPath = m_themePath + QLatin1String("/Images/") + name;
     const QString scalablePath = imagesPath + QLatin1String("/scalable");
     registerBundles(scalablePath);
-    EmbeddedIcons::offerToIconTheme(getName(), foreground);
+    EmbeddedIcons::offerToIconTheme(name, foreground);
     addSearchPaths(imagesPath, scalablePath);
 }
 
