@@ -95,6 +95,12 @@ private Q_SLOTS:
         QCOMPARE(color(QLabel(), QIcon::Disabled), "ForegroundBrushDisabled");
         QCOMPARE(color(QLabel(), QIcon::Selected), "#e5eef4");
         QCOMPARE(color(QPushButton(), QIcon::Disabled), "#e5eef4");
+
+        QLabel label;
+        option.styleObject = &label;
+        pixmap.setDevicePixelRatio(2);
+        const QPixmap fine = m_style->generatedIconPixmap(QIcon::Disabled, pixmap, &option);
+        QCOMPARE(fine.size() / fine.devicePixelRatio(), QSize(8, 8));
     }
 
     void cacheKeys()

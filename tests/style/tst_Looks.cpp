@@ -74,6 +74,15 @@ void addLook(LookSheet& sheet, const Element& element, const QByteArray& words =
               sampleNamed(element.name, settings).option->rect.width());
 }
 
+/// The metrics by their values.
+QByteArray toText(const QMap<int, QByteArrayList>& metrics)
+{
+    QByteArray text;
+    for (auto value = metrics.cbegin(); value != metrics.cend(); ++value)
+        text += QByteArray::number(value.key()) + ": " + value->join(' ') + '\n';
+    return text;
+}
+
 /// `row` with each of the alternatives in its braces.
 QByteArrayList alternatives(const QByteArray& row)
 {
@@ -115,6 +124,33 @@ private Q_SLOTS:
         for (const Element& element : ownElements({prefix}))
             addLook(sheet, element);
         COMPARE_TRANSCRIPT("Elements." + prefix, sheet.text());
+    }
+
+    /// In the usual and in a large font, and the hints in which the style has a mind of its own.
+    void metricsAndHints()
+    {
+        const QStyle& style = *QApplication::style();
+        QWidget large;
+        QFont font = large.font();
+        font.setPixelSize(2 * font.pixelSize());
+        large.setFont(font);
+        QMap<int, QByteArrayList> metrics;
+        QMap<int, QByteArrayList> grown;
+        for (const auto metric : all<QStyle::PixelMetric>()) {
+            const int value = style.pixelMetric(metric);
+            metrics[value] += nameOf(metric) + 3;
+            if (const int larger = style.pixelMetric(metric, nullptr, &large); larger != value)
+                grown[larger] += nameOf(metric) + 3;
+        }
+        QByteArray hints;
+        const BRELK::BaseStyle plain;
+        for (const auto hint : all<QStyle::StyleHint>())
+            if (const int value = style.styleHint(hint);
+                value != plain.baseStyle()->styleHint(hint))
+                hints += QByteArray(nameOf(hint)) + ' ' + QByteArray::number(value) + '\n';
+        COMPARE_TRANSCRIPT("MetricsAndHints", "# metrics\n" + toText(metrics)
+                                                  + "# in a large font\n" + toText(grown)
+                                                  + "# hints\n" + hints);
     }
 
     /// Drawings are kept as pixels and as laid-out lines, and nobody may see that.

@@ -36,32 +36,26 @@ int differences(const Lines& some, const Lines& others)
     return count;
 }
 
-/// Pairs of lines that say the same in other words, by their indices; in order, and as many as it
-/// pays to have.
+/// Pairs of lines that say the same in other words, by their indices and in order: of those that
+/// begin alike the ones that differ least, as far as it does not leave out others.
 QVector<QPair<int, int>> pairsOf(const Lines& from, const Lines& to)
 {
-    constexpr int Left = 4; ///< as bad as so many words that differ
-    const int columns = to.size() + 1;
-    QVector<int> costs((from.size() + 1) * columns);
-    const auto cost = [&](int i, int j) -> int& { return costs[i * columns + j]; };
-    const auto together = [&](int i, int j) {
-        const bool alike = from.at(i).first() == to.at(j).first();
-        return cost(i + 1, j + 1) + (alike ? differences(from.at(i), to.at(j)) : 2 * Left);
-    };
-    for (int i = from.size(); i >= 0; --i)
-        for (int j = to.size(); j >= 0; --j) {
-            if (i < from.size() && j < to.size())
-                cost(i, j) =
-                    std::min({together(i, j), cost(i + 1, j) + Left, cost(i, j + 1) + Left});
-            else
-                cost(i, j) = (from.size() - i + to.size() - j) * Left;
-        }
+    constexpr int TooMuch = 8;
     QVector<QPair<int, int>> pairs;
-    for (int i = 0, j = 0; i < from.size() && j < to.size();) {
-        if (cost(i, j) == together(i, j) && from.at(i).first() == to.at(j).first())
-            pairs.append({i++, j++});
-        else
-            cost(i, j) == cost(i + 1, j) + Left ? ++i : ++j;
+    for (int next = 0, j = 0; j < to.size(); ++j) {
+        int best = -1;
+        int least = TooMuch;
+        for (int i = next; i < from.size(); ++i) {
+            const int cost = differences(from.at(i), to.at(j)) + 2 * (i - next);
+            if (from.at(i).first() == to.at(j).first() && cost < least) {
+                best = i;
+                least = cost;
+            }
+        }
+        if (best < 0)
+            continue;
+        pairs.append({best, j});
+        next = best + 1;
     }
     return pairs;
 }
@@ -71,33 +65,35 @@ bool isName(const QByteArray& word)
     return word.contains("Brush") || word.contains("Color") || word.startsWith("palette.");
 }
 
-/// The part of the name `from` to replace so that it becomes `to`, as whole words between capitals.
+/// "Button", "Unchecked", "Border", "Brush"; "palette.", "Text".
+QByteArrayList partsOf(const QByteArray& name)
+{
+    QByteArrayList parts;
+    for (const char letter : name) {
+        if (parts.isEmpty() || std::isupper(letter))
+            parts.append(QByteArray());
+        parts.last().append(letter);
+    }
+    return parts;
+}
+
+/// The parts of the name `from` to replace so that it becomes `to`: some at least.
 QPair<QByteArray, QByteArray> shortest(const QByteArray& from, const QByteArray& to)
 {
-    const auto begins = [](const QByteArray& name, int at) {
-        return at <= 0 || at >= name.size() || std::isupper(name.at(at)) || name.at(at - 1) == '.';
-    };
+    const QByteArrayList given = partsOf(from);
+    const QByteArrayList wanted = partsOf(to);
+    const int most = qMin(given.size(), wanted.size());
     int head = 0;
-    while (head < qMin(from.size(), to.size()) && from.at(head) == to.at(head))
+    while (head < most && given.at(head) == wanted.at(head))
         ++head;
-    while (!begins(from, head) || !begins(to, head))
-        --head;
     int tail = 0;
-    while (tail < qMin(from.size(), to.size()) - head
-           && from.at(from.size() - 1 - tail) == to.at(to.size() - 1 - tail))
+    while (tail < most - head
+           && given.at(given.size() - 1 - tail) == wanted.at(wanted.size() - 1 - tail))
         ++tail;
-    while (!begins(from, from.size() - tail) || !begins(to, to.size() - tail))
-        --tail;
-    // There must be something to look for.
-    while (head + tail == from.size() && head > 0)
-        do
-            --head;
-        while (!begins(from, head));
-    while (head + tail == from.size() && tail > 0)
-        do
-            --tail;
-        while (!begins(from, from.size() - tail));
-    return {from.mid(head, from.size() - head - tail), to.mid(head, to.size() - head - tail)};
+    if (head + tail == given.size())
+        --(head > 0 ? head : tail);
+    return {given.mid(head, given.size() - head - tail).join(),
+            wanted.mid(head, wanted.size() - head - tail).join()};
 }
 
 using Rule = QPair<QByteArray, QByteArray>;
@@ -144,34 +140,24 @@ QByteArray step(const Line& line, const Line& other)
            + QByteArray::number(to.at(1).toDouble() - from.at(1).toDouble());
 }
 
-/// How often the `period` lines at `start` come in a row, each time by the same step away.
-int timesInRow(const Lines& lines, int start, int period)
-{
-    const auto stepOf = [&](int line) {
-        return line < lines.size() ? step(lines.at(line), lines.at(line - period)) : QByteArray();
-    };
-    const QByteArray first = stepOf(start + period);
-    int line = start + period;
-    while (!first.isEmpty() && stepOf(line) == first)
-        ++line;
-    return (line - start) / period;
-}
-
-/// With rows of equal shapes written once.
+/// With rows of equal pairs of shapes, as grips are made of, written once.
 Lines folded(const Lines& lines)
 {
     constexpr int Least = 4;
+    const auto stepOf = [&](int line) {
+        return line < lines.size() ? step(lines.at(line), lines.at(line - 2)) : QByteArray();
+    };
     Lines text;
     for (int line = 0; line < lines.size();) {
-        int period = 1;
-        while (period < 3 && timesInRow(lines, line, period) < Least)
-            ++period;
-        const int times = period < 3 ? timesInRow(lines, line, period) : 1;
-        if (times > 1)
-            text.append({QByteArray::number(times), "times",
-                         step(lines.at(line + period), lines.at(line)), "apart:"});
-        text += lines.mid(line, times > 1 ? period : 1);
-        line += times > 1 ? times * period : 1;
+        const QByteArray first = stepOf(line + 2);
+        int end = line + 2;
+        while (!first.isEmpty() && stepOf(end) == first)
+            ++end;
+        const int times = (end - line) / 2;
+        if (times >= Least)
+            text.append({QByteArray::number(times), "times", first, "apart:"});
+        text += lines.mid(line, times >= Least ? 2 : 1);
+        line += times >= Least ? 2 * times : 1;
     }
     return text;
 }
