@@ -160,6 +160,9 @@ void paintRadioIndicator(const PaintContext& context)
     const QRect& rect = context.option.rect;
     Shapes::drawBox(context, rect, qMin(rect.width(), rect.height()) / 2, brushes.background,
                     brushes.border);
+    if (context.flag(WidgetProperties::DrawErrorIndicator)) // seen without colors too
+        Shapes::drawBox(context, rect.adjusted(1, 1, -1, -1), rect.height() / 2, Qt::NoBrush,
+                        brushes.border);
     if (context.has(QStyle::State_On))
         context.style.drawRadioMark(&context.painter, rect.adjusted(2, 2, -2, -2), brushes.mark);
 }

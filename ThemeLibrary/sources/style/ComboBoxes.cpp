@@ -166,6 +166,19 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
     return context.rightToLeft() ? rect.adjusted(0, 0, -taken, 0) : rect.adjusted(taken, 0, 0, 0);
 }
 
+/// Who has the focus is seen without colors too: its border is two pixels wide.
+void paintFocusBorder(const PaintContext& context, const QStyleOptionComboBox& comboBox)
+{
+    const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
+    const QBrush border = hasError ? QBrush(context.color(ThemeNames::StatusDangerColor))
+                                   : context.brush(ThemeNames::MainBrush);
+    const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
+    if (!hasError && !comboBox.editable)
+        Shapes::drawBox(context, comboBox.rect, radius, Qt::NoBrush, border);
+    Shapes::drawBox(context, comboBox.rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush,
+                    border);
+}
+
 } // namespace
 
 void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox)
@@ -208,6 +221,8 @@ void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comb
     }
     if (hasArrow)
         paintArrow(context, comboBox, arrowRect);
+    if (comboBox.frame && context.has(QStyle::State_HasFocus))
+        paintFocusBorder(context, comboBox);
     if (!(comboBox.editable && comboBox.frame) && context.has(QStyle::State_HasFocus)) {
         auto focus = optionFrom<QStyleOptionFocusRect>(comboBox);
         const int inset = comboBox.frame ? FocusInset : 0;

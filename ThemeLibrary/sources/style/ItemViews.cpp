@@ -167,8 +167,8 @@ bool hasSeparators(const StyleContext& context)
     return !WidgetTraits::isListView(context.widget) || isInListMode(context.widget);
 }
 
-/// Whether a row's state calls for another background than the view's, which lies under it already.
-/// A view that the application gave a color of its own keeps it.
+/// Whether an item's state calls for another background than the view's, which lies under it
+/// already. A view that the application gave a color of its own keeps it.
 bool hasThemedBackground(const StyleContext& context)
 {
     if (context.enabled() || context.flag(WidgetProperties::CustomItemViewPalette))
@@ -328,6 +328,16 @@ void paintItemFocus(const PaintContext& context, const QStyleOptionViewItem& ite
     context.draw(QStyle::PE_FrameFocusRect, focus);
 }
 
+/// Views hide focus marks: where the keyboard is in them shows the selection, or a border around an
+/// item outside of it.
+void paintCurrent(const PaintContext& context)
+{
+    if (context.has(QStyle::State_KeyboardFocusChange) && !context.has(QStyle::State_Selected)
+        && context.flag(WidgetProperties::HideFocusRect))
+        Shapes::drawBox(context, context.option.rect, 0, Qt::NoBrush,
+                        context.brush(ThemeNames::MainBrush));
+}
+
 void paintArrow(const PaintContext& context, bool down)
 {
     QStyleOption arrow = context.option;
@@ -344,6 +354,8 @@ void paintArrow(const PaintContext& context, bool down)
 void paintPanel(const PaintContext& context, const QStyleOptionViewItem& item)
 {
     const QRect& rect = item.rect;
+    if (hasThemedBackground(context) && !(item.features & QStyleOptionViewItem::Alternate))
+        context.painter.fillRect(rect, context.brush(ThemeNames::ItemViewBackgroundBrush));
     if (item.backgroundBrush.style() != Qt::NoBrush) {
         const QPointF origin = context.painter.brushOrigin();
         context.painter.setBrushOrigin(rect.topLeft());
@@ -363,8 +375,6 @@ void paintRow(const PaintContext& context, const QStyleOptionViewItem& item)
             item.rect,
             OwnColors::ground(context, QPalette::AlternateBase,
                               context.brush(ThemeNames::ItemViewAlternateBackgroundBrush)));
-    else if (hasThemedBackground(context))
-        context.painter.fillRect(item.rect, context.brush(ThemeNames::ItemViewBackgroundBrush));
     // In a tree the row begins before its first item, with the branches.
     if (!WidgetTraits::isTreeView(context.widget))
         return;
@@ -401,8 +411,10 @@ void paintItem(const PaintContext& context, const QStyleOptionViewItem& item)
         paintText(context, item, part(QStyle::SE_ItemViewItemText), brush);
     if (showsChildren(context.widget, item))
         paintChildIndicator(context, brush);
-    if (context.has(QStyle::State_HasFocus))
+    if (context.has(QStyle::State_HasFocus)) {
+        paintCurrent(context);
         paintItemFocus(context, item);
+    }
 }
 
 void paintColumnViewGrip(const PaintContext& context)

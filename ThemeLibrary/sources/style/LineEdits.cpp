@@ -9,6 +9,7 @@
 #include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QScrollBar>
 
 // Line edits, and the frames that text editors and views share with them.
 //
@@ -116,6 +117,38 @@ bool isScrollArea(const QWidget* widget)
     return qobject_cast<const QAbstractScrollArea*>(widget);
 }
 
+/// A line edit's panel is filled already, and a plain frame, which is a box around other widgets,
+/// shows what it stands on.
+bool isFilledByFrame(const QWidget* widget)
+{
+    return isScrollArea(widget)
+           || !(qobject_cast<const QFrame*>(widget) || qobject_cast<const QLineEdit*>(widget));
+}
+
+/// Who has the focus is seen without colors too: its border is two pixels wide.
+void paintFocusBorder(const PaintContext& context, const QRect& rect, int radius,
+                      const QBrush& border)
+{
+    if (context.has(QStyle::State_HasFocus) && rect.height() > 2)
+        Shapes::drawBox(context, rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush,
+                        border);
+}
+
+/// The frame of a scroll area fills what lies between its bars, too.
+void paintCorner(const PaintContext& context)
+{
+    const auto* area = qobject_cast<const QAbstractScrollArea*>(context.widget);
+    if (!area || area->cornerWidget() || !area->horizontalScrollBar()->isVisible()
+        || !area->verticalScrollBar()->isVisible())
+        return;
+    const QWidget* horizontal = area->horizontalScrollBar();
+    const QWidget* vertical = area->verticalScrollBar();
+    auto corner = optionFrom<QStyleOption>(context.option);
+    corner.rect = QRect(vertical->mapTo(area, QPoint()).x(), horizontal->mapTo(area, QPoint()).y(),
+                        vertical->width(), horizontal->height());
+    context.draw(QStyle::PE_PanelScrollAreaCorner, corner);
+}
+
 } // namespace
 
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
@@ -134,18 +167,22 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
             brushes.backgroundBrush = own;
     } else {
         brushes.borderBrush = inputBorder(context);
-        // A line edit's panel is filled already, and a plain frame shows what it stands on.
-        if (isScrollArea(context.widget))
+        if (isFilledByFrame(context.widget))
             brushes.backgroundBrush = background(context, inputBackground(context));
     }
 
-    const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
+    // A well is filled to its corners.
+    const bool isWell = WidgetTraits::isColorWell(context.widget);
+    const int radius = isWell ? 0 : Shapes::cornerRadius(ThemeNames::BaseSize);
     const QColor errorColor = context.color(ThemeNames::StatusDangerColor);
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
     if (hasError)
         brushes.borderBrush = errorColor;
     Shapes::drawBox(context, frame.rect, radius, brushes.backgroundBrush, brushes.borderBrush,
                     ofComboBox ? Helpers::RightCorners : Helpers::None);
+    if (!ofComboBox)
+        paintFocusBorder(context, frame.rect, radius, brushes.borderBrush);
+    paintCorner(context);
     // The arrow's panel has the mark of a combo box, unless that is in the corner on this side.
     const bool hasMark = !ofComboBox || context.rightToLeft();
     if (hasError && hasMark && !isScrollArea(context.widget))

@@ -4,6 +4,7 @@
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
+#include "Texts.h"
 #include "ThemeNames.h"
 
 #include <qdrawutil.h>
@@ -145,8 +146,9 @@ void paintMark(const PaintContext& context, const QStyleOptionMenuItem& item, co
 void paintTexts(const PaintContext& context, const QStyleOptionMenuItem& item, const QRect& rect,
                 const QBrush& brush)
 {
+    const bool isDefault = item.menuItemType == QStyleOptionMenuItem::DefaultItem;
     QFont font = item.font;
-    if (item.menuItemType == QStyleOptionMenuItem::DefaultItem)
+    if (isDefault)
         font.setBold(true);
     context.painter.setFont(font);
     const int tab = item.text.indexOf(QLatin1Char('\t'));
@@ -155,7 +157,10 @@ void paintTexts(const PaintContext& context, const QStyleOptionMenuItem& item, c
                           | Qt::TextDontClip;
     QRect textRect = rect;
     if (tab >= 0) {
-        const int shortcutWidth = qMax(item.tabWidth, 0);
+        // The menu measured it as it is in other items, which are not bold.
+        const int boldWidth =
+            isDefault ? Texts::width(context.painter, 0, item.text.mid(tab + 1)) : 0;
+        const int shortcutWidth = qBound(0, qMax(item.tabWidth, boldWidth), rect.width());
         const QRect shortcut(rect.right() + 1 - shortcutWidth, rect.y(), shortcutWidth,
                              rect.height());
         const int flags = int(QStyle::visualAlignment(item.direction, Qt::AlignRight))

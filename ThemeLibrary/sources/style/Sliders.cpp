@@ -1,10 +1,12 @@
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 
 #include <QCursor>
 #include <QSlider>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -322,13 +324,59 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
         paintFocus(look);
 }
 
+namespace {
+
+/// The angle of the hand, from the right against the clock.
+qreal handAngle(const QStyleOptionSlider& dial)
+{
+    constexpr qreal Turn = 2 * M_PI;
+    constexpr qreal Start = Turn * 2 / 3; // of a dial that does not go all around
+    constexpr qreal Way = Turn * 5 / 6;
+    const qreal range = qreal(dial.maximum) - dial.minimum;
+    if (range <= 0)
+        return Turn / 4;
+    const int position = dial.upsideDown ? dial.sliderPosition : dial.maximum - dial.sliderPosition;
+    const qreal done = (qreal(position) - dial.minimum) / range;
+    return dial.dialWrapping ? Turn * 3 / 4 - done * Turn : Start - done * Way;
+}
+
+void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
+{
+    constexpr qreal FaceInRect = 0.8; // notches stand around it
+    constexpr qreal HandInFace = 0.65;
+    constexpr qreal DotInFace = 0.15;
+    const PainterSaver saver(context.painter);
+    const QPointF centre = QRectF(dial.rect).center();
+    const qreal radius = FaceInRect * qMin(dial.rect.width(), dial.rect.height()) / 2;
+    const bool focused = context.has(QStyle::State_HasFocus);
+    context.painter.setRenderHint(QPainter::Antialiasing);
+    context.painter.setPen(
+        QPen(context.brush(focused ? ThemeNames::MainBrush : ThemeNames::ControlBorderBrush),
+             focused ? 2 : 1));
+    context.painter.setBrush(
+        OwnColors::ground(context, QPalette::Button,
+                          BaseStyle::buttonBrushes(&dial, context.widget).backgroundBrush));
+    context.painter.drawEllipse(centre, radius, radius);
+    const qreal angle = handAngle(dial);
+    const qreal length = HandInFace * radius;
+    context.painter.setPen(Qt::NoPen);
+    context.painter.setBrush(context.brush(ThemeNames::InputForegroundBrush));
+    context.painter.drawEllipse(centre + QPointF(length * qCos(angle), -length * qSin(angle)),
+                                DotInFace * radius, DotInFace * radius);
+}
+
+} // namespace
+
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
 {
-    // The base style draws notches and a focus ring that dark or light grounds swallow.
+    // The base style draws notches that dark or light grounds swallow, and a face with shades,
+    // which a flat one covers; a disabled one casts no shadow around it.
     QStyleOptionSlider copy = dial;
     copy.palette.setBrush(copy.palette.currentColorGroup(), QPalette::Dark,
                           dial.palette.brush(QPalette::WindowText));
+    copy.state &= ~QStyle::State(QStyle::State_Enabled | QStyle::State_HasFocus);
     context.drawByBase(QStyle::CC_Dial, copy);
+    paintDialFace(context, dial);
     if (context.has(QStyle::State_HasFocus))
         context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(dial));
 }

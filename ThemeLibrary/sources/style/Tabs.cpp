@@ -227,6 +227,23 @@ QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
                                {themed, given, context.style.getPalette().windowText()});
 }
 
+/// Along the outer edge of the selected tab, between its round corners.
+QRect accentRect(const QRect& rect, Side side)
+{
+    constexpr int Thickness = 2;
+    constexpr int Inset = 8;
+    switch (side) {
+    case Side::North: return {rect.x() + Inset, rect.y(), rect.width() - 2 * Inset, Thickness};
+    case Side::South:
+        return {rect.x() + Inset, rect.bottom() + 1 - Thickness, rect.width() - 2 * Inset,
+                Thickness};
+    case Side::West: return {rect.x(), rect.y() + Inset, Thickness, rect.height() - 2 * Inset};
+    default:
+        return {rect.right() + 1 - Thickness, rect.y() + Inset, Thickness,
+                rect.height() - 2 * Inset};
+    }
+}
+
 } // namespace
 
 void paintFrame(const PaintContext& context)
@@ -302,6 +319,8 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
     const QPoint inset = side == Side::North || side == Side::South ? QPoint(1, 0) : QPoint(0, 1);
     const PainterSaver saver(context.painter);
     Shapes::drawLine(context, edge.p1() + inset, edge.p2() - inset, fill);
+    if (selected)
+        context.painter.fillRect(accentRect(rect, side), context.brush(ThemeNames::MainBrush));
 }
 
 namespace {

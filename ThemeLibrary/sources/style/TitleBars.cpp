@@ -84,33 +84,28 @@ bool hasActiveGround(const QStyleOptionTitleBar& bar)
     return !Shapes::isLight(ground) && ground != bar.palette.color(QPalette::Window);
 }
 
-/// Otherwise the caption stands on the accent, or on a shade of it that white is read on.
-void paintCaptionBacking(const PaintContext& context, const QStyleOptionTitleBar& bar,
-                         const QRect& label, const QString& text)
+/// Otherwise the bar has the accent as ground, or a shade of it that white is read on.
+void paintActiveGround(const PaintContext& context, const QStyleOptionTitleBar& bar)
 {
-    constexpr int Padding = 8;
-    constexpr int Inset = 4;
-    const int width = bar.fontMetrics.horizontalAdvance(text) + 2 * Padding;
-    QRect rect(0, 0, qMin(width, label.width()), label.height() - 2 * Inset);
-    rect.moveCenter(label.center());
-    if (text.isEmpty() || !rect.isValid())
-        return;
     constexpr int Shade = 300;
     const QColor accent = bar.palette.color(QPalette::Highlight);
-    Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::BaseSize),
-                    Shapes::isLight(accent) ? accent.darker(Shade) : accent, accent);
+    context.painter.fillRect(bar.rect.adjusted(1, 1, -1, -1),
+                             Shapes::isLight(accent) ? accent.darker(Shade) : accent);
 }
 
-void paintCaption(const PaintContext& context, const QStyleOptionTitleBar& bar, bool active)
+QColor captionColor(const QStyleOptionTitleBar& bar)
+{
+    return bar.titleBarState & QStyle::State_Active ? QColor(Qt::white)
+                                                    : bar.palette.color(QPalette::Text);
+}
+
+void paintCaption(const PaintContext& context, const QStyleOptionTitleBar& bar)
 {
     const QRect label = partRect(context, bar, QStyle::SC_TitleBarLabel);
     const QRect rect = label.adjusted(1, 1, 1, 1);
     const QString text =
         bar.fontMetrics.elidedText(bar.text, Qt::ElideRight, label.width() - CaptionRoom);
-    if (active && !hasActiveGround(bar))
-        paintCaptionBacking(context, bar, rect, text);
-    Shapes::drawText(context, rect, Qt::AlignCenter, text,
-                     active ? QColor(Qt::white) : bar.palette.color(QPalette::Text));
+    Shapes::drawText(context, rect, Qt::AlignCenter, text, captionColor(bar));
 }
 
 void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& bar)
@@ -120,8 +115,7 @@ void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& ba
         return;
     const bool isOwn = !bar.icon.isNull();
     const QIcon icon =
-        isOwn ? ButtonContent::commonModifyStyleOptionIcon(bar.icon,
-                                                           bar.palette.brush(QPalette::Text))
+        isOwn ? ButtonContent::commonModifyStyleOptionIcon(bar.icon, captionColor(bar))
               : context.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &bar, context.widget);
     const QSize size = isOwn ? rect.size() : QSize(MenuIconSize, MenuIconSize);
     context.proxy().drawItemPixmap(&context.painter, rect, Qt::AlignCenter,
@@ -187,7 +181,9 @@ void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titl
     context.painter.setBrush(Qt::NoBrush);
     context.painter.drawRect(rect);
 
-    paintCaption(context, titleBar, active);
+    if (active && !hasActiveGround(titleBar))
+        paintActiveGround(context, titleBar);
+    paintCaption(context, titleBar);
     for (const TitleButton& button : TitleButtons) {
         if (titleBar.subControls & button.part && button.isShown(titleBar))
             context.style.drawTitleBarButton(&context.painter, &titleBar, button.part, button.icon,

@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "OwnColors.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 
@@ -43,13 +44,11 @@ void paintToolBar(const PaintContext& context, const QStyleOptionToolBar& toolBa
     const QRect& rect = toolBar.rect;
     if (rect.isEmpty())
         return;
-    // Somewhat deeper than the window, so that separators, which are as high as cards, stand out.
-    constexpr int LightDepth = 107;
-    constexpr int DarkDepth = 160;
-    QBrush ground = toolBar.palette.brush(QPalette::Window);
-    if (ground.style() == Qt::SolidPattern)
-        ground.setColor(
-            ground.color().darker(Shapes::isLight(ground.color()) ? LightDepth : DarkDepth));
+    // One surface with the menu bar, deeper than the window.
+    const bool enabled = context.widget ? context.widget->isEnabled() : context.enabled();
+    const QBrush ground = OwnColors::ground(
+        context, QPalette::Window,
+        themeValues().brushes.value(ThemeNames::BackgroundSubLevel2Brush, enabled));
     context.painter.fillRect(rect, ground);
     // One line between the bars of an area and what they stand around.
     if (toolBar.positionOfLine != QStyleOptionToolBar::End

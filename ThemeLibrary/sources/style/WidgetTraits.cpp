@@ -50,6 +50,11 @@ bool isCascadingListPanel(const QWidget* widget)
     return inherits(widget, "BRELK::Components::CascadingListViewPanel");
 }
 
+bool isColorWell(const QWidget* widget)
+{
+    return inherits(widget, "QWellArray") || inherits(widget, "QColorShowLabel");
+}
+
 bool isColumnView(const QWidget* widget)
 {
     return qobject_cast<const QColumnView*>(widget);
