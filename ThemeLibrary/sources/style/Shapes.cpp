@@ -108,9 +108,15 @@ void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
         return;
     }
     PlacedBox box = placed(context.painter, line);
-    if (line.width() == 1)
+    // At the end of what is painted a line fills its last pixels, as borders do.
+    const QRect& whole = context.option.rect;
+    if (line.width() == 1 && line.x() == whole.right())
+        box.rect.setLeft(box.rect.right() - box.border);
+    else if (line.width() == 1)
         box.rect.setWidth(box.border);
-    if (line.height() == 1)
+    if (line.height() == 1 && line.y() == whole.bottom())
+        box.rect.setTop(box.rect.bottom() - box.border);
+    else if (line.height() == 1)
         box.rect.setHeight(box.border);
     context.painter.fillRect(box.rect, brush);
 }
