@@ -1,11 +1,12 @@
 #include "Settings.h"
 
 #include "Pages.h"
+#include "ThemeRepositories.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDebug>
-#include <QDir>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -99,8 +100,11 @@ StartUp prepareStart(int argc, char** argv)
         qputenv("QT_SCALE_FACTOR", arguments.at(scaleIndex).toLatin1());
     if (needsNoDisplay(arguments) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QDir programs(QCoreApplication::applicationDirPath());
-    return {QDir::cleanPath(programs.filePath(QStringLiteral("../share/varn/themes")))};
+    const int themeIndex = arguments.indexOf(QStringLiteral("--theme")) + 1;
+    const QString theme = themeIndex > 0 ? arguments.value(themeIndex) : QString();
+    const QString known = BRELK::ThemeRepositories::find(theme);
+    return {known.isEmpty() ? BRELK::ThemeRepositories::all().value(0)
+                            : QFileInfo(known).absolutePath()};
 }
 
 Settings readSettings(const QCoreApplication& application, const QString& defaultTheme,

@@ -28,7 +28,7 @@ struct Settings
 /// What must be known before the application object exists.
 struct StartUp
 {
-    QString repository; ///< the themes that were installed with this program
+    QString repository; ///< that has the theme, or else the first of this machine
 };
 
 /// Reads the few options that Qt must know of before the application object is built, hands them to

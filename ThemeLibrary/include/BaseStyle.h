@@ -59,6 +59,7 @@ public:
     /// "fusion".
     const QPalette& getPalette() const { return m_palette; }
 
+    bool event(QEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// Fits `widget` to the theme; safe to call again. What it sets stays when the widget is

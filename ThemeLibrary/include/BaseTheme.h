@@ -3,6 +3,12 @@
 #include "BaseThemeSettings.h"
 #include "Theme.h"
 
+#include <QPalette>
+
+#include <functional>
+
+class QStyle;
+
 namespace BRELK {
 
 /// A theme that is read from a directory.
@@ -26,9 +32,27 @@ public:
     /// style sheet is installed. A null `app` is reported and ignored.
     void customize(QApplication* app) override;
 
+    /// Does what `customize` does, but installs neither style nor style sheet, and returns the
+    /// style instead: for style plugins, and for applications that put a style of their own over
+    /// it. The caller owns it. Null when nothing was done, or no style is wanted
+    /// (`BRELK_USE_NATIVE_STYLE`).
+    QStyle* createStyle(QApplication* app);
+
+    /// Why the theme was not applied by the last `customize` or `createStyle`; empty when it was.
+    QString getError() const { return m_error; }
+
+    /// The palette that the theme gives to an application; the roles that it does not map are those
+    /// of `base`. Reads the theme's files, and needs the application object.
+    QPalette getPalette(const QPalette& base) const;
+
 private:
+    using UseStyle = std::function<void(QStyle&, const QPalette&)>;
+
+    void apply(QApplication* app, const UseStyle& useStyle);
+
     QString m_themePath;
     BaseThemeSettings m_settings;
+    QString m_error;
 };
 
 } // namespace BRELK

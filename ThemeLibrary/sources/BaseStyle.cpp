@@ -3,6 +3,7 @@
 #include "ThemeResources.h"
 #include "ThemeValues.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -16,6 +17,13 @@ BaseStyle::BaseStyle() : QProxyStyle(QStringLiteral("fusion"))
 }
 
 BaseStyle::~BaseStyle() = default;
+
+bool BaseStyle::event(QEvent* event)
+{
+    // A proxy hands its events to the style below, and deleteLater() would delete that.
+    return event && event->type() == QEvent::DeferredDelete ? QObject::event(event)
+                                                            : QProxyStyle::event(event);
+}
 
 void BaseStyle::polish(QPalette& palette)
 {

@@ -75,18 +75,16 @@ void deriveDisabledGroup(QPalette& palette)
     }
 }
 
+QPalette mappedPalette(const QPaletteReader& mapping)
+{
+    QPalette palette = mapping.deserialize();
+    deriveDisabledGroup(palette);
+    return palette;
+}
+
 QString styleName()
 {
     return QStringLiteral("varn");
-}
-
-void installStyle(const QPalette& palette)
-{
-    auto* style = new BaseStyle;
-    style->setPalette(palette);
-    style->setObjectName(styleName());
-    QApplication::setStyle(style);
-    QToolTip::setPalette(palette);
 }
 
 /// The application may do without the style sheet: the style needs none.
@@ -168,13 +166,42 @@ QString BaseTheme::getName() const
 
 void BaseTheme::customize(QApplication* app)
 {
-    if (m_settings.getStatus() != BaseThemeSettings::NO_ERROR) {
-        log(QLatin1String("Error reading theme configuration file ") + m_themePath
-            + QLatin1String("/theme.xml"));
-        return;
-    }
-    if (!app) {
-        log(QLatin1String("No application to apply the theme to: ") + m_themePath);
+    apply(app, [app](QStyle& style, const QPalette& palette) {
+        QApplication::setStyle(&style);
+        QToolTip::setPalette(palette);
+        if (wantsStyleSheet(*app))
+            installStyleSheets(*app);
+    });
+}
+
+QStyle* BaseTheme::createStyle(QApplication* app)
+{
+    QStyle* created = nullptr;
+    apply(app, [&created](QStyle& style, const QPalette& palette) {
+        QToolTip::setPalette(palette);
+        created = &style;
+    });
+    return created;
+}
+
+QPalette BaseTheme::getPalette(const QPalette& base) const
+{
+    const ThemeConfigurationReader configuration(m_themePath + QLatin1String("/config.xml"));
+    const QPaletteReader mapping(m_themePath + QLatin1String("/qpaletteMapping.xml"),
+                                 configuration.getBrushesMap(), configuration.getColorsMap(), base);
+    return mappedPalette(mapping);
+}
+
+void BaseTheme::apply(QApplication* app, const UseStyle& useStyle)
+{
+    m_error.clear();
+    if (m_settings.getStatus() != BaseThemeSettings::NO_ERROR)
+        m_error = QLatin1String("Error reading theme configuration file ") + m_themePath
+                  + QLatin1String("/theme.xml");
+    else if (!app)
+        m_error = QLatin1String("No application to apply the theme to: ") + m_themePath;
+    if (!m_error.isEmpty()) {
+        log(m_error);
         return;
     }
 
@@ -201,12 +228,12 @@ void BaseTheme::customize(QApplication* app)
     if (!qEnvironmentVariableIsSet("BRELK_USE_NATIVE_STYLE")) {
         if (mapping.getStatus() != QPaletteReader::NO_ERROR)
             log(QLatin1String("Error reading theme QPalette mapping file: ") + mappingPath);
-        QPalette palette = mapping.deserialize();
-        deriveDisabledGroup(palette);
+        const QPalette palette = mappedPalette(mapping);
         foreground = palette.color(QPalette::WindowText);
-        installStyle(palette);
-        if (wantsStyleSheet(*app))
-            installStyleSheets(*app);
+        auto* style = new BaseStyle;
+        style->setPalette(palette);
+        style->setObjectName(styleName());
+        useStyle(*style, palette);
     }
 
     QApplication::setFont(configuration.getFont().getFont(ThemeFont::BASE_FONT));

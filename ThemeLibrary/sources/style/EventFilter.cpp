@@ -66,7 +66,8 @@ void colorLineEditButton(QToolButton& button)
     const QBrush brush = pointedAt ? QBrush(themeValues().colors.value(ThemeNames::MainColor))
                                    : QBrush(button.palette().color(QPalette::WindowText));
     const bool keepsIcon =
-        WidgetProperties::flag(button.parent(), WidgetProperties::CustomActionIcons)
+        (WidgetProperties::flag(button.parent(), WidgetProperties::CustomActionIcons)
+         || WidgetProperties::flag(qApp, WidgetProperties::CustomActionIcons))
         && !WidgetTraits::isLineEditClearButton(&button);
     const EmbeddedIcons::StyleIcon clear(QStringLiteral("action.close"));
     applyIcon(button, keepsIcon ? originalIcon(button) : QIcon(clear), brush);

@@ -1,0 +1,70 @@
+#include "ThemeRepositories.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QStandardPaths>
+
+#ifdef Q_OS_UNIX
+#include <dlfcn.h>
+#endif
+
+namespace BRELK::ThemeRepositories {
+
+namespace {
+
+/// The file that this code was loaded from; empty where the platform does not tell.
+QString libraryPath()
+{
+#ifdef Q_OS_UNIX
+    Dl_info info{};
+    if (dladdr(reinterpret_cast<void*>(&libraryPath), &info) != 0 && info.dli_fname)
+        return QString::fromLocal8Bit(info.dli_fname);
+#endif
+    return {};
+}
+
+} // namespace
+
+QStringList all()
+{
+    QStringList candidates;
+    const auto beside = [&candidates](const QString& directory, const QString& path) {
+        if (!directory.isEmpty())
+            candidates.append(QDir::cleanPath(QDir(directory).absoluteFilePath(path)));
+    };
+    beside(QCoreApplication::applicationDirPath(), QStringLiteral("../share/varn/themes"));
+    candidates +=
+        QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
+                                  QStringLiteral("varn/themes"), QStandardPaths::LocateDirectory);
+    // Libraries lie in lib or in a directory of their architecture below it.
+    const QString library = libraryPath();
+    for (const QString& path :
+         {QStringLiteral("../share/varn/themes"), QStringLiteral("../../share/varn/themes")})
+        beside(library.isEmpty() ? QString() : QFileInfo(library).absolutePath(), path);
+
+    QStringList existing;
+    for (const QString& candidate : qAsConst(candidates)) {
+        if (QFileInfo(candidate).isDir() && !existing.contains(candidate))
+            existing.append(candidate);
+    }
+    return existing;
+}
+
+QString find(const QString& name)
+{
+    return find(name, all());
+}
+
+QString find(const QString& name, const QStringList& repositories)
+{
+    for (const QString& repository : repositories) {
+        const QDir directory(repository);
+        for (const QString& theme : directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            if (theme.compare(name, Qt::CaseInsensitive) == 0)
+                return directory.absoluteFilePath(theme);
+        }
+    }
+    return {};
+}
+
+} // namespace BRELK::ThemeRepositories

@@ -1,0 +1,49 @@
+#include "LookSheet.h"
+#include "Transcript.h"
+
+#include <QProcess>
+#include <QtTest>
+
+/// The style plugin in a program that was built without the library.
+class tst_StylePlugin : public QObject
+{
+    Q_OBJECT
+
+private:
+    /// What the program prints; `settings` are variables of its environment between blanks.
+    static QByteArray start(const QString& settings)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(VARN_PLUGINS));
+        environment.insert(QStringLiteral("XDG_DATA_DIRS"), QStringLiteral(VARN_DATA));
+        for (const QString& setting : settings.split(QLatin1Char(' ')))
+            environment.insert(setting.section(QLatin1Char('='), 0, 0),
+                               setting.section(QLatin1Char('='), 1));
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(QStringLiteral(VARN_TEST_PROGRAM), QStringList());
+        process.waitForFinished();
+        return (process.exitStatus() == QProcess::NormalExit ? "" : "crashed\n")
+               + process.readAll().replace(VARN_DATA, "DATA");
+    }
+
+private Q_SLOTS:
+
+    void programsWearThemes()
+    {
+        LookSheet::States starts;
+        for (const char* settings :
+             {"VARN_THEME=Light", "PLAIN_SHEET=QLabel{}", "PLAIN_PALETTE=#ff0000", "VARN_THEME=No"})
+            starts.append({settings, start(QLatin1String("QT_STYLE_OVERRIDE=varn ")
+                                           + QLatin1String(settings))});
+        starts.append({"by its key", start(QStringLiteral("QT_STYLE_OVERRIDE=varn-highcontrast"))});
+        starts.append({"fusion", start(QStringLiteral("QT_STYLE_OVERRIDE=fusion"))});
+        LookSheet sheet;
+        sheet.add("varn", start(QStringLiteral("QT_STYLE_OVERRIDE=varn")), starts, 0);
+        COMPARE_TRANSCRIPT("StylePlugin", sheet.text());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_StylePlugin)
+#include "tst_StylePlugin.moc"
