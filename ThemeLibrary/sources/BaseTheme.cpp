@@ -16,7 +16,6 @@
 #include <QDirIterator>
 #include <QFontDatabase>
 #include <QImageReader>
-#include <QMetaEnum>
 #include <QResource>
 #include <QStyle>
 #include <QToolTip>
@@ -55,30 +54,10 @@ QVariantMap themeVariables(const ThemeConfigurationReader& configuration)
         {ThemeResources::getFontsVarPrefix(), configuration.getFont().toVariantMap()}};
 }
 
-bool isTextual(QPalette::ColorRole role, const QString& key)
-{
-    return role == QPalette::WindowText || key.contains(QLatin1String("Text"))
-           || key.contains(QLatin1String("Foreground")) || key.contains(QLatin1String("Link"));
-}
-
-void deriveDisabledGroup(QPalette& palette)
-{
-    const QMetaObject& meta = QPalette::staticMetaObject;
-    const QMetaEnum roles = meta.enumerator(meta.indexOfEnumerator("ColorRole"));
-    for (int i = 0; i < roles.keyCount(); ++i) {
-        const auto role = QPalette::ColorRole(roles.value(i));
-        if (role == QPalette::NColorRoles)
-            continue;
-        const bool textual = isTextual(role, QLatin1String(roles.valueToKey(role)));
-        const QColor disabled = ThemeColorHelper::disabled(palette.brush(role).color(), textual);
-        palette.setBrush(QPalette::Disabled, role, disabled);
-    }
-}
-
 QPalette mappedPalette(const QPaletteReader& mapping)
 {
     QPalette palette = mapping.deserialize();
-    deriveDisabledGroup(palette);
+    deriveDisabledGroup(palette, ThemeColorHelper::disabled);
     return palette;
 }
 

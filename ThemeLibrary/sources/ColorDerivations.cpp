@@ -2,6 +2,7 @@
 
 #include "ColorArithmetic.h"
 #include "Helpers.h"
+#include "NamePattern.h"
 
 #include <algorithm>
 
@@ -24,9 +25,19 @@ QColor literalColor(const QString& text)
     return {text};
 }
 
+/// The names in `text`, of which each may be a pattern of several.
 QStringList words(const QString& text)
 {
-    return text.simplified().split(u' ', Qt::SkipEmptyParts);
+    constexpr int MostNames = 64;
+    const QStringList patterns = text.simplified().split(u' ', Qt::SkipEmptyParts);
+    if (!text.contains(u'{'))
+        return patterns;
+    QStringList names;
+    for (const QString& pattern : patterns) {
+        const QStringList expanded = expandNamePattern(pattern, MostNames);
+        names += expanded.isEmpty() ? QStringList{pattern} : expanded;
+    }
+    return names;
 }
 
 /// Derives a color in steps, one for each attribute.
@@ -128,10 +139,7 @@ void Derivation::checkPairs() const
 
 QVector<QColor> Derivation::grounds() const
 {
-    QVector<QColor> colors;
-    for (const QString& name : words(m_element.getAttribute(QStringLiteral("against"))))
-        colors += named(name);
-    return colors;
+    return readGrounds(m_element, m_colors, m_ok);
 }
 
 double Derivation::number(const QString& text, double smallest, double largest) const
@@ -174,12 +182,18 @@ QColor Derivation::moreReadable(const QColor& color, const QString& text) const
 {
     const QColor other = named(text.trimmed());
     const QVector<QColor> on = grounds();
-    return m_ok ? ColorArithmetic::moreReadable(color, other, on) : QColor();
+    if (!m_ok)
+        return {};
+    // With a contrast to reach, the first one that has it is as good as any.
+    const bool isGoodEnough =
+        m_element.hasAttribute(QStringLiteral("contrast"))
+        && ColorArithmetic::leastContrast(color, on) >= readContrast(m_element, m_colors, m_ok);
+    return isGoodEnough ? color : ColorArithmetic::moreReadable(color, other, on);
 }
 
 QColor Derivation::withContrast(const QColor& color, const QString& text) const
 {
-    const double wanted = number(text, 1, LargestContrast);
+    const double wanted = readContrast(m_element, m_colors, m_ok);
     const QVector<QColor> on = grounds();
     if (!m_ok)
         return {};
@@ -201,6 +215,22 @@ QColor Derivation::withAlpha(const QColor& color, const QString& text) const
 }
 
 } // namespace
+
+double readContrast(const ThemeElement& element, const ThemeColors& colors, bool& ok)
+{
+    const QString text = element.getAttribute(QStringLiteral("contrast"));
+    return text == QLatin1String("words") ? colors.wordContrast
+                                          : element.readNumber(text, 1, LargestContrast, ok);
+}
+
+QVector<QColor> readGrounds(const ThemeElement& element, const ThemeColors& colors, bool& ok)
+{
+    const Derivation derivation(element, colors, ok);
+    QVector<QColor> grounds;
+    for (const QString& name : words(element.getAttribute(QStringLiteral("against"))))
+        grounds += derivation.named(name);
+    return grounds;
+}
 
 QColor disabledBy(const QColor& color, int lightFactor, int darkFactor)
 {

@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QHash>
 #include <QStringList>
+#include <QVector>
 
 #include <functional>
 
@@ -17,8 +18,14 @@ using DisabledColor = std::function<QColor(const QColor& color, bool foreground)
 /// percent.
 QColor disabledBy(const QColor& color, int lightFactor, int darkFactor);
 
+/// The contrast that words have unless the theme promises another.
+constexpr double DefaultWordContrast = 4.5;
+
 /// Colors of a theme by name.
-using ThemeColors = QHash<QString, QColor>;
+struct ThemeColors : QHash<QString, QColor>
+{
+    double wordContrast = DefaultWordContrast; ///< what the contrast "words" stands for
+};
 
 /// The attributes that make another color of the one that an element names.
 const QStringList& derivationAttributes();
@@ -32,6 +39,14 @@ QStringList namedColors(const ThemeElement& element);
 /// The color that the text of `element` names, one of `colors` or a literal one, as derived by its
 /// attributes. `ok` becomes false, and the reason is reported, when there is none.
 QColor readColor(const ThemeElement& element, const ThemeColors& colors, bool& ok);
+
+/// The contrast that `element` asks for; `ok` becomes false, and the reason is reported, when it is
+/// none.
+double readContrast(const ThemeElement& element, const ThemeColors& colors, bool& ok);
+
+/// The colors that the attribute "against" of `element` names. `ok` becomes false, and the reason
+/// is reported, when one of them is not known.
+QVector<QColor> readGrounds(const ThemeElement& element, const ThemeColors& colors, bool& ok);
 
 /// `color` as derived by the attributes of `element`; see docs/theme-format.md for what they mean.
 QColor derivedColor(const ThemeElement& element, QColor color, const ThemeColors& colors, bool& ok);

@@ -43,6 +43,8 @@ Segments readSegments(const QString& pattern)
 
 QStringList expandNamePattern(const QString& pattern, int most)
 {
+    if (isLiteral(pattern))
+        return most > 0 && !pattern.isEmpty() ? QStringList{pattern} : QStringList();
     const Segments segments = readSegments(pattern);
     if (segments.isEmpty())
         return {};

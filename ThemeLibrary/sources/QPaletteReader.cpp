@@ -57,7 +57,26 @@ void collectGroup(ThemeEntries& entries, const ThemeElement& list, int group, in
     }
 }
 
+bool isTextual(QPalette::ColorRole role, const QString& key)
+{
+    return role == QPalette::WindowText || key.contains(QLatin1String("Text"))
+           || key.contains(QLatin1String("Foreground")) || key.contains(QLatin1String("Link"));
+}
+
 } // namespace
+
+void deriveDisabledGroup(QPalette& palette, const DisabledColor& disabled)
+{
+    const QMetaObject& meta = QPalette::staticMetaObject;
+    const QMetaEnum roles = meta.enumerator(meta.indexOfEnumerator("ColorRole"));
+    for (int i = 0; i < roles.keyCount(); ++i) {
+        const auto role = QPalette::ColorRole(roles.value(i));
+        if (role == QPalette::NColorRoles)
+            continue;
+        const bool textual = isTextual(role, QLatin1String(roles.valueToKey(role)));
+        palette.setBrush(QPalette::Disabled, role, disabled(palette.brush(role).color(), textual));
+    }
+}
 
 QPaletteReader::QPaletteReader(const QString& path, const QMap<QString, QBrush>& brushes,
                                const QMap<QString, QColor>& colors, QPalette basePalette)

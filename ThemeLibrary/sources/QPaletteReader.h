@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ColorDerivations.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QMap>
@@ -28,5 +30,8 @@ private:
     Status m_status = NO_ERROR;
     QPalette m_palette;
 };
+
+/// Makes the disabled group of `palette` from the active one's colors.
+void deriveDisabledGroup(QPalette& palette, const DisabledColor& disabled);
 
 } // namespace BRELK

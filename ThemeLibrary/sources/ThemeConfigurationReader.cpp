@@ -1,5 +1,6 @@
 #include "ThemeConfigurationReader.h"
 
+#include "ColorArithmetic.h"
 #include "NamePattern.h"
 #include "ThemeConfigurationReader_p.h"
 #include "ThemeNames.h"
@@ -25,6 +26,7 @@ struct ThemeDefinitions
     ThemeEntries opacities;
     ThemeEntries radii;
     ThemeEntries fontSettings;
+    ThemeEntries rootSettings;
     QStringList families;
 };
 
@@ -34,6 +36,8 @@ namespace {
 constexpr int MostNamesOfElement = 256;
 constexpr int MostNames = 4000;
 constexpr int LargestFactor = 1000;
+/// Leaves colors as they are.
+constexpr int NoFactor = 100;
 constexpr int LargestRadius = 1000;
 constexpr double SmallestFontSize = 1;
 constexpr double LargestFontSize = 500;
@@ -69,6 +73,11 @@ constexpr Weight Weights[] = {
     {"Normal", QFont::Normal}, {"Medium", QFont::Medium},         {"DemiBold", QFont::DemiBold},
     {"Bold", QFont::Bold},     {"ExtraBold", QFont::ExtraBold},   {"Black", QFont::Black}};
 
+QString wordsAttribute()
+{
+    return QStringLiteral("words");
+}
+
 bool isName(const QString& name)
 {
     const auto isForbidden = [](QChar c) { return c.isSpace() || c == u'/' || c == u'@'; };
@@ -96,7 +105,7 @@ void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
             QStringLiteral("the braces in its name do not match, or there are too many names"));
         return;
     }
-    if (names.isEmpty() || !std::all_of(names.begin(), names.end(), isName)) {
+    if (!isName(pattern) || names.contains(QString())) {
         element.reject(QStringLiteral("it needs a name without blanks, \"/\" and \"@\""));
         return;
     }
@@ -195,7 +204,9 @@ void collectRadii(ThemeEntries& entries, const ThemeElement& list, int level)
 void collect(ThemeDefinitions& definitions, const ThemeDocument& document, int level)
 {
     const ThemeElement root = document.getRoot();
-    root.checkAttributes({"extends"});
+    root.checkAttributes({"extends", "words"});
+    if (root.hasAttribute(wordsAttribute()))
+        definitions.rootSettings.add(wordsAttribute(), {root, level});
     for (const ThemeElement& section : root.getChildren()) {
         const QString tag = section.getTag();
         if (tag == QLatin1String("Factors"))
@@ -256,6 +267,7 @@ ThemeConfigurationReader::ThemeConfigurationReader(const QString& path, Disabled
     if (m_status == NO_ERROR) {
         for (size_t level = 0; level < documents.size(); ++level)
             collect(definitions, *documents.at(level), int(level));
+        readWordContrast(definitions.rootSettings);
         readOpacities(definitions.opacities);
         readCornerRadius(definitions.radii);
     }
@@ -268,17 +280,46 @@ ThemeConfigurationReader::ThemeConfigurationReader(const QString& path, Disabled
 void ThemeConfigurationReader::readDisabledFactors(const ThemeEntries& entries)
 {
     const auto read = [](const ThemeElement& element, bool& ok) {
-        element.checkTextElement({"name"});
+        element.checkTextElement({"name", "keep", "contrast", "against"});
         return element.readInteger(element.getText(), 0, LargestFactor, ok);
     };
-    QVariantMap factors;
     for (const QString& name : entries.getNames()) {
         const int factor = evaluate(entries, name, -1, read);
-        if (factor < 0)
-            continue;
-        m_disabledFactors.insert(name, factor);
-        factors.insert(name, factor);
+        if (factor >= 0)
+            m_disabledFactors.insert(name, factor);
     }
+    publishDisabledFactors();
+}
+
+/// Makes factors smaller that would take too much contrast from the color that they say to keep.
+void ThemeConfigurationReader::limitDisabledFactors(const ThemeEntries& entries,
+                                                    const ThemeColors& colors)
+{
+    constexpr int Step = 5;
+    for (auto factor = m_disabledFactors.begin(); factor != m_disabledFactors.end(); ++factor) {
+        const ThemeElement& element = entries.getDefinitions(factor.key()).first().element;
+        const QString name = element.getAttribute(QStringLiteral("keep"));
+        if (name.isEmpty())
+            continue;
+        bool ok = true;
+        const QColor color = colors.value(name);
+        const double contrast = readContrast(element, colors, ok);
+        const QVector<QColor> grounds = readGrounds(element, colors, ok);
+        const auto keeps = [&](int percent) {
+            return ColorArithmetic::leastContrast(disabledBy(color, percent, percent), grounds)
+                   >= contrast;
+        };
+        while (ok && *factor > NoFactor && !keeps(*factor))
+            *factor = std::max(*factor - Step, NoFactor);
+    }
+    publishDisabledFactors();
+}
+
+void ThemeConfigurationReader::publishDisabledFactors() const
+{
+    QVariantMap factors;
+    for (auto factor = m_disabledFactors.begin(); factor != m_disabledFactors.end(); ++factor)
+        factors.insert(factor.key(), *factor);
     if (QCoreApplication* app = QCoreApplication::instance())
         app->setProperty(ThemeResources::getInternalThemeVariablePropertyName().data(),
                          QVariantMap{{ThemeResources::getDisabledFactorsVarPrefix(), factors}});
@@ -289,17 +330,25 @@ void ThemeConfigurationReader::readPalette(ThemeDefinitions& definitions,
 {
     const DisabledColors disabledColors(definitions.disabledColors, disabled);
     definitions.colors.addTwins();
-    ThemeColorResolver colorResolver(definitions.colors, disabledColors);
+    ThemeColorResolver colorResolver(definitions.colors, disabledColors, m_wordContrast);
     colorResolver.resolve();
-    m_colors = colorResolver.getColors(false);
-    m_internalColors = colorResolver.getColors(true);
+    colorResolver.splitColors(m_colors, m_internalColors);
+    limitDisabledFactors(definitions.factors, colorResolver.getColors());
 
     definitions.brushes.addTwins();
-    ThemeBrushResolver brushResolver(definitions.brushes, colorResolver.getColors(),
-                                     disabledColors);
+    ThemeBrushResolver brushResolver(definitions.brushes, definitions.colors,
+                                     colorResolver.getColors(), disabledColors);
     brushResolver.resolve();
-    m_brushes = brushResolver.getBrushes(false);
-    m_internalBrushes = brushResolver.getBrushes(true);
+    brushResolver.splitBrushes(m_brushes, m_internalBrushes);
+}
+
+void ThemeConfigurationReader::readWordContrast(const ThemeEntries& entries)
+{
+    constexpr double LargestContrast = 21;
+    const auto read = [](const ThemeElement& root, bool& ok) {
+        return root.readNumber(root.getAttribute(wordsAttribute()), 1, LargestContrast, ok);
+    };
+    m_wordContrast = evaluate(entries, wordsAttribute(), DefaultWordContrast, read);
 }
 
 void ThemeConfigurationReader::readOpacities(const ThemeEntries& entries)

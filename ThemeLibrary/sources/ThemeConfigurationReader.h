@@ -43,18 +43,25 @@ public:
 
     const QMap<QString, int>& getCornerRadiusMap() const { return m_cornerRadius; }
 
+    /// The contrast that the theme promises its words.
+    double getWordContrast() const { return m_wordContrast; }
+
     const QMap<QString, int>& getDisabledFactorsMap() const { return m_disabledFactors; }
 
     const ThemeFont& getFont() const { return m_font; }
 
 private:
     void readDisabledFactors(const ThemeEntries& entries);
+    void limitDisabledFactors(const ThemeEntries& entries, const ThemeColors& colors);
+    void publishDisabledFactors() const;
     void readPalette(ThemeDefinitions& definitions, const DisabledColor& disabled);
+    void readWordContrast(const ThemeEntries& entries);
     void readOpacities(const ThemeEntries& entries);
     void readCornerRadius(const ThemeEntries& entries);
     void readFont(const ThemeEntries& settings, const QStringList& families);
 
     Status m_status = NO_ERROR;
+    double m_wordContrast = DefaultWordContrast;
     QMap<QString, QColor> m_colors;
     QMap<QString, QColor> m_internalColors;
     QMap<QString, QBrush> m_brushes;

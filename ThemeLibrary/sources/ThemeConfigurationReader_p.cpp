@@ -18,6 +18,13 @@ bool isForeground(const QString& name)
            || name.contains(QLatin1String("Link"));
 }
 
+/// Whether `entries` has a definition of `name` that is no derived twin.
+bool isWritten(const ThemeEntries& entries, const QString& name)
+{
+    const ThemeEntries::Definitions& definitions = entries.getDefinitions(name);
+    return !definitions.isEmpty() && definitions.first().twinOf.isEmpty();
+}
+
 bool isAlias(const ThemeElement& element)
 {
     return element.getTag() == QLatin1String("Brush");
@@ -164,18 +171,18 @@ void ThemeResolver::breakCycle(Node& node)
         m_stack.takeLast()->waiting = false;
 }
 
-ThemeColorResolver::ThemeColorResolver(const ThemeEntries& entries, const DisabledColors& disabled)
+ThemeColorResolver::ThemeColorResolver(const ThemeEntries& entries, const DisabledColors& disabled,
+                                       double wordContrast)
     : ThemeResolver(entries), m_disabled(disabled)
-{ }
-
-QMap<QString, QColor> ThemeColorResolver::getColors(bool internal) const
 {
-    QMap<QString, QColor> colors;
-    for (auto color = m_colors.begin(); color != m_colors.end(); ++color) {
-        if (isInternal(color.key()) == internal)
-            colors.insert(color.key(), *color);
-    }
-    return colors;
+    m_colors.wordContrast = wordContrast;
+}
+
+void ThemeColorResolver::splitColors(QMap<QString, QColor>& published,
+                                     QMap<QString, QColor>& internal) const
+{
+    for (auto color = m_colors.begin(); color != m_colors.end(); ++color)
+        (isInternal(color.key()) ? internal : published).insert(color.key(), *color);
 }
 
 QString ThemeColorResolver::firstUnsettled(const QString& name, const QStringList& named) const
@@ -217,9 +224,10 @@ bool ThemeColorResolver::evaluate(const QString& name, const ThemeEntry& entry)
     return true;
 }
 
-ThemeBrushResolver::ThemeBrushResolver(const ThemeEntries& entries, const ThemeColors& colors,
+ThemeBrushResolver::ThemeBrushResolver(const ThemeEntries& entries,
+                                       const ThemeEntries& colorEntries, const ThemeColors& colors,
                                        const DisabledColors& disabled)
-    : ThemeResolver(entries), m_colors(colors), m_disabled(disabled)
+    : ThemeResolver(entries), m_colorEntries(colorEntries), m_colors(colors), m_disabled(disabled)
 { }
 
 bool ThemeBrushResolver::isBrush(const QString& tag)
@@ -227,14 +235,16 @@ bool ThemeBrushResolver::isBrush(const QString& tag)
     return tag == QLatin1String("Brush") || BrushReader::forTag(tag);
 }
 
-QMap<QString, QBrush> ThemeBrushResolver::getBrushes(bool internal) const
+void ThemeBrushResolver::splitBrushes(QMap<QString, QBrush>& published,
+                                      QMap<QString, QBrush>& internal) const
 {
-    QMap<QString, QBrush> brushes;
-    for (auto brush = m_brushes.begin(); brush != m_brushes.end(); ++brush) {
-        if (isInternal(brush.key()) == internal)
-            brushes.insert(brush.key(), *brush);
-    }
-    return brushes;
+    for (auto value = m_values.begin(); value != m_values.end(); ++value)
+        (isInternal(value.key()) ? internal : published).insert(value.key(), value->brush);
+}
+
+bool ThemeBrushResolver::isLastOne(const ThemeEntry& entry) const
+{
+    return m_lastEntry && m_lastEntry->element == entry.element;
 }
 
 QString ThemeBrushResolver::getDependency(const QString& name, const ThemeEntry& entry) const
@@ -242,44 +252,67 @@ QString ThemeBrushResolver::getDependency(const QString& name, const ThemeEntry&
     Q_UNUSED(name)
     if (!entry.twinOf.isEmpty()) {
         const QString original = unsettled(entry.twinOf);
-        return original.isEmpty() ? unsettled(m_namedTwins.value(entry.twinOf)) : original;
+        return original.isEmpty() ? unsettled(m_values.value(entry.twinOf).twin) : original;
     }
-    return isAlias(entry.element) ? unsettled(entry.element.getText()) : QString();
+    return !isLastOne(entry) && isAlias(entry.element) ? unsettled(entry.element.getText())
+                                                       : QString();
 }
 
-/// The brush `name` is `named` under another name.
-void ThemeBrushResolver::nameTwin(const QString& name, const QString& named)
+ThemeBrushResolver::Value ThemeBrushResolver::readAlias(const ThemeElement& element, bool& ok) const
 {
+    const QString named = element.getText();
+    element.checkTextElement({"name", "internal"});
+    const auto found = m_values.constFind(named);
+    if (found == m_values.constEnd()) {
+        element.reject(quoted(named) + QStringLiteral(" is no brush of the theme"));
+        ok = false;
+        return {};
+    }
+    Value value = *found;
     const QString twin = ThemeNames::twin(named);
-    const ThemeEntries::Definitions& definitions = getEntries().getDefinitions(twin);
-    const bool isWritten = !definitions.isEmpty() && definitions.first().twinOf.isEmpty();
-    m_namedTwins.insert(name, isWritten ? twin : m_namedTwins.value(named));
+    if (isWritten(getEntries(), twin))
+        value.twin = twin;
+    return value;
+}
+
+ThemeBrushResolver::Value ThemeBrushResolver::readValue(const ThemeElement& element, bool& ok) const
+{
+    if (isAlias(element))
+        return readAlias(element, ok);
+    Value value;
+    value.brush = BrushReader::forTag(element.getTag())->readBrush(element, m_colors, ok);
+    if (!value.brush.gradient() && !hasDerivation(element))
+        value.color = element.getText();
+    return value;
+}
+
+QBrush ThemeBrushResolver::derivedTwin(const QString& original, const Value& value) const
+{
+    const auto named = m_values.constFind(value.twin);
+    if (named != m_values.constEnd())
+        return named->brush;
+    const QString twin = ThemeNames::twin(value.color);
+    if (isWritten(m_colorEntries, twin) && m_colors.contains(twin))
+        return m_colors.value(twin);
+    return m_disabled.derived(value.brush, original, m_colors);
 }
 
 bool ThemeBrushResolver::evaluate(const QString& name, const ThemeEntry& entry)
 {
-    bool ok = true;
-    QBrush brush;
     if (!entry.twinOf.isEmpty()) {
-        const QString twin = m_namedTwins.value(entry.twinOf);
-        ok = m_brushes.contains(entry.twinOf);
-        brush = m_brushes.contains(twin)
-                    ? m_brushes.value(twin)
-                    : m_disabled.derived(m_brushes.value(entry.twinOf), entry.twinOf, m_colors);
-    } else if (isAlias(entry.element)) {
-        const QString named = entry.element.getText();
-        entry.element.checkTextElement({"name", "internal"});
-        ok = m_brushes.contains(named);
-        brush = m_brushes.value(named);
-        if (ok)
-            nameTwin(name, named);
-        else
-            entry.element.reject(quoted(named) + QStringLiteral(" is no brush of the theme"));
-    } else {
-        brush = BrushReader::forTag(entry.element.getTag())->readBrush(entry.element, m_colors, ok);
+        const auto original = m_values.constFind(entry.twinOf);
+        if (original == m_values.constEnd())
+            return false;
+        const QBrush twin = derivedTwin(entry.twinOf, *original);
+        m_values.insert(name, {twin, {}, {}});
+        return true;
     }
+    bool ok = true;
+    if (!isLastOne(entry))
+        m_lastValue = readValue(entry.element, ok);
+    m_lastEntry = ok ? &entry : nullptr;
     if (ok)
-        m_brushes.insert(name, brush);
+        m_values.insert(name, m_lastValue);
     return ok;
 }
 

@@ -97,11 +97,12 @@ private:
 class ThemeColorResolver : public ThemeResolver
 {
 public:
-    ThemeColorResolver(const ThemeEntries& entries, const DisabledColors& disabled);
+    ThemeColorResolver(const ThemeEntries& entries, const DisabledColors& disabled,
+                       double wordContrast);
 
     const ThemeColors& getColors() const { return m_colors; }
 
-    QMap<QString, QColor> getColors(bool internal) const;
+    void splitColors(QMap<QString, QColor>& published, QMap<QString, QColor>& internal) const;
 
 private:
     QString getDependency(const QString& name, const ThemeEntry& entry) const override;
@@ -116,25 +117,38 @@ private:
 class ThemeBrushResolver : public ThemeResolver
 {
 public:
-    ThemeBrushResolver(const ThemeEntries& entries, const ThemeColors& colors,
-                       const DisabledColors& disabled);
+    /// `colors` are what became of `colorEntries`.
+    ThemeBrushResolver(const ThemeEntries& entries, const ThemeEntries& colorEntries,
+                       const ThemeColors& colors, const DisabledColors& disabled);
 
     /// Whether elements with the tag `tag` are brushes.
     static bool isBrush(const QString& tag);
 
-    QMap<QString, QBrush> getBrushes(bool internal) const;
+    void splitBrushes(QMap<QString, QBrush>& published, QMap<QString, QBrush>& internal) const;
 
 private:
     QString getDependency(const QString& name, const ThemeEntry& entry) const override;
     bool evaluate(const QString& name, const ThemeEntry& entry) override;
-    void nameTwin(const QString& name, const QString& named);
 
+    struct Value
+    {
+        QBrush brush;
+        QString color; ///< of the theme, if it is just that, by whatever way
+        QString twin; ///< written in a file, of the nearest brush that it names and that has one
+    };
+
+    Value readValue(const ThemeElement& element, bool& ok) const;
+    Value readAlias(const ThemeElement& element, bool& ok) const;
+    QBrush derivedTwin(const QString& original, const Value& value) const;
+    bool isLastOne(const ThemeEntry& entry) const;
+
+    const ThemeEntries& m_colorEntries;
     const ThemeColors& m_colors;
     const DisabledColors& m_disabled;
-    QHash<QString, QBrush> m_brushes;
-    /// For each resolved "Brush" element the twin, written in a file, of the nearest brush that it
-    /// names and that has one.
-    QHash<QString, QString> m_namedTwins;
+    QHash<QString, Value> m_values;
+    /// An element that spells several names is read for the first one.
+    const ThemeEntry* m_lastEntry = nullptr;
+    Value m_lastValue;
 };
 
 } // namespace BRELK

@@ -86,9 +86,6 @@ int sizeOfToken(const QXmlStreamReader& reader)
 /// Why the token that `reader` is at must not be given to the document parser; empty when it may.
 QString problemOfToken(const QXmlStreamReader& reader, int& depth, ThemeFileBudget& budget)
 {
-    budget.characters -= sizeOfToken(reader);
-    if (budget.characters < 0)
-        return QStringLiteral("its entities stand for too much text");
     switch (reader.tokenType()) {
     case QXmlStreamReader::StartElement:
         if (++depth > MaxDepth)
@@ -103,10 +100,14 @@ QString problemOfToken(const QXmlStreamReader& reader, int& depth, ThemeFileBudg
 QString scan(QXmlStreamReader& reader, ThemeFileBudget& budget)
 {
     int depth = 0;
+    bool hasEntities = false;
     QString problem;
     while (!reader.atEnd() && problem.isEmpty()) {
         reader.readNext();
         problem = problemOfToken(reader, depth, budget);
+        hasEntities |= reader.tokenType() == QXmlStreamReader::DTD;
+        if (hasEntities && (budget.characters -= sizeOfToken(reader)) < 0)
+            problem = QStringLiteral("its entities stand for too much text");
     }
     return problem;
 }

@@ -48,6 +48,9 @@ class ThemeElement
 public:
     ThemeElement(const ThemeDocument& document, const QDomElement& element);
 
+    /// Whether both are the same element of the same document.
+    bool operator==(const ThemeElement& other) const { return m_element == other.m_element; }
+
     QString getTag() const { return m_element.tagName(); }
 
     /// Where it stands, for messages.
