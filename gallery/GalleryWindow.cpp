@@ -3,6 +3,7 @@
 #include "Header.h"
 #include "Pages.h"
 #include "ThemeResources.h"
+#include "ThemeSwitcher.h"
 #include "kit/Page.h"
 
 #include <QApplication>
@@ -39,9 +40,8 @@ GalleryWindow::GalleryWindow(const Settings& settings)
 {
     auto* header = new Header(settings);
     connect(header, &Header::themeChosen, this, [this](const QString& name) {
-        Settings changed = m_settings;
-        changed.theme = name;
-        restart(changed);
+        if (BRELK::ThemeSwitcher::getInstance().switchTo(name))
+            m_settings.theme = name;
     });
     connect(header, &Header::scaleChosen, this, [this](double scale) {
         Settings changed = m_settings;
@@ -52,6 +52,9 @@ GalleryWindow::GalleryWindow(const Settings& settings)
         m_settings.rightToLeft = rightToLeft;
         QGuiApplication::setLayoutDirection(rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
     });
+
+    connect(&BRELK::ThemeSwitcher::getInstance(), &BRELK::ThemeSwitcher::switched, this,
+            &GalleryWindow::rebuildPages);
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -105,6 +108,14 @@ void GalleryWindow::showPage(int index)
     m_pages->setCurrentIndex(index);
     m_settings.page = entry.name;
     setWindowTitle(entry.title);
+}
+
+/// Pages keep values of the theme: in samples, swatches and the words about them.
+void GalleryWindow::rebuildPages()
+{
+    for (int index = 0; index < m_pages->count(); ++index)
+        delete qobject_cast<QScrollArea*>(m_pages->widget(index))->takeWidget();
+    showPage(m_pages->currentIndex());
 }
 
 void GalleryWindow::restart(const Settings& settings)

@@ -1,6 +1,7 @@
 #include "Header.h"
 
 #include "ThemeFactory.h"
+#include "ThemeSwitcher.h"
 #include "kit/Decoration.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"
@@ -32,7 +33,11 @@ Header::Header(const Settings& settings)
     bar->setContentsMargins(3 * Unit, Unit, 3 * Unit, Unit);
     bar->setSpacing(Unit);
     auto* title = new QLabel(QStringLiteral("Gallery"));
-    Decoration::dress(*title, Decoration::text(), Decoration::font(QStringLiteral("large")));
+    const auto dress = [title] {
+        Decoration::dress(*title, Decoration::text(), Decoration::font(QStringLiteral("large")));
+    };
+    dress();
+    connect(&BRELK::ThemeSwitcher::getInstance(), &BRELK::ThemeSwitcher::switched, this, dress);
     bar->addWidget(title);
     bar->addStretch();
     addThemes(*bar, settings.theme);
@@ -48,11 +53,7 @@ void Header::addThemes(QBoxLayout& bar, const QString& current)
     themes->setCurrentIndex(themes->findText(current));
     addField(bar, QStringLiteral("&Theme"), themes);
     connect(themes, QOverload<int>::of(&QComboBox::activated), this,
-            [this, themes, current](int index) {
-                const QString chosen = themes->itemText(index);
-                if (chosen != current)
-                    Q_EMIT themeChosen(chosen);
-            });
+            [this, themes](int index) { Q_EMIT themeChosen(themes->itemText(index)); });
 }
 
 void Header::addScales(QBoxLayout& bar, double current)

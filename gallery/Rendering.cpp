@@ -2,6 +2,7 @@
 
 #include "Pages.h"
 #include "Settings.h"
+#include "ThemeSwitcher.h"
 #include "kit/Page.h"
 
 #include <QApplication>
@@ -45,7 +46,7 @@ QSize pageSize(const QLayout& layout)
                                               : layout.totalSizeHint().height()};
 }
 
-QPixmap picture(const PageEntry& entry)
+QPixmap picture(const PageEntry& entry, const Settings& settings)
 {
     QWidget window;
     auto* layout = new QVBoxLayout(&window);
@@ -68,13 +69,21 @@ QPixmap picture(const PageEntry& entry)
     settle();
     focus.setFocus(Qt::TabFocusReason);
     settle();
+    if (!settings.via.isEmpty()) {
+        auto& switcher = BRELK::ThemeSwitcher::getInstance();
+        for (const QString& theme : {settings.via, settings.theme}) {
+            switcher.switchTo(theme);
+            settle();
+        }
+    }
     return window.grab();
 }
 
-bool write(const PageEntry& entry, const QDir& directory)
+bool write(const PageEntry& entry, const Settings& settings)
 {
+    const QDir directory(settings.renderDirectory);
     const QString path = directory.absoluteFilePath(entry.name % QLatin1String(".png"));
-    const bool written = picture(entry).save(path);
+    const bool written = picture(entry, settings).save(path);
     if (written)
         QTextStream(stdout) << path << '\n';
     else
@@ -94,12 +103,11 @@ void beSameEverywhere()
 bool renderPages(const Settings& settings)
 {
     beSameEverywhere();
-    const QDir directory(settings.renderDirectory);
-    QDir().mkpath(directory.path());
+    QDir().mkpath(settings.renderDirectory);
     const QVector<PageEntry>& pages = allPages();
     return std::all_of(pages.begin(), pages.end(), [&](const PageEntry& entry) {
         const bool isMeant = settings.page.isEmpty() || settings.page == entry.name;
-        return !isMeant || write(entry, directory);
+        return !isMeant || write(entry, settings);
     });
 }
 

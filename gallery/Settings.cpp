@@ -55,6 +55,10 @@ struct Options
     QCommandLineOption scale{QStringLiteral("scale"),
                              QStringLiteral("Draw everything <factor> times as large (0.5 to 4)."),
                              QStringLiteral("factor")};
+    QCommandLineOption via{
+        QStringLiteral("via"),
+        QStringLiteral("Switch to the theme <name> and back before each picture."),
+        QStringLiteral("name")};
     QCommandLineOption rightToLeft{QStringLiteral("rtl"),
                                    QStringLiteral("Lay out from right to left.")};
     QCommandLineOption styleSheet{
@@ -115,7 +119,7 @@ Settings readSettings(const QCoreApplication& application, const QString& defaul
     parser.setApplicationDescription(
         QStringLiteral("Shows every kind of widget in a theme, in every state."));
     parser.addHelpOption();
-    parser.addOptions({options.theme, options.repository, options.page, options.render,
+    parser.addOptions({options.theme, options.repository, options.page, options.render, options.via,
                        options.scale, options.rightToLeft, options.styleSheet, options.listPages});
     parser.process(application);
 
@@ -125,6 +129,7 @@ Settings readSettings(const QCoreApplication& application, const QString& defaul
         parser.isSet(options.repository) ? parser.value(options.repository) : defaultRepository;
     settings.page = knownPage(parser.value(options.page));
     settings.renderDirectory = parser.value(options.render);
+    settings.via = parser.value(options.via);
     settings.rightToLeft = parser.isSet(options.rightToLeft);
     if (parser.isSet(options.styleSheet))
         settings.styleSheet = parser.value(options.styleSheet);

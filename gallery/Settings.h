@@ -17,6 +17,7 @@ struct Settings
     QString page;
     QString renderDirectory; ///< empty: show the window
     std::optional<QString> styleSheet; ///< takes the place of the application style sheet
+    QString via; ///< a theme to switch to and back from before pictures are taken
     double scale = 1;
     bool rightToLeft = false;
     bool listPages = false;

@@ -17,7 +17,8 @@ FAMILIES = "widget families"
 
 LAYERS = (
     (0, "companion library", ["CommonUtils/*"]),
-    (6, "theme application", [LIBRARY + name for name in ("BaseTheme.*", "ThemeFactory.*", "ThemeQApplication.*")]),
+    (6, "theme application", [LIBRARY + name for name in ("AppliedThemes.*", "BaseTheme.*", "ThemeFactory.*",
+                                                            "ThemeQApplication.*", "ThemeSwitcher.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
         "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "OwnColors.*", "PainterSaver.*", "Pictures.*", "Shapes.*",
         "StyleContext.*", "Texts.*", "WidgetProperties.*", "WidgetTraits.*")]),

@@ -18,8 +18,8 @@ public:
     virtual QString getName() const = 0;
 
     /// Gives `app` this theme. Call it once, on the GUI thread, before widgets are built: the style
-    /// keeps theme values from their first use for the life of the process. Problems are reported
-    /// through the debug logger.
+    /// keeps theme values from their first use. `ThemeSwitcher` applies another theme later.
+    /// Problems are reported through the debug logger.
     virtual void customize(QApplication* app) = 0;
 };
 

@@ -52,7 +52,7 @@ VARN_COMMON_THEME_EXPORT QVariant getThemeVar(const QString& path, const QVarian
 /// The theme's color `name`; invalid when there is none or no application object.
 ///
 /// This and the five lookups below answer from a copy of their group that is taken at their first
-/// call and kept for the life of the process.
+/// call and kept until `ThemeSwitcher` applies another theme.
 VARN_COMMON_THEME_EXPORT QColor getColor(const QString& name);
 /// The theme's brush `name`; `Qt::NoBrush` when there is none or no application object.
 VARN_COMMON_THEME_EXPORT QBrush getBrush(const QString& name);

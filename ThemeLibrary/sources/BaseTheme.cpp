@@ -1,5 +1,6 @@
 #include "BaseTheme.h"
 
+#include "AppliedThemes.h"
 #include "BaseStyle.h"
 #include "BaseTheme_p.h"
 #include "EmbeddedIcons.h"
@@ -34,8 +35,13 @@ void registerFonts(const QString& directory)
     const QFileInfoList files =
         QDir(directory).entryInfoList({QStringLiteral("*.ttf")}, QDir::NoFilter, QDir::NoSort);
     for (const QFileInfo& file : files) {
-        if (QFontDatabase::addApplicationFont(file.absoluteFilePath()) < 0)
-            log(QLatin1String("Error reading font: ") + file.absoluteFilePath());
+        const QString path = file.absoluteFilePath();
+        if (appliedThemes().fontFiles.contains(path))
+            continue;
+        if (QFontDatabase::addApplicationFont(path) < 0)
+            log(QLatin1String("Error reading font: ") + path);
+        else
+            appliedThemes().fontFiles.insert(path);
     }
 }
 
@@ -84,7 +90,8 @@ void installStyleSheets(QApplication& app)
         else
             log(QLatin1String("Error reading stylesheet: ") + file.errorString());
     }
-    app.setStyleSheet(ThemeResources::customizeStyleSheet(joined));
+    appliedThemes().styleSheet = ThemeResources::customizeStyleSheet(joined);
+    app.setStyleSheet(appliedThemes().styleSheet);
     // What now stands before the style has no name by itself.
     QApplication::style()->setObjectName(styleName());
 }
@@ -94,14 +101,14 @@ void registerBundles(const QString& directory)
     QDirIterator files(directory);
     while (files.hasNext()) {
         const QString path = files.next();
-        if (path.endsWith(QLatin1String(".rcc")) && !QResource::registerResource(path, QString()))
+        if (path.endsWith(QLatin1String(".rcc")) && !addBundle(path))
             log(QLatin1String("Error reading resource bundle: ") + path);
     }
 }
 
 void useIcons(const QString& themePath, const QString& themeName)
 {
-    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths() << themePath + QLatin1String("/Images/"));
+    addIconThemePath(themePath + QLatin1String("/Images/"));
     QIcon::setThemeName(themeName);
     if (!QImageReader::supportedImageFormats().contains(QByteArrayLiteral("svg")))
         log(QStringLiteral("Icons need Qt's SVG plugins, which are not installed"));
@@ -119,15 +126,24 @@ QString imagesName(const QString& themePath, const QString& name)
 
 void addSearchPaths(const QString& imagesPath, const QString& scalablePath)
 {
-    QDir::addSearchPath(ThemeResources::iconsPrefix(), scalablePath);
-    QDir::addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
+    addSearchPath(ThemeResources::iconsPrefix(), scalablePath);
+    addSearchPath(ThemeResources::iconsPrefix(), QStringLiteral(":/Icons"));
     // Deliberate: lower case, so this is not the embedded folder but the place that theme bundles
     // add icons to, and the library's own come after.
-    QIcon::setFallbackSearchPaths(QIcon::fallbackSearchPaths() << QStringLiteral(":/icons"));
-    QDir::addSearchPath(ThemeResources::cursorsPrefix(), imagesPath + QLatin1String("/Cursors"));
-    QDir::addSearchPath(ThemeResources::cursorsPrefix(), QStringLiteral(":/Cursors"));
-    QDir::addSearchPath(ThemeResources::themeResourcesPrefix(),
-                        imagesPath + QLatin1String("/theme_resources"));
+    addIconFallbackPath(QStringLiteral(":/icons"));
+    addSearchPath(ThemeResources::cursorsPrefix(), imagesPath + QLatin1String("/Cursors"));
+    addSearchPath(ThemeResources::cursorsPrefix(), QStringLiteral(":/Cursors"));
+    addSearchPath(ThemeResources::themeResourcesPrefix(),
+                  imagesPath + QLatin1String("/theme_resources"));
+}
+
+/// What a theme leaves of the palette: that of the theme before, but for a switch.
+QPalette basePalette()
+{
+    AppliedThemes& applied = appliedThemes();
+    if (!applied.palette)
+        applied.palette = QGuiApplication::palette();
+    return applied.switching ? *applied.palette : QGuiApplication::palette();
 }
 
 } // namespace
@@ -194,7 +210,7 @@ void BaseTheme::apply(QApplication* app, const UseStyle& useStyle)
     }
     const QString mappingPath = m_themePath + QLatin1String("/qpaletteMapping.xml");
     const QPaletteReader mapping(mappingPath, configuration.getBrushesMap(),
-                                 configuration.getColorsMap(), QGuiApplication::palette());
+                                 configuration.getColorsMap(), basePalette());
 
     app->setProperty(ThemeResources::getThemeVariablePropertyName().data(),
                      themeVariables(configuration));

@@ -2,6 +2,7 @@
 
 #include "Theme.h"
 #include "ThemeFactory.h"
+#include "ThemeQApplication_p.h"
 
 #include <QDebug>
 #include <QFileInfo>
@@ -32,13 +33,6 @@ QString knownThemes(const ThemeFactory& factory)
            + (themes.isEmpty() ? QStringLiteral("no themes") : themes.join(QLatin1String(", ")));
 }
 
-void reportMissingTheme(const QString& name)
-{
-    const QString reason = knownThemes(ThemeFactory::getInstance());
-    qDebug().noquote() << QString(QLatin1String("No theme \"") + name + QLatin1String("\": ")
-                                  + reason);
-}
-
 void readOption(const QStringList& args, const QString& option, QString& value)
 {
     const int index = args.indexOf(option);
@@ -47,6 +41,13 @@ void readOption(const QStringList& args, const QString& option, QString& value)
 }
 
 } // namespace
+
+void reportMissingTheme(const QString& name)
+{
+    const QString reason = knownThemes(ThemeFactory::getInstance());
+    qDebug().noquote() << QString(QLatin1String("No theme \"") + name + QLatin1String("\": ")
+                                  + reason);
+}
 
 ThemeQApplication::ThemeQApplication(int& argc, char** argv) : ThemeQApplication(argc, argv, {}, {})
 { }

@@ -1,4 +1,5 @@
 #include "ThemeResources.h"
+#include "ThemeValues.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -113,7 +114,10 @@ const QString& themeResourcesPrefix()
 QIcon getIcon(const QString& name)
 {
     const QString path = findIconPath(name);
-    return path.isEmpty() ? QIcon() : QIcon(path);
+    if (!path.isEmpty())
+        return QIcon(path);
+    reportMissing(name);
+    return {};
 }
 
 QStringList getIcons(const QRegularExpression& re)

@@ -3,12 +3,16 @@
 #include "ThemeResources.h"
 
 #include <QCoreApplication>
+#include <QLoggingCategory>
 
 namespace BRELK {
 
 using ThemeNames::Group;
 
 namespace {
+
+// Nothing of it is written by default.
+Q_LOGGING_CATEGORY(diagnostics, "varn.theme", QtInfoMsg)
 
 struct Source
 {
@@ -60,6 +64,14 @@ QBrush convert(const QVariant& value)
 
 } // namespace
 
+void reportMissing(const QString& name)
+{
+    if (!diagnostics().isDebugEnabled() || themeValues().reportedMissing.contains(name))
+        return;
+    themeValues().reportedMissing.insert(name);
+    qCDebug(diagnostics).noquote() << QString(QLatin1String("The theme has no ") + name);
+}
+
 template <class Value>
 void FrozenGroup<Value>::freeze(const QString& firstName)
 {
@@ -79,6 +91,11 @@ void FrozenGroup<Value>::freeze(const QString& firstName)
         }
     }
     const QVariantMap values = variables.toMap().value(source.group).toMap();
+    if (diagnostics().isDebugEnabled()) {
+        for (const QString& name : knownNames(m_group))
+            if (!name.isEmpty() && !values.contains(name))
+                reportMissing(name);
+    }
     for (auto entry = values.begin(); entry != values.end(); ++entry) {
         const int place = m_places.value(entry.key(), int(m_values.size()));
         if (size_t(place) == m_values.size()) {

@@ -8,12 +8,16 @@
 #include <QFont>
 #include <QHash>
 #include <QIcon>
+#include <QSet>
 
 #include <array>
 #include <optional>
 #include <vector>
 
 namespace BRELK {
+
+/// Says once, where the logging category "varn.theme" is enabled, that the theme has no `name`.
+void reportMissing(const QString& name);
 
 /// A group of theme variables as it was when a value was first asked for. Nothing is copied while
 /// there is no application object. References are good until the values are let go of.
@@ -40,7 +44,13 @@ public:
     {
         if (m_values.empty())
             freeze(name);
-        return m_values.empty() ? -1 : m_places.value(name, 0);
+        if (m_values.empty())
+            return -1;
+        const auto place = m_places.constFind(name);
+        if (place != m_places.constEnd())
+            return *place;
+        reportMissing(name);
+        return 0;
     }
 
     const Value& at(int place) const
@@ -136,6 +146,7 @@ struct ThemeValues
     QIcon horizontalExtension; ///< the button of a tool bar that is too short
     QIcon verticalExtension;
 
+    QSet<QString> reportedMissing;
     /// The name that was first asked for before any theme was applied.
     QString askedTooEarly;
 };

@@ -169,8 +169,20 @@ void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& d
                      dock.palette.brush(QPalette::WindowText));
 }
 
-void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titleBar)
+/// Windows within windows go on with the palette that they were made in.
+QStyleOptionTitleBar inPresentPalette(const PaintContext& context, QStyleOptionTitleBar bar)
 {
+    if (!qobject_cast<const QMdiSubWindow*>(context.widget))
+        return bar;
+    const QPalette::ColorGroup group = bar.palette.currentColorGroup();
+    bar.palette = context.widget->palette();
+    bar.palette.setCurrentColorGroup(group);
+    return bar;
+}
+
+void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& option)
+{
+    const QStyleOptionTitleBar titleBar = inPresentPalette(context, option);
     const PainterSaver saver(context.painter);
     const bool active = titleBar.titleBarState & QStyle::State_Active;
     const QRectF rect = Shapes::onPixels(titleBar.rect);
