@@ -149,8 +149,12 @@ bool showOwnGround(const StyleContext& context, BaseStyle::ButtonBrushes& brushe
     const QBrush own = OwnColors::controlGround(context);
     if (own.style() == Qt::NoBrush)
         return false;
+    // What the theme tells by the filling, the border tells.
+    const bool isAccented =
+        (BaseStyle::isChecked(context.option) || BaseStyle::isDefaultButton(&context.option))
+        && !WidgetTraits::isSpinBox(context.widget);
     if (brushes.borderBrush == brushes.backgroundBrush)
-        brushes.borderBrush = own;
+        brushes.borderBrush = isAccented ? context.brush(ThemeNames::MainBrush) : own;
     brushes.backgroundBrush = own;
     return true;
 }

@@ -221,8 +221,12 @@ void paintPanel(const PaintContext& context)
     const QColor border = context.option.palette.color(QPalette::Window).darker(BorderDarkness);
     const QBrush fill = OwnColors::ground(
         context, QPalette::Base, themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush));
-    qDrawPlainRect(&context.painter, context.option.rect, border,
-                   context.metric(QStyle::PM_MenuHMargin), &fill);
+    const QRect& rect = context.option.rect;
+    qDrawPlainRect(&context.painter, rect, border, 1, &fill);
+    // On a dark screen a darker edge is not seen: there a light one lies inside it.
+    if (fill.style() == Qt::SolidPattern && !Shapes::isLight(fill.color()))
+        Shapes::drawBox(context, rect.adjusted(1, 1, -1, -1), 0, Qt::NoBrush,
+                        BaseStyle::getBorderBrush(true));
 }
 
 void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)

@@ -93,7 +93,7 @@ constexpr Metric Metrics[] = {
     scaled(QStyle::PM_TreeViewIndentation, 20),
 
     // Menus. The panel has the border in it; a frame besides would be drawn over it.
-    pixels(QStyle::PM_MenuHMargin, 1),
+    pixels(QStyle::PM_MenuHMargin, 2),
     by(QStyle::PM_MenuVMargin, Menus::panelMargin),
     pixels(QStyle::PM_MenuPanelWidth, 0),
     pixels(QStyle::PM_MenuDesktopFrameWidth, 0),
