@@ -168,7 +168,7 @@ void setTabFont(BaseStyle&, QWidget& widget)
     widget.setFont(font);
 }
 
-/// The pages keep the font that they would have without the tabs'.
+/// The pages keep the font that they would have without the tabs', and hear nothing of that.
 void keepPagesFont(BaseStyle&, QWidget& widget)
 {
     auto* pages = widget.findChild<QWidget*>(QStringLiteral("qt_tabwidget_stackedwidget"),
@@ -410,8 +410,8 @@ constexpr PolishRule Rules[] = {
     {hasThemedItems,                   setItemDrawing},
     {WidgetTraits::isLabel,            fadeDisabledLabel},
     {tracksHover,                      trackHover},
-    {WidgetTraits::isTabWidgetOrBar,   setTabFont},
     {is<QTabWidget>,                   keepPagesFont},
+    {WidgetTraits::isTabWidgetOrBar,   setTabFont},
     {is<QLCDNumber>,                   flattenDigits},
     {WidgetTraits::isStatusBar,        raiseStatusBar},
     {is<QScrollArea>,                  lightenViewport},
