@@ -1,9 +1,11 @@
 #include "Families.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "StyleContext.h"
 #include "ThemeNames.h"
 
+#include <QApplication>
 #include <QLinearGradient>
 #include <QMargins>
 
@@ -169,6 +171,28 @@ void paintEmptyArea(const PaintContext& context)
                                                       ThemeNames::BackgroundSubLevel2Color, true));
 }
 
+namespace {
+
+/// Under the application's own palette the words are read on what the section is filled with: the
+/// theme's style sheet fills it with the theme's color, and the style with the application's.
+QBrush textBrush(const PaintContext& context)
+{
+    const QBrush& given = context.option.palette.brush(QPalette::ButtonText);
+    const bool isOwn =
+        OwnColors::has(context, QPalette::ButtonText) || OwnColors::has(context, QPalette::Button);
+    if (!isOwn || OwnColors::isForThis(context, QPalette::ButtonText))
+        return given;
+    const bool isFilledBySheet = qApp->styleSheet().contains(QLatin1String("QHeaderView::section"));
+    const QColor& themed = themeValues().colors.value(ThemeNames::BackgroundSubLevel2Color, true);
+    const QBrush ground = !isFilledBySheet && hasOwnGround(context)
+                              ? context.option.palette.brush(QPalette::Button)
+                              : QBrush(themed);
+    return OwnColors::readable(ground,
+                               {given, context.style.getPalette().brush(QPalette::ButtonText)});
+}
+
+} // namespace
+
 void paintLabel(const PaintContext& context, const QStyleOptionHeader& header)
 {
     QStyleOptionHeader label = header;
@@ -189,7 +213,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionHeader& header)
     }
     const auto flags = QStyle::visualAlignment(label.direction, label.textAlignment);
     Shapes::drawText(context, textRect(label, context.visual(rect)), int(flags), label.text,
-                     label.palette.brush(QPalette::ButtonText));
+                     textBrush(context));
 }
 
 } // namespace BRELK::Headers
