@@ -95,6 +95,7 @@ private Q_SLOTS:
         const QImage first = ranges("--scale 1");
         QVERIFY(!first.isNull());
         QCOMPARE(ranges("--scale 1"), first);
+        QCOMPARE(ranges("--scale 1 --via Light"), first);
         QVERIFY(ranges("--rtl --scale 2").width() >= 2 * PageWidth);
     }
 

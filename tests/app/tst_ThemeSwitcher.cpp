@@ -33,10 +33,10 @@ void addBars(QMainWindow& window)
 {
     QMenu* menu = window.menuBar()->addMenu(text("Menu"));
     QToolBar* bar = window.addToolBar(text("Bar"));
-    for (const QString& name : {text("action.close"), text("action.delete"), text("action.add")}) {
+    for (const QString& name : {text("action.close"), text("action.delete"), text("edit-copy")}) {
         QAction* action = menu->addAction(QIcon::fromTheme(name), name);
         action->setEnabled(name != text("action.delete"));
-        action->setChecked(name == text("action.add"));
+        action->setChecked(name == text("action.close"));
         bar->addAction(action);
     }
     auto* dock = new QDockWidget(text("Dock"));
