@@ -1,0 +1,92 @@
+#!/usr/bin/env python3
+"""Runs varn-theme: over the shipped themes, over a theme with faults of all kinds, and as the tutorial says."""
+
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+BIN, TUTORIAL = sys.argv[1:3]
+
+FAULTY = """<Config extends="Dark">
+  <Palette>
+    <ColorsList>
+      <Color name="ForegrondColor">#DDDDDD</Color>
+      <Color name="BackgroundColor">Blu40</Color>
+      <Color name="MainColor" internal="true">#3371E6</Color>
+      <Color name="MainColor">#3371E6</Color>
+      <Color name="LeftoverColor" internal="true">red</Color>
+      <Color name="ACircle" internal="true">BCircle</Color>
+      <Color name="BCircle" internal="true">ACircle</Color>
+      <Color name="Bad name">red</Color>
+      <Color name="Bad{name">red</Color>
+      <Color name="NoShare" mix="red">red</Color>
+      <Color name="TooLight" lightness="2">red</Color>
+      <Color name="Odd" opacity="1">red</Color>
+      <Color name="ForegroundColor">#555555</Color>
+      <Colr name="Wrong">red</Colr>
+    </ColorsList>
+    <BrushesList>
+      <LinearGradientBrush name="CardBorderBrush"><GradientStop offset="0">red</GradientStop></LinearGradientBrush>
+      <LinearGradientBrush name="EmptyBrush"/>
+      <Brush name="LostBrush">NowhereBrush</Brush>
+    </BrushesList>
+  </Palette>
+  <Opacities><Opacity name="RubberBandOpacity">30</Opacity></Opacities>
+</Config>
+"""
+
+# A word of each kind of finding, by the line that it has to stand in.
+EXPECTED = (
+    (4, 'was "ForegroundColor" meant'), (5, "neither a color"), (6, "is internal, so"), (7, "another one of this name"),
+    (8, "internal and not used"), (9, "leads back to itself"), (11, "needs a name"), (12, "braces"), (13, "need each other"),
+    (14, "not a number"), (15, "unknown attribute"), (17, "unknown element"), (20, "is a gradient"),
+    (21, "has no stop"), (22, "no brush of the theme"), (25, "not a number from 0 to 1"))
+
+
+def run(*arguments, **options):
+    return subprocess.run([BIN + "/varn-theme", *arguments], capture_output=True, text=True, check=False, **options)
+
+
+def test_shipped():
+    found = run("check", "--strict")
+    assert found.returncode == 0, found.stdout
+
+
+def test_faults(directory):
+    assert run("new", "Faulty", "--repository", directory).returncode == 0
+    theme = pathlib.Path(directory, "Faulty")
+    assert run("new", "Faulty", "--repository", directory).returncode == 2
+    assert run("new", "Grey", "--repository", directory, "--background", "#777777").returncode == 1
+    (theme / "config.xml").write_text(FAULTY, encoding="utf-8")
+    (theme / "qpaletteMapping.xml").write_text("<QPalette/>", encoding="utf-8")
+    (theme / "theme.xml").write_text("<theme/>", encoding="utf-8")
+    found = run("check", str(theme))
+    assert found.returncode == 1, found.stdout
+    for line, words in EXPECTED:
+        pattern = rf"Faulty/config.xml:{line}:\d+: (error|warning): .*{re.escape(words)}"
+        assert re.search(pattern, found.stdout), f"{pattern}\n{found.stdout}"
+    assert "has a contrast of" in found.stdout
+    assert "has no name" in found.stdout and 'role "Window" is not mapped' in found.stdout
+
+
+def test_tutorial(directory):
+    page = pathlib.Path(TUTORIAL).read_text(encoding="utf-8")
+    commands = "\n".join(re.findall(r"```sh\n(.*?)```", page, re.S))
+    environment = dict(os.environ, PATH=BIN + os.pathsep + os.environ["PATH"])
+    found = subprocess.run(["bash", "-e", "-c", commands], cwd=directory, env=environment, capture_output=True, text=True, check=False)
+    assert found.returncode == 0, found.stdout + found.stderr
+    assert pathlib.Path(directory, "pictures", "overview.png").exists()
+
+
+def main():
+    test_shipped()
+    for test in (test_faults, test_tutorial):
+        with tempfile.TemporaryDirectory() as directory:
+            test(directory)
+
+
+if __name__ == "__main__":
+    main()

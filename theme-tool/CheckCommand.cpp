@@ -1,0 +1,103 @@
+#include "Commands.h"
+#include "ThemeCheck.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTextStream>
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace ThemeTool {
+
+namespace {
+
+constexpr int Patience = 1000; // ms
+
+QStringList directoriesToCheck(const Request& request)
+{
+    QStringList directories;
+    for (const QString& name : request.arguments)
+        directories += themeDirectory(request, name);
+    if (request.arguments.isEmpty()) {
+        const QDir repository(request.repository);
+        for (const QString& name : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            directories += repository.filePath(name);
+    }
+    return directories;
+}
+
+const char* kindOf(const Finding& finding)
+{
+    return finding.isError ? "error" : "warning";
+}
+
+QString line(const Finding& finding)
+{
+    return QStringLiteral("%1:%2:%3: %4: %5\n")
+        .arg(finding.file)
+        .arg(finding.line)
+        .arg(finding.column)
+        .arg(QLatin1String(kindOf(finding)), finding.text);
+}
+
+QJsonObject object(const Finding& finding)
+{
+    return {{QStringLiteral("file"), finding.file},
+            {QStringLiteral("line"), finding.line},
+            {QStringLiteral("column"), finding.column},
+            {QStringLiteral("kind"), QLatin1String(kindOf(finding))},
+            {QStringLiteral("text"), finding.text}};
+}
+
+QString counted(int count, const char* thing)
+{
+    return QString::number(count) + QLatin1Char(' ') + QLatin1String(thing)
+           + QLatin1String(count == 1 ? "" : "s");
+}
+
+void showProgress(const QElapsedTimer& timer, int done, int all)
+{
+    if (timer.elapsed() > Patience && isatty(STDERR_FILENO))
+        QTextStream(stderr) << "checked " << done << " of " << all << " themes\n";
+}
+
+} // namespace
+
+int runCheck(const Request& request)
+{
+    const QStringList directories = directoriesToCheck(request);
+    if (directories.isEmpty())
+        printError(request.repository
+                   + QLatin1String(" holds no themes; give a theme, or --repository DIR"));
+    if (directories.isEmpty() || directories.contains(QString()))
+        return CouldNotRun;
+
+    QElapsedTimer timer;
+    timer.start();
+    int errors = 0;
+    int warnings = 0;
+    QJsonArray objects;
+    for (int i = 0; i < directories.size(); ++i) {
+        for (const Finding& finding : checkTheme(directories.at(i))) {
+            ++(finding.isError ? errors : warnings);
+            if (request.has("json"))
+                objects.append(object(finding));
+            else
+                print(line(finding));
+        }
+        showProgress(timer, i + 1, directories.size());
+    }
+    if (request.has("json"))
+        print(QString::fromUtf8(QJsonDocument(objects).toJson()));
+    else
+        print(QStringLiteral("%1, %2 in %3\n")
+                  .arg(counted(errors, "error"), counted(warnings, "warning"),
+                       counted(directories.size(), "theme")));
+    return errors > 0 || (warnings > 0 && request.has("strict")) ? Faults : Success;
+}
+
+} // namespace ThemeTool

@@ -1,0 +1,214 @@
+#include "Commands.h"
+#include "ContrastTable.h"
+#include "ReadTheme.h"
+#include "ThemeIndex.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+/// The page is in a static library, whose resources register themselves only when asked to.
+static void registerPages()
+{
+    Q_INIT_RESOURCE(theme_tool);
+}
+
+namespace ThemeTool {
+
+namespace {
+
+/// The pattern that is argument `index`; everything when there is none.
+QRegularExpression pattern(const Request& request, int index)
+{
+    return QRegularExpression(request.arguments.value(index));
+}
+
+bool isUsable(const QRegularExpression& expression)
+{
+    if (!expression.isValid())
+        printError(QStringLiteral("the pattern is no regular expression: ")
+                   + expression.errorString());
+    return expression.isValid();
+}
+
+QString place(const Entry& entry)
+{
+    return QStringLiteral("%1:%2").arg(entry.place.file).arg(entry.place.line);
+}
+
+/// What `name` is made of, and what that is made of, to the seeds.
+void printChain(const ReadTheme& theme, const ThemeIndex& index, const QString& name, int depth,
+                QSet<QString>& printed)
+{
+    constexpr int Deepest = 12;
+    const Entry* entry = index.find(name);
+    const QString indent(2 * depth, QLatin1Char(' '));
+    if (!entry || depth > Deepest)
+        return;
+    print(QStringLiteral("%1%2 %3  %4  %5\n")
+              .arg(indent, name, shown(theme.getColor(name)), entry->recipe, place(*entry)));
+    if (printed.contains(name))
+        return;
+    printed.insert(name);
+    for (const QString& named : entry->named)
+        if (named != name)
+            printChain(theme, index, named, depth + 1, printed);
+}
+
+template <class Values>
+QStringList matching(const Values& values, const QRegularExpression& expression)
+{
+    QStringList names;
+    for (auto value = values.begin(); value != values.end(); ++value)
+        if (value.key().contains(expression))
+            names += value.key();
+    return names;
+}
+
+QStringList allNames(const ReadTheme& theme, const QRegularExpression& expression)
+{
+    const auto& read = theme.getConfiguration();
+    return matching(read.getColorsMap(), expression)
+           + matching(read.getInternalColorsMap(), expression)
+           + matching(read.getBrushesMap(), expression)
+           + matching(read.getInternalBrushesMap(), expression);
+}
+
+QString described(const ReadTheme& theme, const QString& name)
+{
+    const QColor color = theme.getColor(name);
+    return color.isValid() ? shown(color) : QStringLiteral("-");
+}
+
+} // namespace
+
+int runShow(const Request& request)
+{
+    const QString directory = themeDirectory(request, request.arguments.first());
+    const QRegularExpression expression = pattern(request, 1);
+    if (directory.isEmpty() || !isUsable(expression))
+        return CouldNotRun;
+    const ReadTheme theme(directory);
+    const ThemeIndex index(directory);
+    const QStringList names = allNames(theme, expression);
+    for (const QString& name : names) {
+        QSet<QString> printed;
+        if (index.find(name))
+            printChain(theme, index, name, 0, printed);
+        else
+            print(name + QLatin1Char(' ') + described(theme, name)
+                  + QLatin1String("  derived for disabled widgets\n"));
+    }
+    return names.isEmpty() ? Faults : Success;
+}
+
+int runNames(const Request& request)
+{
+    registerPages();
+    const QRegularExpression expression = pattern(request, 0);
+    if (!isUsable(expression))
+        return CouldNotRun;
+    QFile page(QStringLiteral(":/theme-tool/theme-names.md"));
+    page.open(QIODevice::ReadOnly);
+    const QRegularExpression name(QStringLiteral("`([A-Za-z0-9]+)`"));
+    for (const QString& line : QString::fromUtf8(page.readAll()).split(QLatin1Char('\n'))) {
+        const QStringList cells = line.split(QLatin1Char('|'));
+        auto names = name.globalMatch(cells.value(1));
+        while (cells.size() == 4 && names.hasNext()) {
+            const QString found = names.next().captured(1);
+            if (found.contains(expression))
+                print(
+                    QStringLiteral("%1  %2\n").arg(found.leftJustified(36), cells.at(2).trimmed()));
+        }
+    }
+    return Success;
+}
+
+int runDiff(const Request& request)
+{
+    const QString one = themeDirectory(request, request.arguments.first());
+    const QString other = themeDirectory(request, request.arguments.last());
+    if (one.isEmpty() || other.isEmpty())
+        return CouldNotRun;
+    const ReadTheme a(one);
+    const ReadTheme b(other);
+    QStringList names = allNames(a, {}) + allNames(b, {});
+    names.removeDuplicates();
+    names.sort();
+    for (const QString& name : qAsConst(names))
+        if (a.getColor(name) != b.getColor(name))
+            print(QStringLiteral("%1  %2  %3\n")
+                      .arg(name.leftJustified(44), described(a, name), described(b, name)));
+    return Success;
+}
+
+int runContrast(const Request& request)
+{
+    const QString directory = themeDirectory(request, request.arguments.first());
+    if (directory.isEmpty())
+        return CouldNotRun;
+    QVector<Contrast> contrasts = measureContrasts(ReadTheme(directory));
+    std::sort(contrasts.begin(), contrasts.end(), [](const Contrast& one, const Contrast& other) {
+        return one.found / one.least < other.found / other.least;
+    });
+    bool isEnough = true;
+    for (const Contrast& contrast : qAsConst(contrasts)) {
+        isEnough &= contrast.isEnough();
+        print(QStringLiteral("%1 %2  of %3  %4 on %5\n")
+                  .arg(QLatin1String(contrast.isEnough() ? "   " : "bad"))
+                  .arg(contrast.found, 5, 'f', 2)
+                  .arg(contrast.least, 3, 'f', 1)
+                  .arg(contrast.color, contrast.ground));
+    }
+    return isEnough ? Success : Faults;
+}
+
+int runList(const Request& request)
+{
+    const QDir repository(request.repository);
+    if (!repository.exists()) {
+        printError(request.repository + QLatin1String(" does not exist; give --repository DIR"));
+        return CouldNotRun;
+    }
+    for (const QString& name : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        print(QStringLiteral("%1  %2\n").arg(name.leftJustified(16), repository.filePath(name)));
+    return Success;
+}
+
+int runIcons(const Request& request)
+{
+    const QRegularExpression expression = pattern(request, 0);
+    if (!isUsable(expression))
+        return CouldNotRun;
+    for (const QString& file :
+         QDir(QStringLiteral(":/Icons")).entryList({QStringLiteral("*.svg")})) {
+        const QString name = file.left(file.size() - int(qstrlen(".svg")));
+        if (name.contains(expression))
+            print(name + QLatin1Char('\n'));
+    }
+    return Success;
+}
+
+int runRender(const Request& request)
+{
+    const QFileInfo theme(themeDirectory(request, request.arguments.first()));
+    if (theme.filePath().isEmpty())
+        return CouldNotRun;
+    const QString gallery = QCoreApplication::applicationDirPath() + QLatin1String("/varn-gallery");
+    if (!QFileInfo(gallery).isExecutable()) {
+        printError(gallery + QLatin1String(" is missing; install the gallery beside this program"));
+        return CouldNotRun;
+    }
+    QDir().mkpath(request.arguments.last());
+    return QProcess::execute(gallery, {QStringLiteral("--theme-repository"), theme.absolutePath(),
+                                       QStringLiteral("--theme"), theme.fileName(),
+                                       QStringLiteral("--render"), request.arguments.last()})
+                   == 0
+               ? Success
+               : CouldNotRun;
+}
+
+} // namespace ThemeTool
