@@ -291,6 +291,10 @@ void paintButton(const PaintContext& context, const QStyleOptionButton& button)
         focus.rect = context.flag(WidgetProperties::Circular)
                          ? squareInside(button.rect)
                          : context.part(QStyle::SE_PushButtonFocusRect);
+        // The mark lies on the button's body, so it takes the color of the words there.
+        const QBrush words = BaseStyle::buttonBrushes(&button, context.widget).foregroundBrush;
+        if (words.style() != Qt::NoBrush)
+            focus.palette.setBrush(QPalette::Text, words);
         context.draw(QStyle::PE_FrameFocusRect, focus);
     }
 }
