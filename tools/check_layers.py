@@ -20,8 +20,8 @@ LAYERS = (
     (6, "theme application", [LIBRARY + name for name in ("AppliedThemes.*", "BaseTheme.*", "ThemeFactory.*",
                                                             "ThemeQApplication.*", "ThemeSwitcher.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
-        "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "OwnColors.*", "PainterSaver.*", "Pictures.*", "Shapes.*",
-        "StyleContext.*", "Texts.*", "WidgetProperties.*", "WidgetTraits.*")]),
+        "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
+        "WidgetProperties.*", "WidgetTraits.*")]),
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",
                                                      "ProxyStyle_p.*")]

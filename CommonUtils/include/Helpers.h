@@ -76,9 +76,11 @@ public:
     /// another color, as antialiased edges do, the replacement blends in the same shares. A
     /// gradient or texture runs across the whole icon. A reference that is not solid, or an empty
     /// replacement, leaves the colors alone. With `disabled`, as in the mode `QIcon::Disabled`, the
-    /// icon is faded, and its other colors turn gray.
+    /// icon is faded, and its other colors turn gray. Pixmaps that were added to the icon for a
+    /// mode other than `QIcon::Normal` are shown in it as they are.
     ///
-    /// The result keeps `icon.name()`, and if it was found in the icon theme follows the theme.
+    /// The result keeps `icon.name()`, follows the icon theme if `icon` was found in it, and asks
+    /// `icon` whenever it is drawn, so one that changes is seen changing.
     /// Equal arguments give icons with the same `cacheKey()` as long as a bounded cache holds them,
     /// so the function may be called whenever something is painted. A null icon stays null.
     static QIcon getModifiedIconWithForegroundBrush(QIcon icon, QBrush reference,

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace BRELK {
 
@@ -51,7 +52,8 @@ struct Rgb
 /// What the channels of a premultiplied color may be off after dividing by its alpha.
 int roundingError(int alpha)
 {
-    return 2 + Opaque / std::max(alpha, 1);
+    constexpr int OfOpaque = 3;
+    return alpha == Opaque ? OfOpaque : 2 + Opaque / std::max(alpha, 1); // dividing takes long
 }
 
 bool isNear(QRgb color, QRgb other, int tolerance)
@@ -59,24 +61,6 @@ bool isNear(QRgb color, QRgb other, int tolerance)
     return std::abs(qRed(color) - qRed(other)) <= tolerance
            && std::abs(qGreen(color) - qGreen(other)) <= tolerance
            && std::abs(qBlue(color) - qBlue(other)) <= tolerance;
-}
-
-/// Whether an icon is drawn in the reference. In a picture that has the reference among its shades,
-/// more pixels only come close to it.
-bool isDrawnIn(QRgb reference, const QImage& icon)
-{
-    constexpr int Closeness = 16;
-    int exact = 0;
-    int close = 0;
-    for (int y = 0; y < icon.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(icon.constScanLine(y));
-        for (int x = 0; x < icon.width(); ++x) {
-            if (qAlpha(line[x]) != Opaque || !isNear(line[x], reference, Closeness))
-                continue;
-            ++(isNear(line[x], reference, roundingError(Opaque)) ? exact : close);
-        }
-    }
-    return exact >= close;
 }
 
 /// What the color of a pixel is made of, apart from its alpha.
@@ -91,32 +75,45 @@ class IconReader
 public:
     IconReader(const QImage& icon, QRgb reference)
         : m_icon(icon.convertToFormat(QImage::Format_ARGB32))
-        , m_reference(isDrawnIn(reference, m_icon) ? reference : 0)
-    { }
-
-    QRgb at(QPoint place) const
+        , m_pixels(reinterpret_cast<const QRgb*>(m_icon.constBits()))
+        , m_width(m_icon.width())
+        , m_reference(reference)
     {
-        return reinterpret_cast<const QRgb*>(m_icon.constScanLine(place.y()))[place.x()];
+        if (isDrawnInReference())
+            findReference();
     }
+
+    bool hasReference() const { return !m_isReference.empty(); }
+
+    const QRgb* line(int y) const { return m_pixels + y * m_width; }
 
     Blend blendAt(QPoint place) const
     {
         const QRgb color = at(place);
+        if (!hasReference())
+            return {0, color};
         if (isReference(place))
             return {1, color};
-        const auto reference = [this](QPoint near) { return isReference(near); };
-        if (qAlpha(m_reference) < Opaque || isFlat(place)
-            || !anyAround(place, EdgeWidth, reference))
-            return {0, color};
-        return unmixed(place);
+        return anyReferenceAround(place) && !isFlat(place) ? unmixed(place) : Blend{0, color};
     }
 
 private:
+    QRgb at(QPoint place) const { return line(place.y())[place.x()]; }
+
+    const uchar* referencesIn(int y) const { return m_isReference.data() + y * m_width; }
+
+    bool isReference(QPoint place) const { return referencesIn(place.y())[place.x()] != 0; }
+
+    QRect around(QPoint place, int distance) const
+    {
+        const QPoint reach(distance, distance);
+        return QRect(place - reach, place + reach) & m_icon.rect();
+    }
+
     template <class Predicate>
     bool anyAround(QPoint place, int distance, Predicate predicate) const
     {
-        const QPoint reach(distance, distance);
-        const QRect area = QRect(place - reach, place + reach) & m_icon.rect();
+        const QRect area = around(place, distance);
         for (int y = area.top(); y <= area.bottom(); ++y)
             for (int x = area.left(); x <= area.right(); ++x)
                 if (predicate(QPoint(x, y)))
@@ -124,19 +121,52 @@ private:
         return false;
     }
 
+    bool anyReferenceAround(QPoint place) const
+    {
+        const QRect area = around(place, EdgeWidth);
+        uchar any = 0;
+        for (int y = area.top(); y <= area.bottom(); ++y)
+            for (int x = area.left(); x <= area.right(); ++x)
+                any |= referencesIn(y)[x];
+        return any != 0;
+    }
+
     bool looksLikeReference(QRgb color) const
     {
-        return qAlpha(m_reference) == Opaque && qAlpha(color)
-               && isNear(color, m_reference, roundingError(qAlpha(color)));
+        return qAlpha(color) && isNear(color, m_reference, roundingError(qAlpha(color)));
+    }
+
+    /// In a picture that has the reference among its shades, more pixels only come close to it.
+    bool isDrawnInReference() const
+    {
+        constexpr int Closeness = 16;
+        int exact = 0;
+        int close = 0;
+        bool found = false;
+        for (int y = 0; y < m_icon.height() && qAlpha(m_reference) == Opaque; ++y)
+            std::for_each(line(y), line(y) + m_width, [&](QRgb color) {
+                const bool looksLike = looksLikeReference(color);
+                found = found || looksLike;
+                if (qAlpha(color) == Opaque && isNear(color, m_reference, Closeness))
+                    ++(looksLike ? exact : close);
+            });
+        return found && exact >= close;
+    }
+
+    void findReference()
+    {
+        m_isReference.resize(size_t(m_width) * size_t(m_icon.height()));
+        auto result = m_isReference.begin();
+        for (int y = 0; y < m_icon.height(); ++y)
+            for (int x = 0; x < m_width; ++x)
+                *result++ = looksLikeReference(line(y)[x]) && belongsToReference({x, y});
     }
 
     /// A faint pixel may look like the reference by chance. If it is the soft edge of something, so
     /// does what it is the edge of.
-    bool isReference(QPoint place) const
+    bool belongsToReference(QPoint place) const
     {
         const QRgb color = at(place);
-        if (!looksLikeReference(color))
-            return false;
         const auto isMoreOpaque = [&](QPoint near) { return qAlpha(at(near)) > qAlpha(color); };
         return qAlpha(color) == Opaque || !anyAround(place, 1, isMoreOpaque)
                || anyAround(place, 1, [&](QPoint near) {
@@ -181,7 +211,10 @@ private:
     }
 
     QImage m_icon;
+    const QRgb* m_pixels; ///< those of the icon, line by line
+    int m_width;
     QRgb m_reference;
+    std::vector<uchar> m_isReference; ///< of all pixels, line by line; empty if none is
 };
 
 QRgb withoutColor(QRgb color)
@@ -193,10 +226,12 @@ QRgb withoutColor(QRgb color)
 /// The premultiplied color of a pixel with the given opacity.
 QRgb mixed(QRgb replacement, const Blend& blend, int alpha)
 {
+    if (alpha == Opaque && blend.referenceShare == 1)
+        return replacement;
     const float covered = float(alpha) * blend.referenceShare / Opaque;
     const float rest = float(alpha) * (1 - blend.referenceShare) / Opaque;
     const auto channel = [&](int ofReplacement, int ofOther) {
-        return int(std::lround(float(ofReplacement) * covered + float(ofOther) * rest));
+        return int(float(ofReplacement) * covered + float(ofOther) * rest + 0.5F);
     };
     return qRgba(channel(qRed(replacement), qRed(blend.other)),
                  channel(qGreen(replacement), qGreen(blend.other)),
@@ -204,26 +239,37 @@ QRgb mixed(QRgb replacement, const Blend& blend, int alpha)
                  channel(qAlpha(replacement), Opaque));
 }
 
+/// What `brush` paints on an icon of `size`.
+QImage painted(const QBrush& brush, const QSize& size)
+{
+    QImage fill(size, QImage::Format_ARGB32_Premultiplied);
+    fill.fill(Qt::transparent);
+    QPainter(&fill).fillRect(fill.rect(), brush);
+    return fill;
+}
+
 } // namespace
 
-QImage recoloredImage(const QImage& icon, QRgb reference, const QImage& replacement, bool disabled)
+QImage recoloredImage(const QImage& icon, QRgb reference, const QBrush& replacement, bool disabled)
 {
     const IconReader reader(icon, reference);
-    const auto recolored = [&](QPoint place, QRgb fill) {
-        const int alpha = qAlpha(reader.at(place));
-        if (alpha == 0)
-            return QRgb(0);
-        Blend blend = reader.blendAt(place);
-        if (disabled)
-            blend.other = withoutColor(blend.other);
-        return mixed(fill, blend, disabled ? alpha * DisabledOpacity / Opaque : alpha);
-    };
-    QImage result(icon.size(), QImage::Format_ARGB32_Premultiplied);
+    if (!reader.hasReference() && !disabled)
+        return icon;
+    QImage result = painted(reader.hasReference() ? replacement : QBrush(), icon.size());
     for (int y = 0; y < result.height(); ++y) {
-        const auto* fill = reinterpret_cast<const QRgb*>(replacement.constScanLine(y));
+        const QRgb* colors = reader.line(y);
         auto* line = reinterpret_cast<QRgb*>(result.scanLine(y));
-        for (int x = 0; x < result.width(); ++x)
-            line[x] = recolored({x, y}, fill[x]);
+        for (int x = 0; x < result.width(); ++x) {
+            const int alpha = qAlpha(colors[x]);
+            if (alpha == 0) {
+                line[x] = 0;
+                continue;
+            }
+            Blend blend = reader.blendAt({x, y});
+            if (disabled)
+                blend.other = withoutColor(blend.other);
+            line[x] = mixed(line[x], blend, disabled ? alpha * DisabledOpacity / Opaque : alpha);
+        }
     }
     return result;
 }

@@ -1,5 +1,7 @@
 #include "ShapeTile.h"
 
+#include "DeviceCoordinates.h"
+
 #include <QPainter>
 
 #include <cmath>
@@ -7,9 +9,6 @@
 namespace BRELK {
 
 namespace {
-
-/// Positions are told apart as finely as Qt's rasterizer does.
-constexpr int Subpixels = 64;
 
 /// Draws `rect` with sharp corners, whatever joins the pen makes.
 void drawSquare(QPainter* painter, const QRectF& rect, const QSizeF& reach)
@@ -29,9 +28,11 @@ void drawSquare(QPainter* painter, const QRectF& rect, const QSizeF& reach)
 }
 
 /// The pixels in which the borders of `rect`, each reaching `reach` to both sides, meet in the
-/// corners named by `corners`. All in device pixels.
+/// corners named by `corners`; none without borders. All in device pixels.
 QRegion cornerPixels(const QRectF& rect, const QSizeF& reach, Helpers::StraightCornerFlags corners)
 {
+    if (reach.isEmpty())
+        return {};
     const std::pair<Helpers::StraightCornerFlag, QPointF> places[] = {
         {Helpers::TopLeftCorner, rect.topLeft()},
         {Helpers::TopRightCorner, rect.topRight()},
@@ -76,15 +77,6 @@ QImage rendered(const TileKey& key, const QSize& size)
 }
 
 } // namespace
-
-QSizeF penReach(const QPen& pen, qreal horizontalScale, qreal verticalScale)
-{
-    if (pen.style() == Qt::NoPen)
-        return {0, 0};
-    const qreal half = (qFuzzyIsNull(pen.widthF()) ? 1 : pen.widthF()) / 2;
-    return pen.isCosmetic() ? QSizeF(half / horizontalScale, half / verticalScale)
-                            : QSizeF(half, half);
-}
 
 QPainterPath RoundedShape::path() const
 {

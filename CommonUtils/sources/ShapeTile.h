@@ -7,7 +7,6 @@
 #include <QPainterPath>
 #include <QPen>
 #include <QRectF>
-#include <QSizeF>
 #include <QVector>
 
 class QPainter;
@@ -24,9 +23,6 @@ struct RoundedShape
     QPainterPath path() const;
 };
 
-/// How far `pen` reaches to each side of a line, in logical pixels.
-QSizeF penReach(const QPen& pen, qreal horizontalScale, qreal verticalScale);
-
 /// Where a shape lies on one axis of the device.
 struct TileAxis
 {
@@ -38,8 +34,8 @@ struct TileAxis
     int size = 0; ///< pixels of the tile
     int nearCorner = 0; ///< pixels before the stretched one; all if there is none
     int stretch = 0; ///< pixels by which the shape is longer than the tile
-    int edge = 0; ///< distance of the low edge from the start of the tile, in 64ths of a pixel
-    int length = 0; ///< distance of the edges in the tile, in 64ths of a pixel
+    int edge = 0; ///< distance of the low edge from the start of the tile, in subpixels
+    int length = 0; ///< distance of the edges in the tile, in subpixels
 
     /// Pixels of the shape between its corners.
     int between() const { return stretch > 0 ? stretch + 1 : 0; }
@@ -76,7 +72,7 @@ class ShapeTile
 public:
     ShapeTile(const TileKey& key, const TileAxis& horizontal, const TileAxis& vertical);
 
-    /// Draws the shape, in device pixels.
+    /// Draws the shape; the painter's coordinates are those of the device.
     void draw(QPainter* painter, const TileAxis& horizontal, const TileAxis& vertical) const;
 
     int byteCount() const;

@@ -1,6 +1,7 @@
 #include "ThemeSwitcher.h"
 
 #include "AppliedThemes.h"
+#include "Kept.h"
 #include "Theme.h"
 #include "ThemeFactory.h"
 #include "ThemeQApplication.h"
@@ -188,6 +189,7 @@ bool replaceThemeBy(Theme& theme)
         return false;
     }
     removePaths(paths);
+    Kept::forgetAll();
     QPixmapCache::clear();
     if (const QString all = renewed(sheet, librarySheet, applied.styleSheet);
         all != qApp->styleSheet())

@@ -55,6 +55,7 @@ private Q_SLOTS:
              QVector<int>{Qt::AlignCenter, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic,
                           Qt::AlignRight | Qt::AlignBottom | Qt::TextSingleLine,
                           Qt::AlignHCenter | Qt::TextHideMnemonic,
+                          Qt::AlignHCenter | Qt::AlignLeft, // as titles of group boxes
                           Qt::TextDontClip | Qt::AlignVCenter, Qt::TextWordWrap | Qt::AlignJustify})
             for (const int width : {140, 33})
                 for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft})

@@ -1,10 +1,10 @@
 #include "ButtonContent.h"
 
+#include "Kept.h"
 #include "OwnColors.h"
-#include "ThemeColorHelper.h"
+#include "ThemeIcons.h"
 #include "WidgetTraits.h"
 
-#include <QCache>
 #include <QToolButton>
 
 namespace BRELK::ButtonContent {
@@ -43,7 +43,7 @@ void prepare(const BaseStyle& style, Option& option, const QWidget* widget)
 {
     const QBrush brush = foreground({style, option, widget});
     setForeground(option, brush);
-    modifyStyleOptionIcon(option, brush);
+    option.icon = commonModifyStyleOptionIcon(option.icon, brush);
 }
 
 } // namespace
@@ -83,47 +83,27 @@ QBrush textBrush(const StyleContext& context, QPalette::ColorRole role, const QB
 
 void setForeground(QStyleOption& option, const QBrush& brush)
 {
-    constexpr int MostPalettes = 64;
+    constexpr int BytesOfPalette = 4096;
     // To change one brush of a palette all others are copied, which takes longer than painting.
-    static QCache<PaletteKey, QPalette> sPalettes(MostPalettes);
+    static Kept::Store<PaletteKey, QPalette> sPalettes;
 
     QPalette& palette = option.palette;
     if (palette.brush(QPalette::ButtonText) == brush)
         return;
     const PaletteKey key{palette.cacheKey(), palette.currentColorGroup(), brush};
-    if (const QPalette* known = sPalettes.object(key)) {
+    if (const QPalette* known = sPalettes.find(key)) {
         palette = *known;
         return;
     }
     palette.setBrush(palette.currentColorGroup(), QPalette::ButtonText, brush);
-    sPalettes.insert(key, new QPalette(palette));
+    sPalettes.keep(key, std::make_unique<QPalette>(palette), BytesOfPalette);
 }
 
 QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush)
 {
     if (icon.isNull() || brush.style() == Qt::NoBrush)
         return icon;
-    return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush);
-}
-
-void modifyStyleOptionIcon(QStyleOptionButton& option, const QBrush& brush)
-{
-    option.icon = commonModifyStyleOptionIcon(option.icon, brush);
-}
-
-void modifyStyleOptionIcon(QStyleOptionToolButton& option, const QBrush& brush)
-{
-    option.icon = commonModifyStyleOptionIcon(option.icon, brush);
-}
-
-void modifyStyleOptionIcon(QStyleOptionComboBox& option, const QBrush& brush)
-{
-    option.currentIcon = commonModifyStyleOptionIcon(option.currentIcon, brush);
-}
-
-void modifyStyleOptionIcon(QStyleOptionViewItem& option, const QBrush& brush)
-{
-    option.icon = commonModifyStyleOptionIcon(option.icon, brush);
+    return ThemeIcons::colored(icon, brush);
 }
 
 void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget)

@@ -18,12 +18,6 @@ QBrush foreground(const StyleContext& context);
 /// `icon` in `brush`; as it is for a brush that paints nothing.
 QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush);
 
-/// Recolors the option's icon with `brush`.
-void modifyStyleOptionIcon(QStyleOptionButton& option, const QBrush& brush);
-void modifyStyleOptionIcon(QStyleOptionToolButton& option, const QBrush& brush);
-void modifyStyleOptionIcon(QStyleOptionComboBox& option, const QBrush& brush);
-void modifyStyleOptionIcon(QStyleOptionViewItem& option, const QBrush& brush);
-
 /// Makes `brush` that of the option's texts and arrows, in the current color group of its palette.
 void setForeground(QStyleOption& option, const QBrush& brush);
 

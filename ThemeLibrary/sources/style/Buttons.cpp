@@ -337,11 +337,9 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
         const QRect content(rect.x() + (rect.width() - width) / 2, rect.y(), width, rect.height());
         const QRect iconRect(content.x(), content.y() + (content.height() - iconSize.height()) / 2,
                              iconSize.width(), iconSize.height());
-        const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(button.icon, foreground);
         const QIcon::State state = BaseStyle::isChecked(button) ? QIcon::On : QIcon::Off;
-        context.proxy().drawItemPixmap(
-            &context.painter, context.visual(iconRect), Qt::AlignCenter,
-            Shapes::iconPixmap(context.painter, icon, iconSize, QIcon::Normal, state));
+        Shapes::drawIcon(context, button.icon, foreground, context.visual(iconRect), iconSize,
+                         state);
         rect = context.visual(content.adjusted(iconSize.width() + spacing, 0, 0, 0));
     }
     if (textWidth > rect.width())

@@ -1,4 +1,3 @@
-#include "ButtonContent.h"
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Pictures.h"
@@ -201,9 +200,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
         const QSize size = button.icon.actualSize(button.iconSize);
         const QRect iconRect(rect.x(), rect.y() + (rect.height() - size.height()) / 2, size.width(),
                              size.height());
-        const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(button.icon, foreground);
-        context.proxy().drawItemPixmap(&context.painter, context.visual(iconRect), Qt::AlignCenter,
-                                       Shapes::iconPixmap(context.painter, icon, size));
+        Shapes::drawIcon(context, button.icon, foreground, context.visual(iconRect), size);
         rect = context.visual(rect.adjusted(size.width() + IconSpacing, 0, 0, 0));
     }
     const auto visualFlags = QStyle::visualAlignment(button.direction, Qt::Alignment(flags));

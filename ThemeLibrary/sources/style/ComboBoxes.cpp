@@ -159,9 +159,7 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
         context.painter.fillRect(
             iconRect, OwnColors::ground(context, QPalette::Base,
                                         context.brush(ThemeNames::InputUncheckedBackgroundBrush)));
-    const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(comboBox.currentIcon, brush);
-    context.proxy().drawItemPixmap(&context.painter, iconRect, Qt::AlignCenter,
-                                   Shapes::iconPixmap(context.painter, icon, size));
+    Shapes::drawIcon(context, comboBox.currentIcon, brush, iconRect, size);
     const int taken = size.width() + IconSpacing;
     return context.rightToLeft() ? rect.adjusted(0, 0, -taken, 0) : rect.adjusted(taken, 0, 0, 0);
 }

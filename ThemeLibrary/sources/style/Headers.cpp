@@ -126,10 +126,9 @@ QRect withoutMark(const StyleContext& context, const QStyleOptionHeader& label)
 void paintIcon(const PaintContext& context, const QStyleOptionHeader& label, const QRect& rect)
 {
     const int extent = iconExtent(context, label);
-    const QIcon::Mode mode = context.enabled() ? QIcon::Normal : QIcon::Disabled;
     context.proxy().drawItemPixmap(
         &context.painter, rect, int(QStyle::visualAlignment(label.direction, label.iconAlignment)),
-        Shapes::iconPixmap(context.painter, label.icon, {extent, extent}, mode));
+        Shapes::iconPixmap(context, label.icon, Qt::NoBrush, {extent, extent}));
 }
 
 } // namespace

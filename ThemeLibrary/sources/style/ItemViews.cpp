@@ -225,13 +225,12 @@ void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item
 void paintIcon(const PaintContext& context, const QStyleOptionViewItem& item, const QRect& rect,
                const QBrush& brush)
 {
-    const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(item.icon, brush);
     const QSize size = item.icon.actualSize(item.decorationSize);
     const QIcon::State state = context.has(QStyle::State_Open) ? QIcon::On : QIcon::Off;
     context.proxy().drawItemPixmap(
         &context.painter, rect,
         int(QStyle::visualAlignment(item.direction, item.decorationAlignment)),
-        Shapes::iconPixmap(context.painter, icon, size, QIcon::Normal, state));
+        Shapes::iconPixmap(context, item.icon, brush, size, state));
 }
 
 bool isOneLine(const QStyleOptionViewItem& item, const QRect& rect)

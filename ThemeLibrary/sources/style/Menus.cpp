@@ -125,14 +125,11 @@ void paintMark(const PaintContext& context, const QStyleOptionMenuItem& item, co
     rect.moveCenter(column.center());
     const bool checkable = item.checkType != QStyleOptionMenuItem::NotCheckable;
     if (!item.icon.isNull()) {
-        const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(item.icon, brush);
         const QIcon::State state = item.checked ? QIcon::On : QIcon::Off;
         const int extent = context.metric(QStyle::PM_SmallIconSize);
         if (checkable && item.checked)
             paintMarkBorder(context, rect.adjusted(-2, -2, 2, 2), 2, brush);
-        context.proxy().drawItemPixmap(
-            &context.painter, column, Qt::AlignCenter,
-            Shapes::iconPixmap(context.painter, icon, {extent, extent}, QIcon::Normal, state));
+        Shapes::drawIcon(context, item.icon, brush, column, QSize(extent, extent), state);
     } else if (checkable) {
         const bool exclusive = item.checkType == QStyleOptionMenuItem::Exclusive;
         paintMarkBorder(context, rect, exclusive ? side / 2 : 2, brush);

@@ -1,7 +1,7 @@
 #include "Shapes.h"
 
 #include "Texts.h"
-#include "ThemeColorHelper.h"
+#include "ThemeIcons.h"
 
 #include <QGuiApplication>
 
@@ -37,6 +37,14 @@ PlacedBox placed(const QPainter& painter, const QRectF& rect)
                        QPointF(qRound(covered.right()), qRound(covered.bottom())));
     const qreal scale = qAbs(transform.m11());
     return {transform.inverted().mapRect(whole), qMax(1.0, std::floor(scale)) / scale};
+}
+
+QIcon::Mode iconMode(const StyleContext& context)
+{
+    if (!context.enabled())
+        return QIcon::Disabled;
+    const bool isItem = qstyleoption_cast<const QStyleOptionViewItem*>(&context.option);
+    return isItem && context.has(QStyle::State_Selected) ? QIcon::Selected : QIcon::Normal;
 }
 
 } // namespace
@@ -121,30 +129,19 @@ void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
     context.painter.fillRect(box.rect, brush);
 }
 
-QPixmap iconPixmap(const QPainter& painter, const QIcon& icon, const QSize& size, QIcon::Mode mode,
-                   QIcon::State state)
+QPixmap iconPixmap(const PaintContext& context, const QIcon& icon, const QBrush& brush,
+                   const QSize& size, QIcon::State state)
 {
-    // QIcon itself looks at the ratio only when the application asked for it.
-    const qreal ratio = painter.device() ? painter.device()->devicePixelRatioF() : 1;
-    const qreal known =
-        QGuiApplication::testAttribute(Qt::AA_UseHighDpiPixmaps) ? qGuiApp->devicePixelRatio() : 1;
-    QPixmap pixmap = icon.pixmap(size * (ratio / known), mode, state);
-    const QSize wanted = size * ratio;
-    // A picture of too few pixels keeps its size, as in the toolkit, and loses sharpness.
-    const bool isFine = pixmap.width() >= wanted.width() || pixmap.height() >= wanted.height();
-    pixmap.setDevicePixelRatio(
-        isFine ? ratio : qMax(1.0, ratio * pixmap.width() / qMax(1, wanted.width())));
-    return pixmap;
+    return ThemeIcons::pixmap(context.painter, icon, brush, size, iconMode(context), state);
 }
 
 void drawIcon(const PaintContext& context, const QIcon& icon, const QBrush& brush,
-              const QRect& rect, int size)
+              const QRect& rect, const QSize& size, QIcon::State state)
 {
     if (icon.isNull() || rect.isEmpty())
         return;
-    const QIcon colored = ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, brush);
     context.proxy().drawItemPixmap(&context.painter, rect, Qt::AlignCenter,
-                                   iconPixmap(context.painter, colored, {size, size}));
+                                   iconPixmap(context, icon, brush, size, state));
 }
 
 void drawText(const PaintContext& context, const QRect& rect, int flags, const QString& text,

@@ -39,13 +39,21 @@ QRect visiblePart(const QPainter& painter, const QRect& rect);
 void drawLine(const PaintContext& context, const QPoint& from, const QPoint& to,
               const QBrush& brush);
 
-/// `icon` at `size` logical pixels, as sharp as the painter's device can show it.
-QPixmap iconPixmap(const QPainter& painter, const QIcon& icon, const QSize& size,
-                   QIcon::Mode mode = QIcon::Normal, QIcon::State state = QIcon::Off);
+/// What `icon` shows in `brush`, or in its own colors for a brush that paints nothing, at `size`
+/// logical pixels, as sharp as the painter's device can show it. The pictures that an application
+/// gave its icon for the mode of the control are shown as they are.
+QPixmap iconPixmap(const PaintContext& context, const QIcon& icon, const QBrush& brush,
+                   const QSize& size, QIcon::State state = QIcon::Off);
 
-/// `icon` recolored with `brush`, drawn by the proxy in the middle of `rect`.
+/// That picture, drawn by the proxy in the middle of `rect`.
 void drawIcon(const PaintContext& context, const QIcon& icon, const QBrush& brush,
-              const QRect& rect, int size);
+              const QRect& rect, const QSize& size, QIcon::State state = QIcon::Off);
+
+inline void drawIcon(const PaintContext& context, const QIcon& icon, const QBrush& brush,
+                     const QRect& rect, int side)
+{
+    drawIcon(context, icon, brush, rect, QSize(side, side));
+}
 
 /// `text` in `brush`, drawn by the proxy; what does not fit is elided.
 void drawText(const PaintContext& context, const QRect& rect, int flags, const QString& text,

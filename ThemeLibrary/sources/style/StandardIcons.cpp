@@ -1,7 +1,7 @@
 #include "BaseStyle.h"
 #include "EmbeddedIcons.h"
 #include "Helpers.h"
-#include "ThemeColorHelper.h"
+#include "ThemeIcons.h"
 #include "ThemeValues.h"
 #include "WidgetProperties.h"
 
@@ -103,7 +103,7 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
     const QBrush mainBrush = themeValues().brushes.value(ThemeNames::MainBrush, enabled);
     const QIcon icon = EmbeddedIcons::StyleIcon(name);
     if (!sSpecificIcons.contains(name))
-        return ThemeColorHelper::getModifiedIconWithForegroundBrush(icon, mainBrush);
+        return ThemeIcons::colored(icon, mainBrush);
     const QColor reference(0xF6, 0xB4, 0x36);
     return Helpers::getModifiedIconWithForegroundBrush(icon, reference, mainBrush, false);
 }
@@ -147,11 +147,8 @@ QPixmap BaseStyle::generatedIconPixmap(QIcon::Mode mode, const QPixmap& pixmap,
     // Other widgets than labels get their icons ready for the state before they are painted.
     if (!option || mode != QIcon::Disabled || !qobject_cast<const QLabel*>(option->styleObject))
         return pixmap;
-    const QBrush brush = themeValues().brushes.value(ThemeNames::ForegroundBrush, false);
-    const QIcon icon = ThemeColorHelper::getModifiedIconWithForegroundBrush(QIcon(pixmap), brush);
-    const qreal ratio = pixmap.devicePixelRatioF();
-    return icon.pixmap(int(pixmap.width() / ratio), int(pixmap.height() / ratio), QIcon::Normal,
-                       QIcon::Off);
+    return ThemeIcons::colored(pixmap,
+                               themeValues().brushes.value(ThemeNames::ForegroundBrush, false));
 }
 
 QIcon BaseStyle::generateToolBarExpandButtonIcon(const char* const* xpm,

@@ -1,4 +1,3 @@
-#include "ButtonContent.h"
 #include "Families.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
@@ -353,10 +352,7 @@ void paintIcon(const PaintContext& context, const QStyleOptionTab& tab, const QB
     if (context.rightToLeft() && !isUpright(sideOf(tab.shape)))
         rect.moveLeft(text.right() + 1 + Spacing);
     const QIcon::State state = context.has(QStyle::State_Selected) ? QIcon::On : QIcon::Off;
-    const QIcon icon = ButtonContent::commonModifyStyleOptionIcon(tab.icon, brush);
-    context.proxy().drawItemPixmap(
-        &context.painter, rect, Qt::AlignCenter,
-        Shapes::iconPixmap(context.painter, icon, size, QIcon::Normal, state));
+    Shapes::drawIcon(context, tab.icon, brush, rect, size, state);
 }
 
 /// `rect` without what lies, along the tab, from `button` to the tab's end.

@@ -2,7 +2,7 @@
 #include "Families.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
-#include "ThemeColorHelper.h"
+#include "ThemeIcons.h"
 #include "ThemeNames.h"
 
 // The title bars of sub-windows and docks, and the frames of windows.
@@ -115,11 +115,11 @@ void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& ba
         return;
     const bool isOwn = !bar.icon.isNull();
     const QIcon icon =
-        isOwn ? ButtonContent::commonModifyStyleOptionIcon(bar.icon, captionColor(bar))
+        isOwn ? bar.icon
               : context.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &bar, context.widget);
+    const QBrush brush = isOwn ? QBrush(captionColor(bar)) : QBrush();
     const QSize size = isOwn ? rect.size() : QSize(MenuIconSize, MenuIconSize);
-    context.proxy().drawItemPixmap(&context.painter, rect, Qt::AlignCenter,
-                                   Shapes::iconPixmap(context.painter, icon, size));
+    Shapes::drawIcon(context, icon, brush, rect, size);
 }
 
 /// The theme has no icon for these, and the toolkit's have colors of their own.
@@ -250,9 +250,8 @@ void BaseStyle::drawTitleBarButton(QPainter* painter, const QStyleOptionTitleBar
 
     const QBrush foreground = buttonBrushes(&button, widget).foregroundBrush;
     const QIcon given = standardIcon(icon, nullptr, widget);
-    const QIcon colored = ThemeColorHelper::getModifiedIconWithForegroundBrush(given, foreground);
     const int size = proxy()->pixelMetric(PM_TitleBarButtonIconSize, option, widget);
-    QPixmap pixmap = Shapes::iconPixmap(*painter, colored, {size, size});
+    QPixmap pixmap = ThemeIcons::pixmap(*painter, given, foreground, {size, size});
     if (TitleBars::isToolkitIcon(icon) && !pixmap.isNull()) {
         QPainter tint(&pixmap);
         tint.setCompositionMode(QPainter::CompositionMode_SourceIn);

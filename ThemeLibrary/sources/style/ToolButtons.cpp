@@ -131,9 +131,7 @@ void paintIcon(const PaintContext& context, const QStyleOptionToolButton& button
     }
     const QIcon::State state = BaseStyle::isChecked(button) ? QIcon::On : QIcon::Off;
     const QSize size = button.icon.actualSize(button.iconSize.boundedTo(rect.size()));
-    context.proxy().drawItemPixmap(
-        &context.painter, rect, Qt::AlignCenter,
-        Shapes::iconPixmap(context.painter, button.icon, size, QIcon::Normal, state));
+    Shapes::drawIcon(context, button.icon, Qt::NoBrush, rect, size, state); // has its color
 }
 
 QSize textSize(const QStyleOptionToolButton& button)

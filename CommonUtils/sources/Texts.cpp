@@ -1,12 +1,10 @@
 #include "Texts.h"
 
+#include "Kept.h"
 #include "PainterSaver.h"
 
-#include <QCache>
-#include <QGuiApplication>
 #include <QPaintEngine>
 #include <QPainter>
-#include <QStyle>
 #include <QTextLayout>
 #include <QtMath>
 
@@ -16,7 +14,6 @@ namespace BRELK::Texts {
 
 namespace {
 
-constexpr int KeptLines = 1024;
 constexpr int LongestLine = 128;
 /// Flags that only say where a line goes, or that change nothing in one that is alone.
 constexpr int SimpleFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine
@@ -60,10 +57,10 @@ QVector<QTextLayout::FormatRange> takeMnemonics(QString& text)
     return formats;
 }
 
-Line* layOut(const LineKey& key)
+std::unique_ptr<Line> layOut(const LineKey& key)
 {
     constexpr qreal NoEnd = 0x01000000;
-    auto* line = new Line;
+    auto line = std::make_unique<Line>();
     QString text = key.text;
     if (key.mnemonics)
         line->layout.setFormats(takeMnemonics(text));
@@ -81,41 +78,6 @@ Line* layOut(const LineKey& key)
     return line;
 }
 
-using Lines = QCache<LineKey, Line>;
-
-Lines& keptLines()
-{
-    static Lines sLines(KeptLines);
-    return sLines;
-}
-
-const QGuiApplication*& watchedApplication()
-{
-    static const QGuiApplication* sApplication = nullptr;
-    return sApplication;
-}
-
-void forgetLines()
-{
-    keptLines().clear();
-}
-
-void forgetApplication()
-{
-    forgetLines();
-    watchedApplication() = nullptr;
-}
-
-/// Lines must outlive neither the fonts that the application changes nor the application.
-void watchApplication()
-{
-    if (watchedApplication() == qGuiApp)
-        return;
-    watchedApplication() = qGuiApp;
-    qAddPostRoutine(forgetApplication);
-    QObject::connect(qGuiApp, &QGuiApplication::fontDatabaseChanged, qGuiApp, forgetLines);
-}
-
 bool isSimple(const QPainter& painter, int flags, const QString& text)
 {
     if ((flags & ~SimpleFlags) || flags & Qt::AlignJustify || text.isEmpty()
@@ -130,13 +92,23 @@ bool isSimple(const QPainter& painter, int flags, const QString& text)
 
 const Line& lineOf(const QPainter& painter, int flags, const QString& text)
 {
-    watchApplication();
+    constexpr int BytesOfLine = 2048;
+    constexpr int BytesOfCharacter = 64;
+    static Kept::Store<LineKey, Line> sLines;
     const LineKey key{text, painter.font(), painter.device()->logicalDpiY(),
                       bool(flags & Qt::TextShowMnemonic), painter.layoutDirection()};
-    if (const Line* known = keptLines().object(key))
+    if (const Line* known = sLines.find(key))
         return *known;
-    keptLines().insert(key, layOut(key));
-    return *keptLines().object(key);
+    return *sLines.keep(key, layOut(key), BytesOfLine + text.size() * BytesOfCharacter);
+}
+
+/// As `QStyle::visualAlignment` has it.
+bool isRightAligned(Qt::LayoutDirection direction, int flags)
+{
+    const bool hasSide =
+        flags & (Qt::AlignLeft | Qt::AlignRight) || !(flags & Qt::AlignHorizontal_Mask);
+    const bool isMirrored = hasSide && direction == Qt::RightToLeft && !(flags & Qt::AlignAbsolute);
+    return bool(flags & Qt::AlignRight) != isMirrored;
 }
 
 /// Where a box of `size` goes in `rect`: along the line in fractions of a pixel, as the painter
@@ -144,15 +116,14 @@ const Line& lineOf(const QPainter& painter, int flags, const QString& text)
 /// of a row stand on one line.
 QRectF aligned(const QSizeF& size, Qt::LayoutDirection direction, int flags, const QRectF& rect)
 {
-    const Qt::Alignment alignment = QStyle::visualAlignment(direction, Qt::Alignment(flags));
     QRectF box(rect.topLeft(), size);
-    if (alignment & Qt::AlignRight)
+    if (isRightAligned(direction, flags))
         box.moveRight(rect.right());
-    else if (alignment & Qt::AlignHCenter)
+    else if (flags & Qt::AlignHCenter)
         box.moveLeft(rect.left() + (rect.width() - size.width()) / 2);
-    if (alignment & Qt::AlignBottom)
+    if (flags & Qt::AlignBottom)
         box.moveBottom(rect.bottom());
-    else if (alignment & Qt::AlignVCenter)
+    else if (flags & Qt::AlignVCenter)
         box.moveTop(rect.top() + qFloor((rect.height() - size.height() + 1) / 2));
     return box;
 }

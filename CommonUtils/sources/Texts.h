@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CommonUtilsGlobal.h"
+
 #include <QString>
 
 class QPainter;
@@ -10,13 +12,14 @@ class QRect;
 namespace BRELK::Texts {
 
 /// What QPainter::drawText() does with the same arguments, to the pixel.
-void draw(QPainter& painter, const QRect& rect, int flags, const QString& text);
+VARN_COMMON_UTILS_EXPORT void draw(QPainter& painter, const QRect& rect, int flags,
+                                   const QString& text);
 
 /// The width of `text` in the font of `painter`, that of its longest line if it has several.
-int width(const QPainter& painter, int flags, const QString& text);
+VARN_COMMON_UTILS_EXPORT int width(const QPainter& painter, int flags, const QString& text);
 
 /// `text` as it fits into `width` in the font of `painter`: each of its lines elided.
-QString fitted(const QPainter& painter, const QString& text, Qt::TextElideMode mode, int width,
-               int flags);
+VARN_COMMON_UTILS_EXPORT QString fitted(const QPainter& painter, const QString& text,
+                                        Qt::TextElideMode mode, int width, int flags);
 
 } // namespace BRELK::Texts

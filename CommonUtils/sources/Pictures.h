@@ -1,5 +1,7 @@
 #pragma once
 
+#include "CommonUtilsGlobal.h"
+
 #include <QBrush>
 #include <QRect>
 
@@ -21,8 +23,8 @@ void draw(QPainter& painter, Kind kind, const QRect& rect, const QBrush& brush, 
 using Call = void (*)(const void* paint, QPainter& painter);
 
 /// What `draw` does, for a function whose type is known to `call` alone.
-void drawKept(QPainter& painter, Kind kind, const QRect& rect, const QBrush& brush, Call call,
-              const void* paint);
+VARN_COMMON_UTILS_EXPORT void drawKept(QPainter& painter, Kind kind, const QRect& rect,
+                                       const QBrush& brush, Call call, const void* paint);
 
 template <class Paint>
 void draw(QPainter& painter, Kind kind, const QRect& rect, const QBrush& brush, const Paint& paint)

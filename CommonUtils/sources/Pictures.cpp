@@ -1,8 +1,9 @@
 #include "Pictures.h"
 
-#include <QCache>
+#include "DeviceCoordinates.h"
+#include "Kept.h"
+
 #include <QImage>
-#include <QPaintEngine>
 #include <QPainter>
 
 #include <cmath>
@@ -11,10 +12,7 @@ namespace BRELK::Pictures {
 
 namespace {
 
-constexpr int KeptBytes = 1 << 20;
 constexpr int LargestArea = 1 << 14; ///< device pixels
-/// Places are told apart as finely as Qt's rasterizer does.
-constexpr int Subpixels = 64;
 
 struct Key
 {
@@ -41,16 +39,6 @@ struct Key
         return ::qHash(key.color ^ uint(key.kind) << 24, seed) ^ place ^ shape;
     }
 };
-
-/// Whether what is painted depends on nothing but what a key holds.
-bool canCopy(const QPainter& painter, const QTransform& transform, const QBrush& brush)
-{
-    return painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster
-           && transform.type() <= QTransform::TxScale && transform.m11() > 0 && transform.m22() > 0
-           && painter.opacity() >= 1 && brush.style() == Qt::SolidPattern
-           && (painter.worldMatrixEnabled() || painter.worldTransform().isIdentity())
-           && painter.compositionMode() == QPainter::CompositionMode_SourceOver;
-}
 
 /// What was painted, without what is empty around it.
 struct Picture
@@ -90,54 +78,39 @@ Picture painted(const QRect& rect, const QTransform& transform, bool antialiased
     return {image.copy(visible), visible.topLeft() + around.topLeft() - rect.topLeft()};
 }
 
-/// Copies `image` to `place`, in device pixels.
-void copy(QPainter& painter, const QTransform& transform, const QPoint& place, const QImage& image)
-{
-    if (image.isNull())
-        return;
-    const QPoint origin = transform.map(QPointF()).toPoint();
-    if (transform.type() <= QTransform::TxTranslate
-        && QPointF(origin) == transform.map(QPointF())) {
-        painter.drawImage(place - origin, image);
-        return;
-    }
-    const QTransform world = painter.worldTransform();
-    const bool enabled = painter.worldMatrixEnabled();
-    painter.setWorldTransform(transform.inverted(), true);
-    painter.drawImage(place, image);
-    painter.setWorldTransform(world);
-    painter.setWorldMatrixEnabled(enabled);
-}
-
 } // namespace
 
 void drawKept(QPainter& painter, Kind kind, const QRect& rect, const QBrush& brush, Call call,
               const void* paint)
 {
-    static QCache<Key, Picture> sPictures(KeptBytes);
+    static Kept::Store<Key, Picture> sPictures;
 
-    const QTransform transform = painter.deviceTransform();
-    const QRectF device = transform.mapRect(QRectF(rect));
-    if (!rect.isValid() || !canCopy(painter, transform, brush)
-        || device.width() * device.height() > LargestArea) {
+    const DeviceCoordinates device(painter);
+    const QRectF pixels = device.map(rect);
+    if (!rect.isValid() || !device.canCopy() || brush.style() != Qt::SolidPattern
+        || !DeviceCoordinates::isNear(pixels) || pixels.width() * pixels.height() > LargestArea) {
         call(paint, painter);
         return;
     }
-    const QPoint first(int(std::floor(device.x())), int(std::floor(device.y())));
+    const QPoint first(int(std::floor(pixels.x())), int(std::floor(pixels.y())));
     const Key key{kind,
                   brush.color().rgba(),
                   rect.size(),
-                  transform.m11(),
-                  transform.m22(),
-                  ((device.topLeft() - first) * Subpixels).toPoint(),
+                  device.horizontalScale(),
+                  device.verticalScale(),
+                  ((pixels.topLeft() - first) * Subpixels).toPoint(),
                   painter.testRenderHint(QPainter::Antialiasing)};
-    if (const Picture* known = sPictures.object(key)) {
-        copy(painter, transform, first + known->offset, known->image);
-        return;
+    const Picture* picture = sPictures.find(key);
+    if (!picture) {
+        auto made = std::make_unique<Picture>(
+            painted(pixels.toAlignedRect(), device.transform(), key.antialiased, call, paint));
+        const qint64 bytes = made->image.sizeInBytes();
+        picture = sPictures.keep(key, std::move(made), bytes);
     }
-    const Picture added = painted(device.toAlignedRect(), transform, key.antialiased, call, paint);
-    copy(painter, transform, first + added.offset, added.image);
-    sPictures.insert(key, new Picture(added), int(added.image.sizeInBytes()) + int(sizeof(added)));
+    if (picture->image.isNull())
+        return;
+    const DevicePixels inPixels(painter, device);
+    painter.drawImage(first + picture->offset + inPixels.origin(), picture->image);
 }
 
 } // namespace BRELK::Pictures
