@@ -62,7 +62,7 @@ wear() { # PROGRAM STYLE
     kill $search 2>/dev/null || true
     picture "$name-start"
     for menu in 1 2 3; do
-        press F10
+        press Alt_L
         for _ in $(seq 2 $menu); do press Right; done
         press Down
         picture "$name-menu$menu"
