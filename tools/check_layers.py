@@ -25,7 +25,8 @@ LAYERS = (
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",
                                                      "ProxyStyle_p.*")]
-        + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "Metrics.*", "Polishing.*")]),
+        + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "Metrics.*", "Polishing.*",
+                                "Revocable.*")]),
     (4, FAMILIES, [STYLE + "*"]),
     (1, "theme data", [LIBRARY + "*"]),
     (7, "programs and tests", ["*"]),

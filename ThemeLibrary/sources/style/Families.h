@@ -144,6 +144,8 @@ void paintBarEmptyArea(const PaintContext& context);
 } // namespace Menus
 
 namespace ProgressBars {
+/// Of a busy bar, which a style that goes takes with it.
+void endAnimation(QWidget& bar);
 QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressBar& bar,
                       const QSize& contents, const QSize& base);
 void paintGroove(const PaintContext& context);

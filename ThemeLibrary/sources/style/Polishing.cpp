@@ -1,6 +1,8 @@
 #include "BaseStyle.h"
 #include "ComboBoxDefaultItemDelegate.h"
+#include "Families.h"
 #include "OwnColors.h"
+#include "Revocable.h"
 #include "ThemeValues.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
@@ -18,7 +20,6 @@
 #include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTextCharFormat>
 
 // What polish does to widgets: rows of a question and an action, tried in order on every widget.
 
@@ -28,7 +29,6 @@ namespace {
 
 namespace Properties = WidgetProperties;
 
-constexpr int StatusBarHeight = 34;
 constexpr int ToolBoxButtonHeight = 42;
 
 template <class Widget>
@@ -151,12 +151,12 @@ ThemeNames::FontName tabFontName(const QWidget& tabs)
     else if (Properties::flag(qApp, Properties::AppLargeTabSize))
         name = ThemeNames::LargeFont;
 
-    if (Properties::flag(&tabs, Properties::SmallTabSize))
+    if (Properties::tabFlag(&tabs, Properties::SmallTabSize))
         name = ThemeNames::SmallFont;
-    else if (Properties::flag(&tabs, Properties::BaseTabSize))
+    else if (Properties::tabFlag(&tabs, Properties::BaseTabSize))
         name = ThemeNames::BaseFont;
     // Deliberate: the large size wins over the other two.
-    if (Properties::flag(&tabs, Properties::LargeTabSize))
+    if (Properties::tabFlag(&tabs, Properties::LargeTabSize))
         name = ThemeNames::LargeFont;
     return name;
 }
@@ -179,23 +179,6 @@ void keepPagesFont(BaseStyle&, QWidget& widget)
     QFont font = parent ? parent->font() : QApplication::font();
     font.resolve(QFont::AllPropertiesResolved);
     pages->setFont(font);
-}
-
-/// The raised segments that are the default are drawn, when small, in nothing but their shades.
-void flattenDigits(BaseStyle&, QWidget& widget)
-{
-    auto& number = as<QLCDNumber>(widget);
-    if (number.segmentStyle() == QLCDNumber::Filled)
-        number.setSegmentStyle(QLCDNumber::Flat);
-}
-
-void raiseStatusBar(BaseStyle&, QWidget& widget)
-{
-    widget.setMinimumHeight(StatusBarHeight);
-    // One without a parent is polished by its own layout, which then sets the minimum of a window.
-    if (widget.isWindow())
-        QMetaObject::invokeMethod(
-            &widget, [&widget] { widget.setMinimumHeight(StatusBarHeight); }, Qt::QueuedConnection);
 }
 
 void lightenViewport(BaseStyle&, QWidget& widget)
@@ -354,19 +337,6 @@ void dressRangeSlider(BaseStyle&, QWidget& widget)
     widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::BaseSize));
 }
 
-/// The toolkit's pure red is hard to read on any ground.
-void calmWeekends(BaseStyle&, QWidget& widget)
-{
-    auto& calendar = as<QCalendarWidget>(widget);
-    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
-        QTextCharFormat format = calendar.weekdayTextFormat(day);
-        if (format.foreground() == QBrush(Qt::red)) {
-            format.setForeground(themeValues().colors.value(ThemeNames::StatusDangerColor));
-            calendar.setWeekdayTextFormat(day, format);
-        }
-    }
-}
-
 void watch(BaseStyle& style, QWidget& widget)
 {
     widget.installEventFilter(&style);
@@ -386,7 +356,7 @@ void castShadow(BaseStyle&, QWidget& widget)
 
 void raiseToolBoxButton(BaseStyle&, QWidget& widget)
 {
-    widget.setMinimumHeight(ToolBoxButtonHeight);
+    widget.setMinimumHeight(qMax(widget.minimumHeight(), ToolBoxButtonHeight));
 }
 
 void closeUpToolBox(BaseStyle&, QWidget& widget)
@@ -412,8 +382,8 @@ constexpr PolishRule Rules[] = {
     {tracksHover,                      trackHover},
     {is<QTabWidget>,                   keepPagesFont},
     {WidgetTraits::isTabWidgetOrBar,   setTabFont},
-    {is<QLCDNumber>,                   flattenDigits},
-    {WidgetTraits::isStatusBar,        raiseStatusBar},
+    {is<QLCDNumber>,                   Revocable::flattenDigits},
+    {WidgetTraits::isStatusBar,        Revocable::raiseStatusBar},
     {is<QScrollArea>,                  lightenViewport},
     {hasOwnBackground,                 paintBackground},
     {has<Properties::CardTitle>,       setCardTitleFonts},
@@ -432,9 +402,30 @@ constexpr PolishRule Rules[] = {
     {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},
     {WidgetTraits::isToolBox,          closeUpToolBox},
     {WidgetTraits::isLineEditIconButton, watch},
-    {is<QCalendarWidget>,              calmWeekends},
+    {is<QCalendarWidget>,              Revocable::calmWeekends},
 };
+
 // clang-format on
+
+void forgetHover(QWidget& widget)
+{
+    widget.setAttribute(Qt::WA_Hover, false);
+}
+
+struct UnpolishRule
+{
+    bool (*applies)(const QWidget*);
+    void (*action)(QWidget&);
+};
+
+// Deliberate: all else that polish sets stays.
+constexpr UnpolishRule UnpolishRules[] = {
+    {tracksHover, forgetHover},
+    {is<QLCDNumber>, Revocable::raiseDigits},
+    {is<QCalendarWidget>, Revocable::reddenWeekends},
+    {is<QProgressBar>, ProgressBars::endAnimation},
+    {WidgetTraits::isStatusBar, Revocable::lowerStatusBar},
+};
 
 } // namespace
 
@@ -454,8 +445,10 @@ void BaseStyle::unpolish(QWidget* widget)
     if (!widget)
         return;
     QProxyStyle::unpolish(widget);
-    if (tracksHover(widget))
-        widget->setAttribute(Qt::WA_Hover, false);
+    for (const UnpolishRule& rule : UnpolishRules) {
+        if (rule.applies(widget))
+            rule.action(*widget);
+    }
 }
 
 void BaseStyle::polish(QApplication* app)

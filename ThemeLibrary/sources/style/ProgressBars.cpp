@@ -58,9 +58,13 @@ public:
         auto* bar = qobject_cast<QProgressBar*>(object);
         if (!bar || !isOnScreen(*bar) || !mayMove(*bar))
             return nullptr;
-        const auto* running =
-            bar->findChild<QObject*>(QLatin1String(Name), Qt::FindDirectChildrenOnly);
+        const QObject* running = runningFor(*bar);
         return running ? static_cast<const BusyAnimation*>(running) : new BusyAnimation(*bar);
+    }
+
+    static QObject* runningFor(const QWidget& bar)
+    {
+        return bar.findChild<QObject*>(QLatin1String(Name), Qt::FindDirectChildrenOnly);
     }
 
     /// Where the band stands, from 0 to 1, slowing down at both ends.
@@ -198,6 +202,11 @@ void drawTextIn(const PaintContext& context, const QRect& clip, const QRect& rec
 }
 
 } // namespace
+
+void endAnimation(QWidget& bar)
+{
+    delete BusyAnimation::runningFor(bar);
+}
 
 void paintGroove(const PaintContext& context)
 {
