@@ -38,7 +38,7 @@ Side sideOf(QTabBar::Shape shape)
 
 bool isCurrentTabHighlighted(const StyleContext& context)
 {
-    return context.flag(WidgetProperties::CurrentTabHighlighted)
+    return WidgetProperties::tabFlag(context.widget, WidgetProperties::CurrentTabHighlighted)
            || WidgetProperties::flag(qApp, WidgetProperties::AppCurrentTabHighlighted);
 }
 
@@ -115,17 +115,17 @@ QLine pageEdge(Side side, const QRect& rect)
     }
 }
 
-/// Deliberate: unlike the font, only the bar's own properties decide.
+/// Deliberate: unlike the font, only the properties of the bar and of its tab widget decide.
 ThemeNames::RadiusName radiusName(const QWidget* bar)
 {
-    if (WidgetProperties::flag(bar, WidgetProperties::SmallTabSize))
+    if (WidgetProperties::tabFlag(bar, WidgetProperties::SmallTabSize))
         return ThemeNames::SmallSize;
-    if (WidgetProperties::flag(bar, WidgetProperties::BaseTabSize))
+    if (WidgetProperties::tabFlag(bar, WidgetProperties::BaseTabSize))
         return ThemeNames::BaseSize;
-    if (WidgetProperties::flag(bar, WidgetProperties::MediumTabSize))
+    if (WidgetProperties::tabFlag(bar, WidgetProperties::MediumTabSize))
         return ThemeNames::MediumSize;
-    return WidgetProperties::flag(bar, WidgetProperties::LargeTabSize) ? ThemeNames::LargeSize
-                                                                       : ThemeNames::MediumSize;
+    return WidgetProperties::tabFlag(bar, WidgetProperties::LargeTabSize) ? ThemeNames::LargeSize
+                                                                          : ThemeNames::MediumSize;
 }
 
 bool isTriangular(QTabBar::Shape shape)

@@ -3,6 +3,7 @@
 #include "ThemeNames.h"
 
 #include <QMetaProperty>
+#include <QTabWidget>
 
 #include <array>
 #include <utility>
@@ -76,6 +77,12 @@ QString Reader::kind() const
             return word;
     }
     return {};
+}
+
+bool tabFlag(const QWidget* tabs, const char* property)
+{
+    return flag(tabs, property)
+           || (tabs && flag(qobject_cast<const QTabWidget*>(tabs->parentWidget()), property));
 }
 
 } // namespace BRELK::WidgetProperties

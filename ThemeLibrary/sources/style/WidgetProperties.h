@@ -159,6 +159,9 @@ inline bool flag(const QObject* object, const char* property)
     return Reader(object).flag(property);
 }
 
+/// Of a tab bar or, where it has none, of the tab widget that owns it.
+bool tabFlag(const QWidget* tabs, const char* property);
+
 inline QString text(const QObject* object, const char* property)
 {
     return Reader(object).text(property);
