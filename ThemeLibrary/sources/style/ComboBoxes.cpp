@@ -33,6 +33,24 @@ int arrowExtent(const StyleContext& context, const QRect& box)
     return qMax(box.height(), context.metric(QStyle::PM_MenuButtonIndicator));
 }
 
+/// The width of the longest of the items, or of those around the current one when measuring all
+/// would keep the user waiting.
+int longestItem(const QComboBox& comboBox, const QAbstractItemView& view)
+{
+    constexpr int MostItems = 1000;
+    const int count = comboBox.count();
+    if (count <= MostItems)
+        return view.sizeHintForColumn(comboBox.modelColumn());
+    const int first = qBound(0, comboBox.currentIndex() - MostItems / 2, count - MostItems);
+    int width = 0;
+    for (int row = first; row < first + MostItems; ++row) {
+        const QModelIndex item =
+            comboBox.model()->index(row, comboBox.modelColumn(), comboBox.rootModelIndex());
+        width = qMax(width, view.sizeHintForIndex(item).width());
+    }
+    return width;
+}
+
 /// As wide as the longest item at least; the combo box keeps it on the screen.
 QRect popupRect(const StyleContext& context, const QRect& box)
 {
@@ -44,7 +62,7 @@ QRect popupRect(const StyleContext& context, const QRect& box)
     const int frames = view->frameWidth() + (popup ? popup->frameWidth() : 0);
     const bool scrolls = comboBox->count() > comboBox->maxVisibleItems();
     const int bar = scrolls ? view->verticalScrollBar()->sizeHint().width() : 0;
-    const int width = view->sizeHintForColumn(comboBox->modelColumn()) + 2 * frames + bar;
+    const int width = longestItem(*comboBox, *view) + 2 * frames + bar;
     QRect rect = box;
     rect.setWidth(qMax(qMax(width, box.width()), popup ? popup->minimumWidth() : 0));
     if (context.rightToLeft())

@@ -140,7 +140,7 @@ constexpr Metric Metrics[] = {
     scaled(QStyle::PM_DockWidgetSeparatorExtent, 4),
     scaled(QStyle::PM_DockWidgetHandleExtent, 8),
     pixels(QStyle::PM_DockWidgetFrameWidth, 1),
-    pixels(QStyle::PM_MdiSubWindowFrameWidth, 1),
+    scaled(QStyle::PM_MdiSubWindowFrameWidth, 4),
     scaled(QStyle::PM_MdiSubWindowMinimizedWidth, 196),
 
     // Tool bars

@@ -22,8 +22,10 @@ QFontMetrics MeasureContext::fontMetrics() const
 
 int MeasureContext::dpiScaled(int pixels) const
 {
-    constexpr qreal ReferenceDpi = 96;
-    return qRound(pixels * fontMetrics().fontDpi() / ReferenceDpi);
+    constexpr int ReferenceDpi = 96;
+    if (QApplication::testAttribute(Qt::AA_Use96Dpi))
+        return pixels;
+    return int(pixels * fontMetrics().fontDpi() / ReferenceDpi);
 }
 
 int MeasureContext::rowHeight(int padding) const

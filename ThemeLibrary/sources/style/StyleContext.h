@@ -25,7 +25,8 @@ struct MeasureContext
     /// The metrics of the font that the control is drawn in.
     QFontMetrics fontMetrics() const;
 
-    /// `pixels` of a screen of 96 dots per inch in those that the font is measured in.
+    /// `pixels` of a screen of 96 dots per inch in those that the font is measured in, rounded
+    /// down as the toolkit does: at 100 dots, icons of 16 pixels stay sharp.
     int dpiScaled(int pixels) const;
 
     /// The height of a line of text with `padding` (of 96 dots per inch) above and below, on the
