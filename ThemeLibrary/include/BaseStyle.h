@@ -59,7 +59,10 @@ public:
     /// "fusion".
     const QPalette& getPalette() const { return m_palette; }
 
+    // Defined in BaseStyle.cpp
     bool event(QEvent* event) override;
+
+    // Defined in EventFilter.cpp and Polishing.cpp; the rest of polishing in BaseStyle.cpp
     bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// Fits `widget` to the theme; safe to call again. What it sets stays when the widget is
@@ -72,12 +75,14 @@ public:
     void polish(QPalette& palette) override;
     QPalette standardPalette() const override;
 
+    // Defined in BaseStyle.cpp
     /// Disabled text is not etched: only its brush tells.
     void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
                       bool enabled, const QString& text,
                       QPalette::ColorRole role = QPalette::NoRole) const override;
     void drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
                         const QPixmap& pixmap) const override;
+    // Defined in Dispatch.cpp, which names the function of the family
     void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                        const QWidget* widget = nullptr) const override;
     void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -88,14 +93,17 @@ public:
                             QPainter* painter, const QWidget* widget = nullptr) const override;
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
                          const QWidget* widget = nullptr) const override;
-    int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
-                    const QWidget* widget = nullptr) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& contents,
                            const QWidget* widget = nullptr) const override;
+
+    // Defined in Metrics.cpp and StyleHints.cpp
+    int pixelMetric(PixelMetric metric, const QStyleOption* option = nullptr,
+                    const QWidget* widget = nullptr) const override;
     int styleHint(StyleHint hint, const QStyleOption* option = nullptr,
                   const QWidget* widget = nullptr,
                   QStyleHintReturn* returnData = nullptr) const override;
 
+    // Defined in StandardIcons.cpp
     /// The theme's icons for Qt's own; null where the icon theme lacks one. `SP_CustomBase` gives
     /// the icon that the widget names in its property "highlightedIcon", in the theme's main color.
     QIcon standardIcon(StandardPixmap pixmap, const QStyleOption* option = nullptr,
@@ -131,6 +139,8 @@ public:
     void drawGrips(QPainter& painter, Qt::Orientation orientation, int from, int to, int pos,
                    int step, int size, int darkSize) const;
 
+    // Defined in the family of what they draw: CheckBoxes, ButtonGroups, TitleBars, ToolButtons and
+    // Frames
     /// The tick of a check box, in `brush`.
     void drawCheckMark(QPainter* painter, const QRect& rect, QBrush brush) const;
     /// The dot of a radio button, in `brush`.
@@ -161,6 +171,7 @@ public:
     /// The theme brush "CardBorderBrush", cached for the life of the process.
     static const QBrush& getBorderBrush(bool enabled);
 
+    // Defined in ButtonBrushes.cpp
     /// The brushes of a button-like control in its state, from theme brushes whose names are
     /// composed of what the widget is and how it stands. `option` must not be null; without a
     /// widget its properties count as absent.
@@ -193,6 +204,8 @@ public Q_SLOTS:
     void setPalette(const QPalette& palette);
 
 private:
+    void forgetWindow(const QObject* window);
+
     QPalette m_palette;
     QBrush m_expanderHeaderBrush;
     QBrush m_windowBackgroundBrush;

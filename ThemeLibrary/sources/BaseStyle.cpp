@@ -1,9 +1,11 @@
 #include "BaseStyle.h"
 
+#include "Texts.h"
 #include "ThemeResources.h"
 #include "ThemeValues.h"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QPainter>
 #include <QStyleOption>
 
@@ -66,6 +68,33 @@ QBrush BaseStyle::getBrush(QString name, bool enabled)
 QColor BaseStyle::getColor(QString name, bool enabled)
 {
     return ThemeResources::getColor(enabled ? name : ThemeNames::twin(name));
+}
+
+// NOLINTNEXTLINE(readability-function-size): Qt's
+void BaseStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
+                             const QPalette& palette, bool, const QString& text,
+                             QPalette::ColorRole role) const
+{
+    if (!painter || text.isEmpty())
+        return;
+    const QPen pen = painter->pen();
+    if (role != QPalette::NoRole)
+        painter->setPen(QPen(palette.brush(role), pen.widthF()));
+    Texts::draw(*painter, rect, flags, text);
+    painter->setPen(pen);
+}
+
+void BaseStyle::drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
+                               const QPixmap& pixmap) const
+{
+    if (!painter || pixmap.isNull())
+        return;
+    const QRect place = alignedRect(QGuiApplication::layoutDirection(), Qt::Alignment(alignment),
+                                    pixmap.size() / pixmap.devicePixelRatio(), rect);
+    if (rect.contains(place)) // as most do: copying all of a pixmap is quicker than copying a part
+        painter->drawPixmap(place.topLeft(), pixmap);
+    else
+        QProxyStyle::drawItemPixmap(painter, rect, alignment, pixmap);
 }
 
 BaseStyle::ButtonBackgroundState

@@ -11,6 +11,8 @@
 #include <QMenuBar>
 #include <QToolButton>
 
+#include <algorithm>
+
 namespace {
 
 /// What the style last gave to a button: setting an icon repaints the button, so it is set only
@@ -121,17 +123,14 @@ bool BaseStyle::eventFilter(QObject* watched, QEvent* event)
     if (!widget || !event)
         return QObject::eventFilter(watched, event);
 
-    // A window that is deleted unclosed must not speak for the next one at its address.
-    const auto forgetWhenDeleted = [this](const QWidget* window) {
-        connect(window, &QObject::destroyed, this, [this, window] { m_seenAlt.removeAll(window); });
-    };
     switch (event->type()) {
     case QEvent::Paint: colorIconBeforePaint(*widget); break;
     case QEvent::KeyPress:
         if (isAlt(*event)) {
             const QWidget* window = widget->window();
-            if (!m_seenAlt.contains(window))
-                forgetWhenDeleted(window);
+            // One that is deleted unclosed must not speak for the next at its address.
+            connect(window, &QObject::destroyed, this, &BaseStyle::forgetWindow,
+                    Qt::UniqueConnection);
             m_seenAlt.append(window);
             m_alt_down = true;
             updateMnemonics(*widget->window());
@@ -151,6 +150,11 @@ bool BaseStyle::eventFilter(QObject* watched, QEvent* event)
     default: break;
     }
     return QObject::eventFilter(watched, event);
+}
+
+void BaseStyle::forgetWindow(const QObject* window)
+{
+    m_seenAlt.erase(std::remove(m_seenAlt.begin(), m_seenAlt.end(), window), m_seenAlt.end());
 }
 
 bool BaseStyle::hasSeenAlt(const QWidget* widget) const

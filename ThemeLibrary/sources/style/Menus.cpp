@@ -77,6 +77,12 @@ QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem&, co
 
 namespace {
 
+/// Of the popup of a combo box that a menu's delegate paints.
+bool isComboBoxItem(const QStyleOptionMenuItem& item)
+{
+    return WidgetProperties::flag(item.styleObject, WidgetProperties::IsComboBoxPopupItem);
+}
+
 bool isSelected(const StyleContext& context)
 {
     return context.has(QStyle::State_Selected) && context.enabled();
@@ -184,7 +190,7 @@ QBrush itemBrush(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
     if (isSelected(context))
         return selectedBrush(context);
-    if (context.flag(WidgetProperties::IsComboBoxPopupItem)) {
+    if (isComboBoxItem(item)) {
         const QBrush themed = BaseStyle::buttonBrushes(&item, context.widget).foregroundBrush;
         if (!OwnColors::has(context, QPalette::Text) && themed.style() != Qt::NoBrush)
             return themed;
@@ -231,7 +237,7 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
     const PainterSaver saver(context.painter);
     if (isSelected(context))
         context.painter.fillRect(item.rect, selectionBrush(context));
-    else if (context.flag(WidgetProperties::IsComboBoxPopupItem))
+    else if (isComboBoxItem(item))
         context.painter.fillRect(item.rect, context.brush(ThemeNames::BackgroundSubLevel1Brush));
     if (item.menuItemType == QStyleOptionMenuItem::Separator) {
         paintSeparator(context, item);
@@ -260,8 +266,9 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 
 void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item)
 {
-    // The base style fills it with the color of buttons and draws two dashed lines, a dark and a
-    // light one: here the color of menus and one line like that of separators.
+    // Deliberate: the base style gets an option made ready for it. It fills the row with the color
+    // of buttons and draws two dashed lines, a dark and a light one: here the color of menus and
+    // one line like that of separators.
     const QBrush fill = OwnColors::ground(
         context, QPalette::Base, themeValues().brushes.value(ThemeNames::BackgroundSubLevel1Brush));
     QStyleOptionMenuItem tearoff = item;

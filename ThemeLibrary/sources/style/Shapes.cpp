@@ -149,6 +149,11 @@ void drawText(const PaintContext& context, const QRect& rect, int flags, const Q
 {
     if (text.isEmpty() || rect.isEmpty())
         return;
+    const bool hidesMnemonics = flags & Qt::TextShowMnemonic
+                                && !context.proxy().styleHint(QStyle::SH_UnderlineShortcut,
+                                                              &context.option, context.widget);
+    if (hidesMnemonics)
+        flags |= Qt::TextHideMnemonic;
     const QString shown = Texts::fitted(context.painter, text, elide, rect.width(), flags);
     const QPen pen = context.painter.pen();
     context.painter.setPen(QPen(brush, 1));
@@ -186,34 +191,3 @@ void drawGrips(const PaintContext& context, Qt::Orientation orientation, int fro
 }
 
 } // namespace BRELK::Shapes
-
-namespace BRELK {
-
-// NOLINTNEXTLINE(readability-function-size): Qt's
-void BaseStyle::drawItemText(QPainter* painter, const QRect& rect, int flags,
-                             const QPalette& palette, bool, const QString& text,
-                             QPalette::ColorRole role) const
-{
-    if (!painter || text.isEmpty())
-        return;
-    const QPen pen = painter->pen();
-    if (role != QPalette::NoRole)
-        painter->setPen(QPen(palette.brush(role), pen.widthF()));
-    Texts::draw(*painter, rect, flags, text);
-    painter->setPen(pen);
-}
-
-void BaseStyle::drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
-                               const QPixmap& pixmap) const
-{
-    if (!painter || pixmap.isNull())
-        return;
-    const QRect place = alignedRect(QGuiApplication::layoutDirection(), Qt::Alignment(alignment),
-                                    pixmap.size() / pixmap.devicePixelRatio(), rect);
-    if (rect.contains(place)) // as most do: copying all of a pixmap is quicker than copying a part
-        painter->drawPixmap(place.topLeft(), pixmap);
-    else
-        QProxyStyle::drawItemPixmap(painter, rect, alignment, pixmap);
-}
-
-} // namespace BRELK

@@ -55,7 +55,8 @@ inline void drawIcon(const PaintContext& context, const QIcon& icon, const QBrus
     drawIcon(context, icon, brush, rect, QSize(side, side));
 }
 
-/// `text` in `brush`, drawn by the proxy; what does not fit is elided.
+/// `text` in `brush`, drawn by the proxy; what does not fit is elided. Mnemonics are underlined as
+/// the style hint for it says.
 void drawText(const PaintContext& context, const QRect& rect, int flags, const QString& text,
               const QBrush& brush, Qt::TextElideMode elide = Qt::ElideRight);
 

@@ -369,8 +369,9 @@ void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
 
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
 {
-    // The base style draws notches that dark or light grounds swallow, and a face with shades,
-    // which a flat one covers; a disabled one casts no shadow around it.
+    // Deliberate: the base style gets an option made ready for it. It draws notches that dark or
+    // light grounds swallow, and a face with shades, which a flat one covers; a disabled one casts
+    // no shadow around it.
     QStyleOptionSlider copy = dial;
     copy.palette.setBrush(copy.palette.currentColorGroup(), QPalette::Dark,
                           dial.palette.brush(QPalette::WindowText));

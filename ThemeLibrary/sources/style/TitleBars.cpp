@@ -209,7 +209,8 @@ void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& opti
 void paintMdiControls(const PaintContext& context, const QStyleOptionComplex& controls)
 {
     context.drawByBase(QStyle::CC_MdiControls, controls);
-    // The base style shows the icons as it gets them, which is too pale on light buttons.
+    // Deliberate: the base style's icons are drawn over. It shows them as it gets them, which is
+    // too pale on light buttons.
     constexpr std::pair<QStyle::SubControl, QStyle::StandardPixmap> Icons[] = {
         {QStyle::SC_MdiCloseButton, QStyle::SP_TitleBarCloseButton},
         {QStyle::SC_MdiNormalButton, QStyle::SP_TitleBarNormalButton},

@@ -1,6 +1,7 @@
 #include "ButtonContent.h"
 #include "Families.h"
 #include "OwnColors.h"
+#include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
@@ -62,7 +63,7 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
     }
     Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), context.borderBrush());
     if (leavesLabelToSheet(context)) {
-        paintTabLabel(context, tab);
+        context.draw(QStyle::CE_ToolBoxTabLabel, tab);
         // Deliberate: the button draws nothing after this but the sheet's label.
         context.painter.setClipRect(QRect());
     }
@@ -72,12 +73,13 @@ void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab)
 {
     constexpr int Padding = 10;
     constexpr int IconSpacing = 8;
+    const PainterSaver saver(context.painter); // the base style leaves the selected tab's font
     const int iconSize = context.metric(QStyle::PM_SmallIconSize);
     const QBrush brush =
         OwnColors::words(context, QPalette::ButtonText, QPalette::Button, tabBrush(context));
     QRect textRect = tab.rect.adjusted(Padding, 0, -Padding, 0);
-    // The base style draws the icon as it gets it and does not mirror, so it gets the two parts one
-    // by one.
+    // Deliberate: the base style draws the icon as it gets it and does not mirror, so it gets the
+    // two parts one by one.
     if (!tab.icon.isNull()) {
         QStyleOptionToolBox icon = tab;
         icon.text.clear();
