@@ -1,15 +1,17 @@
 #pragma once
 
-#include "BaseThemeSettings.h"
 #include "Theme.h"
 
 #include <QPalette>
 
 #include <functional>
+#include <memory>
 
 class QStyle;
 
 namespace BRELK {
+
+class BaseThemeSettings;
 
 /// A theme that is read from a directory.
 ///
@@ -22,6 +24,7 @@ class VARN_COMMON_THEME_EXPORT BaseTheme : public Theme
 public:
     /// Reads `theme.xml` of the directory `themePath`; the other files are read by `customize`.
     explicit BaseTheme(const QString& themePath);
+    ~BaseTheme() override;
 
     QString getName() const override;
 
@@ -51,7 +54,7 @@ private:
     void apply(QApplication* app, const UseStyle& useStyle);
 
     QString m_themePath;
-    BaseThemeSettings m_settings;
+    std::unique_ptr<const BaseThemeSettings> m_settings;
     QString m_error;
 };
 

@@ -2,6 +2,7 @@
 
 #include "AppliedThemes.h"
 #include "BaseStyle.h"
+#include "BaseThemeSettings.h"
 #include "BaseTheme_p.h"
 #include "EmbeddedIcons.h"
 #include "QPaletteReader.h"
@@ -151,12 +152,15 @@ QPalette basePalette()
 Theme::~Theme() = default;
 
 BaseTheme::BaseTheme(const QString& themePath)
-    : m_themePath(themePath), m_settings(themePath + QLatin1String("/theme.xml"))
+    : m_themePath(themePath)
+    , m_settings(new BaseThemeSettings(themePath + QLatin1String("/theme.xml")))
 { }
+
+BaseTheme::~BaseTheme() = default;
 
 QString BaseTheme::getName() const
 {
-    return m_settings.getName();
+    return m_settings->getName();
 }
 
 void BaseTheme::customize(QApplication* app)
@@ -190,7 +194,7 @@ QPalette BaseTheme::getPalette(const QPalette& base) const
 void BaseTheme::apply(QApplication* app, const UseStyle& useStyle)
 {
     m_error.clear();
-    if (m_settings.getStatus() != BaseThemeSettings::NO_ERROR)
+    if (m_settings->getStatus() != BaseThemeSettings::NO_ERROR)
         m_error = QLatin1String("Error reading theme configuration file ") + m_themePath
                   + QLatin1String("/theme.xml");
     else if (!app)
