@@ -5,6 +5,8 @@
 #include "ThemeIcons.h"
 #include "ThemeNames.h"
 
+#include <QMdiSubWindow>
+
 // The title bars of sub-windows and docks, and the frames of windows.
 
 namespace BRELK::TitleBars {
