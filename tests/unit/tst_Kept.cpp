@@ -16,7 +16,7 @@ namespace {
 /// Everything that what is kept may depend on. A test changes one thing at a time.
 struct Look
 {
-    QString text = QStringLiteral("&Text");
+    QString text = QStringLiteral("&Text!");
     QFont font;
     int dotsPerInch = 96;
     Qt::LayoutDirection direction = Qt::LeftToRight;
@@ -162,13 +162,10 @@ private Q_SLOTS:
     {
         QTest::addColumn<Change>("change");
         const auto row = [](const char* name, Change change) { QTest::newRow(name) << change; };
-        row("text", [](Look& look) { look.text = QStringLiteral("&Tent"); });
+        row("text", [](Look& look) { look.text = QStringLiteral("&Tent!"); });
         row("font", [](Look& look) { look.font.setBold(true); });
         row("resolution", [](Look& look) { look.dotsPerInch = 144; });
-        row("direction", [](Look& look) {
-            look.text += QLatin1Char('!');
-            look.direction = Qt::RightToLeft;
-        });
+        row("direction", [](Look& look) { look.direction = Qt::RightToLeft; });
         row("mnemonics", [](Look& look) { look.flags = 0; });
         row("width", [](Look& look) { look.rect.setWidth(41); });
         row("height", [](Look& look) { look.rect.setHeight(21); });
