@@ -64,6 +64,16 @@ QImage onFineScreen(const QSize& size, const std::function<void(QPainter*)>& pai
     return image;
 }
 
+/// What is painted as a pixmap, and where.
+QByteArrayList iconsOf(const QByteArray& look)
+{
+    QByteArrayList icons;
+    for (const QByteArray& line : look.split('\n'))
+        if (line.startsWith("pixmap"))
+            icons.append(line.left(line.indexOf(" brush")));
+    return icons;
+}
+
 void addLook(LookSheet& sheet, const Element& element, const QByteArray& words = {},
              const Settings& settings = {})
 {
@@ -168,6 +178,7 @@ private Q_SLOTS:
                 };
                 if (element.name == QByteArray("CE_Header"))
                     continue; // its sort mark is Fusion's
+                QCOMPARE(iconsOf(drawnAtRatio(Fine, paint)), iconsOf(drawn(paint)));
                 QVERIFY2(!drawnAtRatio(Fine, paint).contains("blurred"), element.name);
                 if (pens.contains(element.name))
                     continue;

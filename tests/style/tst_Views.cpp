@@ -111,7 +111,8 @@ private Q_SLOTS:
         for (const int index : {0, 1}) {
             QStyleOptionViewItem row = rowOf(list);
             row.index = model.index(index, 0);
-            QCOMPARE(drawn(QStyle::CE_ItemViewItem, row, &list).count("pixmap"), 1 - index);
+            QCOMPARE(drawn(QStyle::CE_ItemViewItem, row, &list).count("pixmap chevron.right"),
+                     1 - index);
         }
         QVERIFY(list.sizeHintForIndex(model.index(0, 0)).width()
                 > list.sizeHintForIndex(model.index(1, 0)).width());

@@ -307,6 +307,7 @@ void setField(QStyleOption& option, const QByteArray& name, int value)
         &QStyleOptionViewItem::features);
     set("menuItemType", &QStyleOptionMenuItem::menuItemType);
     set("position", &QStyleOptionTab::position);
+    set("tabWidth", &QStyleOptionMenuItem::tabWidth);
     set("titleBarState", &QStyleOptionTitleBar::titleBarState);
 }
 
