@@ -1,16 +1,37 @@
-# Installs the build tree BUILD below WORK, builds the project CONSUMER against what was installed, and runs it.
+# Builds and runs the project CONSUMER against the build tree BUILD and against what that installs, by CMake and by
+# pkg-config. All of it below WORK.
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(result)
         message(FATAL_ERROR "${ARGN}: ${result}\n${output}")
     endif()
+    set(output "${output}" PARENT_SCOPE)
+endfunction()
+
+function(adopt way)
+    run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${WORK}/${way} -G ${GENERATOR} -DCMAKE_CXX_FLAGS=${FLAGS}
+        -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 ${ARGN})
+    run(${CMAKE_COMMAND} --build ${WORK}/${way})
+    run(${WORK}/${way}/consumer)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
+adopt(build-tree -DVarn_DIR=${BUILD}/${LIBDIR}/cmake/Varn)
+
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
 # Moved, so that nothing can lean on the place it was installed to.
 file(RENAME ${WORK}/prefix ${WORK}/moved)
-run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${WORK}/build -G ${GENERATOR} -DCMAKE_PREFIX_PATH=${WORK}/moved
-    -DCMAKE_CXX_FLAGS=${FLAGS} -DCMAKE_BUILD_TYPE=Debug)
-run(${CMAKE_COMMAND} --build ${WORK}/build)
-run(${WORK}/build/consumer)
+set(prefix ${WORK}/moved)
+adopt(installed -DCMAKE_PREFIX_PATH=${prefix})
+
+find_program(PKG_CONFIG NAMES pkg-config pkgconf)
+if(PKG_CONFIG)
+    set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
+    run(${PKG_CONFIG} --variable=themesdir varn-common-theme)
+    string(STRIP "${output}" themes)
+    run(${PKG_CONFIG} --cflags --libs varn-common-theme)
+    separate_arguments(flags UNIX_COMMAND "${FLAGS} ${output}")
+    run(${CXX} -std=c++17 -fPIC -DTHEMES_DIR="${themes}" ${CONSUMER}/main.cpp -o ${WORK}/by-pkg-config
+        ${flags} -Wl,-rpath,${prefix}/${LIBDIR})
+    run(${WORK}/by-pkg-config)
+endif()
