@@ -200,10 +200,10 @@ void paintSegment(const PaintContext& context, const BaseStyle::ButtonBrushes& b
         context.painter.translate(2 * context.option.rect.x() + context.option.rect.width(), 0);
         context.painter.scale(-1, 1);
     }
-    QPen pen = Shapes::borderPen(brushes.borderBrush);
-    const QRectF rect = Shapes::middleOfBorder(context.painter, segmentRect(context), pen);
-    context.painter.setPen(pen);
-    context.style.drawButtonGroup(rect, &context.painter, &context.option,
+    const Shapes::Border border =
+        Shapes::borderInside(context.painter, segmentRect(context), brushes.borderBrush);
+    context.painter.setPen(border.pen);
+    context.style.drawButtonGroup(border.line, &context.painter, &context.option,
                                   Shapes::cornerRadius(ThemeNames::BaseSize), brushes,
                                   context.widget);
 }
@@ -239,14 +239,9 @@ void paintDefaultFrame(const PaintContext& context)
 {
     if (!BaseStyle::isFlatButton(&context.option))
         return;
-    const PainterSaver saver(context.painter);
-    const QRectF rect = Shapes::onPixels(context.option.rect);
-    const int radius = panelRadius(context, context.option.rect);
-    context.painter.setRenderHint(QPainter::Antialiasing);
-    context.painter.setPen(
-        Shapes::borderPen(BaseStyle::buttonBrushes(&context.option, context.widget).borderBrush));
-    context.painter.setBrush(Qt::NoBrush);
-    context.painter.drawRoundedRect(rect, radius, radius);
+    const QRect& rect = context.option.rect;
+    Shapes::drawBox(context, rect, panelRadius(context, rect), Qt::NoBrush,
+                    BaseStyle::buttonBrushes(&context.option, context.widget).borderBrush);
 }
 
 void paintPanel(const PaintContext& context)

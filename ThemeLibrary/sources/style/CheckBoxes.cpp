@@ -160,8 +160,7 @@ void paintRadioIndicator(const PaintContext& context)
     Shapes::drawBox(context, rect, qMin(rect.width(), rect.height()) / 2, brushes.background,
                     brushes.border);
     if (context.flag(WidgetProperties::DrawErrorIndicator)) // seen without colors too
-        Shapes::drawBox(context, rect.adjusted(1, 1, -1, -1), rect.height() / 2, Qt::NoBrush,
-                        brushes.border);
+        Shapes::drawInnerBorder(context, rect, rect.height() / 2, brushes.border);
     if (context.has(QStyle::State_On))
         context.style.drawRadioMark(&context.painter, rect.adjusted(2, 2, -2, -2), brushes.mark);
 }

@@ -191,8 +191,7 @@ void paintFocusBorder(const PaintContext& context, const QStyleOptionComboBox& c
     const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
     if (!hasError && !comboBox.editable)
         Shapes::drawBox(context, comboBox.rect, radius, Qt::NoBrush, border);
-    Shapes::drawBox(context, comboBox.rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush,
-                    border);
+    Shapes::drawInnerBorder(context, comboBox.rect, radius, border);
 }
 
 } // namespace

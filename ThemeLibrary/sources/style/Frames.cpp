@@ -93,11 +93,11 @@ void paintFocusRect(const PaintContext& context)
     if (context.flag(WidgetProperties::HideFocusRect)
         || !context.has(QStyle::State_KeyboardFocusChange))
         return;
-    QPen pen(context.option.palette.color(QPalette::Text), 0, Qt::SolidLine, Qt::SquareCap,
-             Qt::BevelJoin);
+    const QColor color = context.option.palette.color(QPalette::Text);
+    QPen pen(color, 0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
     pen.setDashPattern({Dash, Dash});
-    Helpers::drawRoundedBox(Shapes::onPixels(context.option.rect), Radius, Helpers::None, pen,
-                            Qt::NoBrush, &context.painter);
+    const Shapes::Border border = Shapes::borderInside(context.painter, context.option.rect, color);
+    Helpers::drawRoundedBox(border.line, Radius, Helpers::None, pen, Qt::NoBrush, &context.painter);
 }
 
 void paintToolTip(const PaintContext& context)

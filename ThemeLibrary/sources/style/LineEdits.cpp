@@ -130,8 +130,7 @@ void paintFocusBorder(const PaintContext& context, const QRect& rect, int radius
                       const QBrush& border)
 {
     if (context.has(QStyle::State_HasFocus) && rect.height() > 2)
-        Shapes::drawBox(context, rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush,
-                        border);
+        Shapes::drawInnerBorder(context, rect, radius, border);
 }
 
 /// The frame of a scroll area fills what lies between its bars, too.

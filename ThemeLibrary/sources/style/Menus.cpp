@@ -228,8 +228,7 @@ void paintPanel(const PaintContext& context)
     qDrawPlainRect(&context.painter, rect, border, 1, &fill);
     // On a dark screen a darker edge is not seen: there a light one lies inside it.
     if (fill.style() == Qt::SolidPattern && !Shapes::isLight(fill.color()))
-        Shapes::drawBox(context, rect.adjusted(1, 1, -1, -1), 0, Qt::NoBrush,
-                        BaseStyle::getBorderBrush(true));
+        Shapes::drawInnerBorder(context, rect, 0, BaseStyle::getBorderBrush(true));
 }
 
 void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)

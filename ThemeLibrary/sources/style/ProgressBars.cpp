@@ -174,15 +174,6 @@ QBrush fillBrush(const PaintContext& context)
     return highlight;
 }
 
-/// `rect` runs through the middle of the border.
-void drawShape(const PaintContext& context, const QRectF& rect, const QBrush& brush,
-               Helpers::StraightCornerFlags corners)
-{
-    Shapes::drawBox(context, rect.adjusted(-0.5, -0.5, 0.5, 0.5),
-                    Shapes::cornerRadius(ThemeNames::BaseSize), brush,
-                    context.borderBrush().color(), corners);
-}
-
 /// Text in one brush where it lies in `clip`.
 void drawTextIn(const PaintContext& context, const QRect& clip, const QRect& rect,
                 const QString& text, QPalette::ColorRole role)
@@ -210,18 +201,21 @@ void endAnimation(QWidget& bar)
 
 void paintGroove(const PaintContext& context)
 {
-    drawShape(context, Shapes::onPixels(context.option.rect),
-              context.style.grooveBackgroundBrush(context.enabled()), Helpers::None);
+    Shapes::drawBox(context, context.option.rect, Shapes::cornerRadius(ThemeNames::BaseSize),
+                    context.style.grooveBackgroundBrush(context.enabled()),
+                    context.borderBrush().color());
 }
 
 void paintContents(const PaintContext& context, const QStyleOptionProgressBar& bar)
 {
-    const QRectF rect = Shapes::onPixels(bar.rect);
-    const QRectF filled = filledRect(bar, rect);
-    if (filled.width() < 1 || filled.height() < 1)
+    const QRectF rect = bar.rect;
+    const QRectF grown = filledRect(bar, rect.adjusted(0, 0, -1, -1));
+    if (grown.width() < 1 || grown.height() < 1)
         return;
+    const QRectF filled = grown.adjusted(0, 0, 1, 1); // with its border
     const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
-    drawShape(context, filled, fillBrush(context), growingCorners(bar, rect, filled, radius));
+    Shapes::drawBox(context, filled, radius, fillBrush(context), context.borderBrush().color(),
+                    growingCorners(bar, rect, filled, radius));
 }
 
 void paintLabel(const PaintContext& context, const QStyleOptionProgressBar& bar)

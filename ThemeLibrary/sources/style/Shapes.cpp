@@ -23,6 +23,12 @@ struct PlacedBox
 {
     QRectF rect;
     qreal border;
+
+    QRectF inside(qreal borders) const
+    {
+        const qreal inset = borders * border;
+        return rect.adjusted(inset, inset, -inset, -inset);
+    }
 };
 
 PlacedBox placed(const QPainter& painter, const QRectF& rect)
@@ -49,25 +55,12 @@ QIcon::Mode iconMode(const StyleContext& context)
 
 } // namespace
 
-QRectF onPixels(const QRect& rect)
-{
-    return QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5);
-}
-
-QRectF middleOfBorder(const QPainter& painter, const QRectF& rect, QPen& pen)
+Border borderInside(const QPainter& painter, const QRectF& rect, const QBrush& brush)
 {
     const PlacedBox box = placed(painter, rect);
-    if (box.border < 1)
-        pen.setWidthF(box.border);
-    const qreal half = box.border / 2;
-    return box.rect.adjusted(half, half, -half, -half);
-}
-
-QPen borderPen(const QBrush& border)
-{
-    if (border.style() == Qt::NoBrush)
-        return {Qt::NoPen};
-    return {border, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
+    if (brush.style() == Qt::NoBrush)
+        return {box.rect, QPen(Qt::NoPen)};
+    return {box.inside(0.5), {brush, box.border, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin}};
 }
 
 int cornerRadius(ThemeNames::RadiusName name)
@@ -78,20 +71,21 @@ int cornerRadius(ThemeNames::RadiusName name)
 void drawBox(const PaintContext& context, const QRectF& rect, int radius, const QBrush& fill,
              const QBrush& border, Helpers::StraightCornerFlags straightCorners)
 {
-    const bool hasBorder = border.style() != Qt::NoBrush;
-    if (!hasBorder && fill.style() == Qt::NoBrush)
+    if (border.style() == Qt::NoBrush && fill.style() == Qt::NoBrush)
         return;
-    QPen pen = borderPen(border);
-    const QRectF shape =
-        hasBorder ? middleOfBorder(context.painter, rect, pen) : placed(context.painter, rect).rect;
-    Helpers::drawRoundedBox(shape, radius, straightCorners, pen, fill, &context.painter);
+    const Border edge = borderInside(context.painter, rect, border);
+    Helpers::drawRoundedBox(edge.line, radius, straightCorners, edge.pen, fill, &context.painter);
+}
+
+void drawInnerBorder(const PaintContext& context, const QRect& rect, int radius,
+                     const QBrush& border)
+{
+    drawBox(context, rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush, border);
 }
 
 void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill)
 {
-    const PlacedBox box = placed(context.painter, rect);
-    const qreal inset = box.border;
-    Helpers::drawRoundedBox(box.rect.adjusted(inset, inset, -inset, -inset), qMax(0, radius - 1),
+    Helpers::drawRoundedBox(placed(context.painter, rect).inside(1), qMax(0, radius - 1),
                             Helpers::None, QPen(Qt::NoPen), fill, &context.painter);
 }
 

@@ -11,15 +11,16 @@
 /// and all borders and lines are equally thick.
 namespace BRELK::Shapes {
 
-/// `rect` shrunk by half a pixel, so that a border of one pixel fills whole pixels inside `rect`.
-QRectF onPixels(const QRect& rect);
+/// A border of one pixel: the line through its middle, and the pen that draws it.
+struct Border
+{
+    QRectF line;
+    QPen pen;
+};
 
-/// Where a border of one pixel runs inside `rect`; `pen` becomes as wide as that is on the device
-/// of `painter`.
-QRectF middleOfBorder(const QPainter& painter, const QRectF& rect, QPen& pen);
-
-/// A pen of one pixel with square corners; none for a brush that paints nothing.
-QPen borderPen(const QBrush& border);
+/// The border inside `rect` on the device of `painter`. A brush that paints nothing has no pen, and
+/// the line runs along the edges of `rect`. All boxes are told by their outer edges.
+Border borderInside(const QPainter& painter, const QRectF& rect, const QBrush& brush);
 
 /// The theme's radius of the size `name` in whole pixels.
 int cornerRadius(ThemeNames::RadiusName name);
@@ -27,6 +28,10 @@ int cornerRadius(ThemeNames::RadiusName name);
 /// A box filled with `fill` inside a border of one pixel; either may be `Qt::NoBrush`.
 void drawBox(const PaintContext& context, const QRectF& rect, int radius, const QBrush& fill,
              const QBrush& border, Helpers::StraightCornerFlags straightCorners = Helpers::None);
+
+/// A second border inside that of such a box: who has the focus is seen without colors too.
+void drawInnerBorder(const PaintContext& context, const QRect& rect, int radius,
+                     const QBrush& border);
 
 /// The ground inside the border of such a box.
 void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill);

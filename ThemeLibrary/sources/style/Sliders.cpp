@@ -106,18 +106,6 @@ struct SliderLook
     QBrush highContrastBorder() const { return context.brush(ThemeNames::HighContrastBorderBrush); }
 };
 
-QPen solidPen(const QBrush& brush)
-{
-    return {brush.color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin};
-}
-
-/// `rect` runs through the middle of the border.
-void drawShape(const SliderLook& look, const QRectF& rect, const QBrush& fill, const QBrush& border)
-{
-    Shapes::drawBox(look.context, rect.adjusted(-0.5, -0.5, 0.5, 0.5), look.radius, fill,
-                    border.color());
-}
-
 void paintGroove(const SliderLook& look)
 {
     const PaintContext& context = look.context;
@@ -125,21 +113,13 @@ void paintGroove(const SliderLook& look)
     const QBrush border = look.highContrast ? look.highContrastBorder() : grooveBrush;
     const QBrush fill =
         look.highContrast ? context.brush(ThemeNames::HighContrastBackgroundBrush) : grooveBrush;
-    if (look.radius == 0) {
-        const QRect rect =
-            look.horizontal ? look.groove.adjusted(1, 0, -1, 0) : look.groove.adjusted(0, 1, 0, -1);
-        context.painter.setPen(solidPen(border));
-        context.painter.setBrush(fill);
-        context.painter.fillRect(rect, fill);
-        context.painter.drawRect(rect);
-        return;
-    }
-    const QRectF rect = look.horizontal ? QRectF(look.groove).adjusted(1.5, 0.5, -1.5, 0.5)
-                                        : QRectF(look.groove).adjusted(0.5, 1.5, 0.5, -1.5);
-    drawShape(look, rect, fill, border);
+    const int end = look.radius == 0 ? 0 : 1;
+    const QRect rect =
+        look.horizontal ? look.groove.adjusted(1, 0, -end, 1) : look.groove.adjusted(0, 1, 1, -end);
+    Shapes::drawBox(context, rect, look.radius, fill, border.color());
 }
 
-/// The part of the groove between its start and the handle.
+/// The part of the groove between its start and the handle, with its border.
 QRectF highlightedRect(const SliderLook& look)
 {
     const QRectF groove = look.groove;
@@ -147,22 +127,22 @@ QRectF highlightedRect(const SliderLook& look)
     const QPoint origin = look.slider.rect.topLeft();
     if (look.horizontal) {
         return look.slider.upsideDown
-                   ? groove.adjusted(handle.right() - origin.x() - look.radius + 0.5, 0.5, -1.0,
-                                     0.5)
-                   : groove.adjusted(1.0, 0.5, -(groove.right() - handle.right()) - 0.5, 0.5);
+                   ? groove.adjusted(handle.right() - origin.x() - look.radius, 0, -0.5, 1)
+                   : groove.adjusted(0.5, 0, -(groove.right() - handle.right()), 1);
     }
     return look.slider.upsideDown
-               ? groove.adjusted(0.5, handle.bottom() - origin.y() - look.radius + 0.5, 0.5, -1.0)
-               : groove.adjusted(0.5, 1.0, 0.5, -(groove.bottom() - handle.bottom()) - 0.5);
+               ? groove.adjusted(0, handle.bottom() - origin.y() - look.radius, 1, -0.5)
+               : groove.adjusted(0, 0.5, 1, -(groove.bottom() - handle.bottom()));
 }
 
 void paintHighlight(const SliderLook& look)
 {
+    const QRectF rect = highlightedRect(look);
     if (look.radius == 0)
-        look.context.painter.fillRect(highlightedRect(look), look.main);
+        look.context.painter.fillRect(rect.adjusted(0.5, 0.5, -0.5, -0.5), look.main);
     else
-        drawShape(look, highlightedRect(look), look.main,
-                  look.highContrast ? look.highContrastBorder() : look.main);
+        Shapes::drawBox(look.context, rect, look.radius, look.main,
+                        (look.highContrast ? look.highContrastBorder() : look.main).color());
 }
 
 int positionOf(const QStyleOptionSlider& slider, int value, int space)

@@ -252,8 +252,7 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
         Shapes::drawBox(context, frame, radius, ground, borderColor(context, hasError));
     paintStepButtons(context, spinBox, frame);
     if (spinBox.frame && context.has(QStyle::State_HasFocus)) // who has it is seen without colors
-        Shapes::drawBox(context, frame.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush,
-                        borderColor(context, hasError));
+        Shapes::drawInnerBorder(context, frame, radius, borderColor(context, hasError));
     if (!spinBox.frame && context.has(QStyle::State_HasFocus))
         context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(spinBox));
     if (hasError && spinBox.frame)

@@ -250,7 +250,7 @@ void paintFrame(const PaintContext& context)
     const PainterSaver saver(context.painter);
     const QRect& rect = context.option.rect;
     context.painter.fillRect(
-        Shapes::onPixels(rect),
+        QRectF(rect).adjusted(0.5, 0.5, -0.5, -0.5),
         OwnColors::ground(context, QPalette::Window,
                           context.brush(ThemeNames::TabBackgroundActiveBrush)));
     if (const auto* frame = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(&context.option)) {
@@ -305,9 +305,10 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
     if (isTriangular(tab.shape)) {
         const PainterSaver saver(context.painter);
         QPainterPath path;
-        path.addPolygon(triangularTab(Shapes::onPixels(rect), side));
+        const Shapes::Border edge = Shapes::borderInside(context.painter, rect, border);
+        path.addPolygon(triangularTab(edge.line, side));
         context.painter.setRenderHint(QPainter::Antialiasing);
-        context.painter.setPen(Shapes::borderPen(border));
+        context.painter.setPen(edge.pen);
         context.painter.setBrush(fill);
         context.painter.drawPath(path);
         return;

@@ -144,11 +144,7 @@ QRect turnUpright(QPainter& painter, const QRect& rect)
 
 void paintWindowFrame(const PaintContext& context)
 {
-    const PainterSaver saver(context.painter);
-    context.painter.setPen(
-        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    context.painter.setBrush(Qt::NoBrush);
-    context.painter.drawRect(Shapes::onPixels(context.option.rect));
+    Shapes::drawBox(context, context.option.rect, 0, Qt::NoBrush, context.borderBrush().color());
 }
 
 void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& dock)
@@ -187,14 +183,9 @@ void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& opti
     const QStyleOptionTitleBar titleBar = inPresentPalette(context, option);
     const PainterSaver saver(context.painter);
     const bool active = titleBar.titleBarState & QStyle::State_Active;
-    const QRectF rect = Shapes::onPixels(titleBar.rect);
-    context.painter.fillRect(rect,
-                             titleBar.palette.color(active ? QPalette::Light : QPalette::Window));
-    context.painter.setPen(
-        QPen(context.borderBrush().color(), 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    context.painter.setBrush(Qt::NoBrush);
-    context.painter.drawRect(rect);
-
+    Shapes::drawBox(context, titleBar.rect, 0,
+                    titleBar.palette.color(active ? QPalette::Light : QPalette::Window),
+                    context.borderBrush().color());
     if (active && !hasActiveGround(titleBar))
         paintActiveGround(context, titleBar);
     paintCaption(context, titleBar);

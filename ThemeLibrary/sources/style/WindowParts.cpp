@@ -66,23 +66,13 @@ void paintSplitter(const PaintContext& context)
 
 void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& band)
 {
-    const PainterSaver saver(context.painter);
-    const QRectF rect = Shapes::onPixels(band.rect);
+    constexpr int Opaque = 255;
     const QColor color = themeValues().colors.value(ThemeNames::MainColor);
-    context.painter.setRenderHint(QPainter::Antialiasing);
-    context.painter.setPen(QPen(color, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
-    if (band.shape == QRubberBand::Rectangle) {
-        constexpr int Opaque = 255;
-        QColor fill = color;
-        fill.setAlpha(int(themeValues().opacities.value(ThemeNames::RubberBandOpacity) * Opaque));
-        context.painter.setBrush(fill);
-    }
-    if (context.widget && WidgetTraits::isCardWidget(context.widget->parent())) {
-        const qreal radius = themeValues().radii.value(ThemeNames::MediumSize);
-        context.painter.drawRoundedRect(rect, radius, radius);
-    } else {
-        context.painter.drawRect(rect);
-    }
+    QColor fill = color;
+    fill.setAlpha(int(themeValues().opacities.value(ThemeNames::RubberBandOpacity) * Opaque));
+    const bool ofCard = context.widget && WidgetTraits::isCardWidget(context.widget->parent());
+    Shapes::drawBox(context, band.rect, ofCard ? Shapes::cornerRadius(ThemeNames::MediumSize) : 0,
+                    band.shape == QRubberBand::Rectangle ? QBrush(fill) : QBrush(), color);
 }
 
 } // namespace BRELK::WindowParts
