@@ -41,10 +41,10 @@ public:
     /// `radius` (logical pixels) every corner that `straightCorners` does not name.
     ///
     /// A pen 1 wide and a rectangle whose edges lie on half pixels give borders of exactly one
-    /// pixel; square corners are sharp whatever joins the pen makes. A radius larger than half the
-    /// shorter side is reduced to it; 0 or less makes all corners square. An empty, negative or
-    /// infinite rectangle, or a null or inactive painter, draws nothing. The painter is left as it
-    /// was found.
+    /// pixel, as strong in the curves as along the sides; square corners are sharp whatever joins
+    /// the pen makes. A radius larger than half the shorter side is reduced to it; 0 or less makes
+    /// all corners square. An empty, negative or infinite rectangle, or a null or inactive painter,
+    /// draws nothing. The painter is left as it was found.
     ///
     /// On images, pixmaps and widgets this is several times as fast as `QPainter::drawRoundedRect`
     /// unless the painter is rotated, translucent or composes otherwise than by default, the pen is

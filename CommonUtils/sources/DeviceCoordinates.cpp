@@ -8,7 +8,7 @@ namespace BRELK {
 
 namespace {
 
-bool isRaster(const QPainter& painter)
+bool hasRaster(const QPainter& painter)
 {
     return painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster;
 }
@@ -23,8 +23,9 @@ bool isAlmostWhole(qreal number)
 
 DeviceCoordinates::DeviceCoordinates(const QPainter& painter)
     : m_transform(painter.deviceTransform())
-    , m_canCopy(isRaster(painter) && m_transform.type() <= QTransform::TxScale
-                && m_transform.m11() > 0 && m_transform.m22() > 0 && painter.opacity() >= 1
+    , m_isRaster(hasRaster(painter))
+    , m_canCopy(m_isRaster && m_transform.type() <= QTransform::TxScale && m_transform.m11() > 0
+                && m_transform.m22() > 0 && painter.opacity() >= 1
                 && painter.compositionMode() == QPainter::CompositionMode_SourceOver)
 { }
 

@@ -16,6 +16,9 @@ class DeviceCoordinates
 public:
     explicit DeviceCoordinates(const QPainter& painter);
 
+    /// Whether the toolkit itself computes the pixels.
+    bool isRaster() const { return m_isRaster; }
+
     /// Whether painting is nothing but setting pixels, so that they may be copied from a picture:
     /// on a raster device, upright, and neither translucent nor composed.
     bool canCopy() const { return m_canCopy; }
@@ -38,6 +41,7 @@ public:
 
 private:
     QTransform m_transform;
+    bool m_isRaster;
     bool m_canCopy;
 };
 

@@ -51,9 +51,8 @@ const ShapeTile& tileFor(const TileKey& key, const TileAxis& horizontal, const T
 
 /// Draws the shape from a tile; false if it has to be drawn as a path.
 bool drawFromTile(const RoundedShape& shape, const QPen& shapePen, const QBrush& brush,
-                  QPainter* painter)
+                  const DeviceCoordinates& device, QPainter* painter)
 {
-    const DeviceCoordinates device(*painter);
     if (!device.canCopy() || !isTileable(*painter, shapePen, brush))
         return false;
     static const QPen sNoPen(Qt::NoPen);
@@ -105,11 +104,12 @@ void Helpers::drawRoundedBox(const QRectF& rect, int radius, StraightCornerFlags
                        straightCorners & AllCorners};
     if (radius <= 0)
         shape.straightCorners = AllCorners;
-    if (drawFromTile(shape, pen, brush, painter))
+    const DeviceCoordinates device(*painter);
+    if (drawFromTile(shape, pen, brush, device, painter))
         return;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(pen);
+    painter->setPen(device.isRaster() ? withFullCurves(pen, device.transform()) : pen);
     painter->setBrush(brush);
     painter->drawPath(shape.path());
     painter->restore();

@@ -62,7 +62,7 @@ QImage rendered(const TileKey& key, const QSize& size)
 
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(key.pen);
+    painter.setPen(withFullCurves(key.pen, scale));
     painter.setBrush(key.brush);
     painter.setClipRegion(QRegion(image.rect()) - square);
     painter.setTransform(scale);
@@ -77,6 +77,17 @@ QImage rendered(const TileKey& key, const QSize& size)
 }
 
 } // namespace
+
+QPen withFullCurves(const QPen& pen, const QTransform& toDevice)
+{
+    constexpr qreal Hair = 0.001;
+    const qreal scale = pen.isCosmetic() ? 1 : std::sqrt(std::abs(toDevice.determinant()));
+    if (pen.style() == Qt::NoPen || std::abs(pen.widthF() * scale - 1) >= Hair)
+        return pen;
+    QPen result = pen;
+    result.setWidthF((1 + Hair) / scale);
+    return result;
+}
 
 QPainterPath RoundedShape::path() const
 {

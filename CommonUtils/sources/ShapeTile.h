@@ -23,6 +23,10 @@ struct RoundedShape
     QPainterPath path() const;
 };
 
+/// `pen`, a hair wider if it is one pixel of the device wide: the toolkit's rasterizer draws such
+/// lines in a quicker way that leaves curves pale.
+QPen withFullCurves(const QPen& pen, const QTransform& toDevice);
+
 /// Where a shape lies on one axis of the device.
 struct TileAxis
 {

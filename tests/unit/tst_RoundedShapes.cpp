@@ -49,7 +49,7 @@ QRegion cornerPixels(const QRectF& rect, qreal penWidth, const QTransform& toDev
 }
 
 /// The toolkit's own rounded rectangle, with its own rectangle in the quadrants with square
-/// corners.
+/// corners. Lines of one pixel of the device are a hair wider, so that their curves are not pale.
 void drawExpected(const QRectF& rect, qreal radius, Helpers::StraightCornerFlags straight,
                   QPainter* to)
 {
@@ -70,6 +70,8 @@ void drawExpected(const QRectF& rect, qreal radius, Helpers::StraightCornerFlags
     const QRegion round = QRegion(all) - square;
     const qreal largest = std::min(rect.width(), rect.height()) / 2;
     painter.setRenderHint(QPainter::Antialiasing);
+    if (painter.pen().style() != Qt::NoPen && painter.deviceTransform().m11() <= 1)
+        painter.setPen(QPen(painter.pen().brush(), std::max(painter.pen().widthF(), 1.001)));
     for (const auto& [region, cornerRadius] :
          {std::pair(round, std::min(radius, largest)), std::pair(square, 0.0)}) {
         painter.save();
