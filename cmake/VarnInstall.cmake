@@ -3,6 +3,7 @@ include(CMakePackageConfigHelpers)
 set(VARN_INSTALL_CMAKE_DIR ${CMAKE_INSTALL_LIBDIR}/cmake/Varn)
 set(VARN_INSTALL_PKGCONFIG_DIR ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 set(VARN_EXPORTS ${CMAKE_CURRENT_LIST_DIR}/exports.map)
+set(VARN_STATIC_PLUGIN varnStylePlugin)
 set(VARN_PACKAGING_DIR ${CMAKE_CURRENT_LIST_DIR}/../packaging)
 
 # varn_install_library(TARGET COMPONENT): a library that exports what it means to, and its pkg-config file.
@@ -18,13 +19,16 @@ function(varn_install_library target component)
 
     # The path from the file to the prefix, so that both may be moved together.
     file(RELATIVE_PATH VARN_PREFIX /prefix/${VARN_INSTALL_PKGCONFIG_DIR} /prefix)
+    if(NOT BUILD_SHARED_LIBS)
+        set(VARN_LINK_PLUGIN "-Wl,-u,${VARN_STATIC_PLUGIN} ")
+    endif()
     string(REPLACE _ - name ${target})
     configure_file(${VARN_PACKAGING_DIR}/${name}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc @ONLY)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc
         DESTINATION ${VARN_INSTALL_PKGCONFIG_DIR} COMPONENT development)
 endfunction()
 
-# The CMake package, installed and in the build tree, which is laid out like what is installed; and programs' surroundings.
+# The CMake package, installed and in the build tree, which is laid out like what is installed.
 function(varn_install_packages)
     set(package ${CMAKE_BINARY_DIR}/${VARN_INSTALL_CMAKE_DIR})
     configure_package_config_file(${PROJECT_SOURCE_DIR}/cmake/VarnConfig.cmake.in ${package}/VarnConfig.cmake
@@ -34,15 +38,6 @@ function(varn_install_packages)
         DESTINATION ${VARN_INSTALL_CMAKE_DIR} COMPONENT development)
     install(EXPORT VarnTargets NAMESPACE Varn:: DESTINATION ${VARN_INSTALL_CMAKE_DIR} COMPONENT development)
     export(EXPORT VarnTargets NAMESPACE Varn:: FILE ${package}/VarnTargets.cmake)
-
-    if(TARGET varn-gallery)
-        install(FILES ${VARN_PACKAGING_DIR}/varn-gallery.desktop
-            DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT tools)
-        install(FILES ${VARN_PACKAGING_DIR}/varn-gallery.svg
-            DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT tools)
-        configure_file(${VARN_PACKAGING_DIR}/varn-gallery.1 ${CMAKE_BINARY_DIR}/man/man1/varn-gallery.1 COPYONLY)
-        install(DIRECTORY ${CMAKE_BINARY_DIR}/man/ DESTINATION ${CMAKE_INSTALL_MANDIR} COMPONENT tools)
-    endif()
     if(PROJECT_IS_TOP_LEVEL)
         include(${VARN_PACKAGING_DIR}/packages.cmake)
     endif()

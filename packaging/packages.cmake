@@ -1,10 +1,13 @@
-# Debian packages: `packaging/build.sh DIR` makes them. What the packages are called and need stands here.
+# Debian packages: `scripts/package.sh` makes them. What the packages are called and need stands here.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME varn-common-theme)
 set(CPACK_PACKAGE_VENDOR "The Varn Common Theme maintainers")
 set(CPACK_PACKAGE_CONTACT "The Varn Common Theme maintainers <maintainers@varn.invalid>")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS ${VARN_PACKAGING_DIR}/compress.cmake)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
@@ -27,7 +30,7 @@ function(varn_package component name section summary details depends)
 
     set(documents ${CMAKE_BINARY_DIR}/packaging/${name})
     configure_file(${VARN_PACKAGING_DIR}/copyright ${documents}/copyright COPYONLY)
-    configure_file(${VARN_PACKAGING_DIR}/changelog ${documents}/changelog COPYONLY)
+    configure_file(${VARN_PACKAGING_DIR}/changelog.in ${documents}/changelog @ONLY)
     install(DIRECTORY ${documents}/ DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/${name} COMPONENT ${component}
         EXCLUDE_FROM_ALL)
 endfunction()

@@ -4,7 +4,7 @@
 set -eu
 
 packages="
-    g++ cmake ninja-build make
+    g++ cmake ninja-build make pkg-config
     qtbase5-dev libqt5svg5
     fonts-dejavu-core fontconfig
     python3 clang-format

@@ -106,7 +106,7 @@ private:
 
 } // namespace
 
-class StylePlugin : public QStylePlugin
+class VarnStylePlugin : public QStylePlugin
 {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QStyleFactoryInterface_iid FILE "keys.json")
@@ -125,5 +125,12 @@ public:
 private:
     QPointer<Session> m_session;
 };
+
+#ifdef QT_STATICPLUGIN
+Q_IMPORT_PLUGIN(VarnStylePlugin)
+
+/// Pulls this file out of the archive.
+extern "C" void varnStylePlugin() { }
+#endif
 
 #include "StylePlugin.moc"

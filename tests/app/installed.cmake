@@ -1,5 +1,5 @@
-# Builds and runs the project CONSUMER against the build tree BUILD and against what that installs, by CMake and by
-# pkg-config. All of it below WORK.
+# Builds and runs the project CONSUMER against the build tree BUILD, or against static libraries that it builds itself from
+# SOURCE, and then against what either installs, by CMake and by pkg-config. All of it below WORK.
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(result)
@@ -16,12 +16,25 @@ function(adopt way)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
-adopt(build-tree -DVarn_DIR=${BUILD}/${LIBDIR}/cmake/Varn)
+if(SOURCE)
+    set(BUILD ${WORK}/source)
+    set(ENV{XDG_DATA_DIRS} ${BUILD}/share)
+    adopt(source -DSOURCE=${SOURCE} -DBUILD_SHARED_LIBS=OFF)
+else()
+    set(ENV{QT_PLUGIN_PATH} ${BUILD}/plugins)
+    adopt(build-tree -DVarn_DIR=${BUILD}/${LIBDIR}/cmake/Varn)
+endif()
 
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${WORK}/prefix)
 # Moved, so that nothing can lean on the place it was installed to.
 file(RENAME ${WORK}/prefix ${WORK}/moved)
 set(prefix ${WORK}/moved)
+set(ENV{XDG_DATA_DIRS} ${prefix}/share)
+set(ENV{QT_PLUGIN_PATH} ${prefix}/${LIBDIR}/qt5/plugins)
+if(NOT SOURCE)
+    run(${prefix}/bin/varn-theme list)
+    run(${prefix}/bin/varn-gallery --list-pages)
+endif()
 adopt(installed -DCMAKE_PREFIX_PATH=${prefix})
 
 find_program(PKG_CONFIG NAMES pkg-config pkgconf)

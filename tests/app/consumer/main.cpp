@@ -1,4 +1,6 @@
 #include <QPushButton>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTimer>
 
 #include <BaseStyle.h>
@@ -7,7 +9,9 @@
 #include <ThemeQApplication.h>
 #include <ThemeResources.h>
 
-/// Exits with 0 when the installed library gave it an installed theme.
+#include <memory>
+
+/// Exits with 0 when the library gave it a theme, and the style plugin is there.
 int main(int argc, char** argv)
 {
     BRELK::ThemeQApplication app(argc, argv, "Dark", THEMES_DIR);
@@ -20,5 +24,6 @@ int main(int argc, char** argv)
     const bool themed = app.getCurrentTheme() && !button.icon().isNull() && !drawn.isNull()
                         && BRELK::Helpers::getPerceivedBrightness(background) < 128
                         && app.palette().color(QPalette::Window) == background;
-    return ran && themed ? 0 : 1;
+    const std::unique_ptr<QStyle> style(QStyleFactory::create("varn"));
+    return ran && themed && style ? 0 : 1;
 }
