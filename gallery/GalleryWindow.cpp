@@ -2,12 +2,14 @@
 
 #include "Header.h"
 #include "Pages.h"
+#include "ThemeFactory.h"
 #include "ThemeResources.h"
 #include "ThemeSwitcher.h"
 #include "kit/Page.h"
 
 #include <QApplication>
 #include <QDebug>
+#include <QFileInfo>
 #include <QFrame>
 #include <QGridLayout>
 #include <QListWidget>
@@ -39,9 +41,11 @@ GalleryWindow::GalleryWindow(const Settings& settings)
     : m_settings(settings), m_navigation(new QListWidget), m_pages(new QStackedWidget)
 {
     auto* header = new Header(settings);
-    connect(header, &Header::themeChosen, this, [this](const QString& name) {
-        if (BRELK::ThemeSwitcher::getInstance().switchTo(name))
-            m_settings.theme = name;
+    connect(header, &Header::themeChosen, this, [this](const QString& directory) {
+        const QFileInfo theme(directory);
+        BRELK::ThemeFactory::getInstance().setThemesRepositoryPath(theme.absolutePath());
+        if (BRELK::ThemeSwitcher::getInstance().switchTo(theme.fileName()))
+            m_settings.theme = theme.fileName();
     });
     connect(header, &Header::scaleChosen, this, [this](double scale) {
         Settings changed = m_settings;

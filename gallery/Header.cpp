@@ -1,6 +1,5 @@
 #include "Header.h"
 
-#include "ThemeFactory.h"
 #include "ThemeSwitcher.h"
 #include "kit/Decoration.h"
 #include "kit/Page.h"
@@ -8,6 +7,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -40,20 +40,21 @@ Header::Header(const Settings& settings)
     connect(&BRELK::ThemeSwitcher::getInstance(), &BRELK::ThemeSwitcher::switched, this, dress);
     bar->addWidget(title);
     bar->addStretch();
-    addThemes(*bar, settings.theme);
+    addThemes(*bar, settings);
     addScales(*bar, settings.scale);
     addDirection(*bar, settings.rightToLeft);
 }
 
-void Header::addThemes(QBoxLayout& bar, const QString& current)
+void Header::addThemes(QBoxLayout& bar, const Settings& settings)
 {
     auto* themes = new QComboBox;
-    themes->addItems(BRELK::ThemeFactory::getInstance().getAvailableThemes());
+    for (const QString& directory : settings.themes())
+        themes->addItem(QFileInfo(directory).fileName(), directory);
     themes->setEnabled(themes->count() > 0);
-    themes->setCurrentIndex(themes->findText(current));
+    themes->setCurrentIndex(themes->findText(settings.theme));
     addField(bar, QStringLiteral("&Theme"), themes);
     connect(themes, QOverload<int>::of(&QComboBox::activated), this,
-            [this, themes](int index) { Q_EMIT themeChosen(themes->itemText(index)); });
+            [this, themes](int index) { Q_EMIT themeChosen(themes->itemData(index).toString()); });
 }
 
 void Header::addScales(QBoxLayout& bar, double current)

@@ -17,12 +17,12 @@ public:
     explicit Header(const Settings& settings);
 
 Q_SIGNALS:
-    void themeChosen(const QString& name);
+    void themeChosen(const QString& directory);
     void rightToLeftChosen(bool rightToLeft);
     void scaleChosen(double scale);
 
 private:
-    void addThemes(QBoxLayout& bar, const QString& current);
+    void addThemes(QBoxLayout& bar, const Settings& settings);
     void addDirection(QBoxLayout& bar, bool rightToLeft) const;
     void addScales(QBoxLayout& bar, double current);
 };

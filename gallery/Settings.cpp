@@ -14,6 +14,7 @@ namespace Gallery {
 
 namespace {
 
+const QString DefaultTheme = QStringLiteral("Dark");
 constexpr double LeastScale = 0.5;
 constexpr double GreatestScale = 4;
 
@@ -36,13 +37,12 @@ double toScale(const QString& text)
 
 struct Options
 {
-    QCommandLineOption theme{
-        QStringLiteral("theme"),
-        QStringLiteral("Use the theme <name> of the repository (default: Dark)."),
-        QStringLiteral("name")};
+    QCommandLineOption theme{QStringLiteral("theme"),
+                             QStringLiteral("Use the theme <name> (default: Dark)."),
+                             QStringLiteral("name")};
     QCommandLineOption repository{
         QStringLiteral("theme-repository"),
-        QStringLiteral("Look themes up in <directory> (default: the installed ones)."),
+        QStringLiteral("Look themes up in <directory> (default: those of this machine)."),
         QStringLiteral("directory")};
     QCommandLineOption page{
         QStringLiteral("page"),
@@ -82,10 +82,17 @@ QString knownPage(const QString& name)
 
 } // namespace
 
+QStringList Settings::themes() const
+{
+    return BRELK::ThemeRepositories::themes(repository ? QStringList{*repository}
+                                                       : BRELK::ThemeRepositories::all());
+}
+
 QStringList Settings::toArguments() const
 {
-    QStringList arguments{QStringLiteral("--theme"), theme, QStringLiteral("--theme-repository"),
-                          repository};
+    QStringList arguments{QStringLiteral("--theme"), theme};
+    if (repository)
+        arguments << QStringLiteral("--theme-repository") << *repository;
     arguments << QStringLiteral("--page") << page;
     arguments << QStringLiteral("--scale") << QString::number(scale);
     if (rightToLeft)
@@ -105,14 +112,13 @@ StartUp prepareStart(int argc, char** argv)
     if (needsNoDisplay(arguments) && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const int themeIndex = arguments.indexOf(QStringLiteral("--theme")) + 1;
-    const QString theme = themeIndex > 0 ? arguments.value(themeIndex) : QString();
+    const QString theme = themeIndex > 0 ? arguments.value(themeIndex) : DefaultTheme;
     const QString known = BRELK::ThemeRepositories::find(theme);
-    return {known.isEmpty() ? BRELK::ThemeRepositories::all().value(0)
-                            : QFileInfo(known).absolutePath()};
+    return {DefaultTheme, known.isEmpty() ? BRELK::ThemeRepositories::all().value(0)
+                                          : QFileInfo(known).absolutePath()};
 }
 
-Settings readSettings(const QCoreApplication& application, const QString& defaultTheme,
-                      const QString& defaultRepository)
+Settings readSettings(const QCoreApplication& application)
 {
     QCommandLineParser parser;
     const Options options;
@@ -124,9 +130,9 @@ Settings readSettings(const QCoreApplication& application, const QString& defaul
     parser.process(application);
 
     Settings settings;
-    settings.theme = parser.isSet(options.theme) ? parser.value(options.theme) : defaultTheme;
-    settings.repository =
-        parser.isSet(options.repository) ? parser.value(options.repository) : defaultRepository;
+    settings.theme = parser.isSet(options.theme) ? parser.value(options.theme) : DefaultTheme;
+    if (parser.isSet(options.repository))
+        settings.repository = parser.value(options.repository);
     settings.page = knownPage(parser.value(options.page));
     settings.renderDirectory = parser.value(options.render);
     settings.via = parser.value(options.via);

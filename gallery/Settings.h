@@ -12,8 +12,8 @@ namespace Gallery {
 /// What a run of the gallery was asked for.
 struct Settings
 {
-    QString theme; ///< a directory of the repository
-    QString repository;
+    QString theme; ///< a directory of a repository
+    std::optional<QString> repository; ///< takes the place of those of this machine
     QString page;
     QString renderDirectory; ///< empty: show the window
     std::optional<QString> styleSheet; ///< takes the place of the application style sheet
@@ -22,6 +22,9 @@ struct Settings
     bool rightToLeft = false;
     bool listPages = false;
 
+    /// The directories of the themes to choose from.
+    QStringList themes() const;
+
     /// The command-line arguments that ask for the same.
     QStringList toArguments() const;
 };
@@ -29,6 +32,7 @@ struct Settings
 /// What must be known before the application object exists.
 struct StartUp
 {
+    QString theme;
     QString repository; ///< that has the theme, or else the first of this machine
 };
 
@@ -38,7 +42,6 @@ StartUp prepareStart(int argc, char** argv);
 
 /// Reads the command line of `application`. `--help` and mistakes print their text and end the
 /// process.
-Settings readSettings(const QCoreApplication& application, const QString& defaultTheme,
-                      const QString& defaultRepository);
+Settings readSettings(const QCoreApplication& application);
 
 } // namespace Gallery

@@ -14,13 +14,11 @@ int main(int argc, char** argv)
     const Gallery::StartUp startUp = Gallery::prepareStart(argc, argv);
 
     // This is all that an application needs to be themed; it comes before any widget.
-    const QString defaultTheme = QStringLiteral("Dark");
-    BRELK::ThemeQApplication application(argc, argv, defaultTheme, startUp.repository);
+    BRELK::ThemeQApplication application(argc, argv, startUp.theme, startUp.repository);
 
     QCoreApplication::setApplicationName(QStringLiteral("varn-gallery"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Gallery"));
-    const Gallery::Settings settings =
-        Gallery::readSettings(application, defaultTheme, startUp.repository);
+    const Gallery::Settings settings = Gallery::readSettings(application);
     if (settings.listPages) {
         QTextStream(stdout) << Gallery::pageNames().join(QLatin1Char('\n')) << '\n';
         return 0;

@@ -1,7 +1,7 @@
 #include "Commands.h"
 #include "ThemeCheck.h"
+#include "ThemeRepositories.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -22,12 +22,8 @@ QStringList directoriesToCheck(const Request& request)
     QStringList directories;
     for (const QString& name : request.arguments)
         directories += themeDirectory(request, name);
-    if (request.arguments.isEmpty()) {
-        const QDir repository(request.repository);
-        for (const QString& name : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-            directories += repository.filePath(name);
-    }
-    return directories;
+    return request.arguments.isEmpty() ? BRELK::ThemeRepositories::themes(request.repositories)
+                                       : directories;
 }
 
 const char* kindOf(const Finding& finding)
@@ -71,8 +67,7 @@ int runCheck(const Request& request)
 {
     const QStringList directories = directoriesToCheck(request);
     if (directories.isEmpty())
-        printError(request.repository
-                   + QLatin1String(" holds no themes; give a theme, or --repository DIR"));
+        printError(QLatin1String("there are no themes; give a theme, or --repository DIR"));
     if (directories.isEmpty() || directories.contains(QString()))
         return CouldNotRun;
 

@@ -1,8 +1,9 @@
 #include "Commands.h"
 
 #include "ReadTheme.h"
+#include "ThemeRepositories.h"
 
-#include <QDir>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <cstdio>
@@ -48,10 +49,12 @@ const QVector<Command>& commands()
         {QStringLiteral("new"),
          QStringLiteral("NAME"),
          QStringLiteral("write a theme that passes the check"),
-         QStringLiteral("Makes the theme directory NAME in the repository, with a theme that "
-                        "extends another one and replaces the colors "
-                        "that are given. Themes that it stands on are copied there if the "
-                        "repository lacks them. Nothing is overwritten."),
+         QStringLiteral(
+             "Makes the theme directory NAME in the repository (that of this user unless "
+             "given), with a theme that "
+             "extends another one and replaces the colors "
+             "that are given. Themes that it stands on are copied there if the "
+             "repository lacks them. Nothing is overwritten."),
          {option("extends", "THEME", "the theme to stand on, Dark unless given"),
           option("background", "COLOR", "the color of windows"),
           option("foreground", "COLOR", "the color of words, at least 7:1 to the background"),
@@ -98,8 +101,8 @@ const QVector<Command>& commands()
          runContrast},
         {QStringLiteral("list"),
          QString(),
-         QStringLiteral("print the themes of the repository"),
-         QStringLiteral("Prints the name and the directory of each theme of the repository."),
+         QStringLiteral("print the themes"),
+         QStringLiteral("Prints the name and the directory of each theme."),
          {},
          0,
          0,
@@ -127,14 +130,15 @@ const QVector<Command>& commands()
 
 QString themeDirectory(const Request& request, const QString& name)
 {
-    for (const QString& directory : {name, QString(request.repository + QLatin1Char('/') + name)}) {
+    for (const QString& directory :
+         {name, BRELK::ThemeRepositories::find(name, request.repositories)}) {
         if (QFileInfo::exists(directory + QLatin1String("/theme.xml"))
             || QFileInfo::exists(directory + QLatin1String("/config.xml")))
             return directory;
     }
     printError(QStringLiteral("\"%1\" is neither a theme directory nor a theme of %2; \"varn-theme "
                               "list\" prints those")
-                   .arg(name, request.repository));
+                   .arg(name, request.repositories.join(QLatin1String(", "))));
     return {};
 }
 

@@ -13,7 +13,7 @@ enum ExitStatus { Success = 0, Faults = 1, CouldNotRun = 2 };
 /// What the command line asks for, as far as it is the same for all commands.
 struct Request
 {
-    QString repository; ///< where themes are looked up by name
+    QStringList repositories; ///< where themes are looked up by name; the first wins
     QStringList arguments; ///< without options
     QHash<QString, QString> options; ///< by name, without dashes; flags have an empty value
 
@@ -62,8 +62,8 @@ QString manualPage();
 /// What a shell, "bash", "zsh" or "fish", completes; empty for others.
 QString completion(const QString& shell);
 
-/// The directory of the theme that `name` names, by path or in the repository; empty, and an error
-/// printed, when there is none.
+/// The directory of the theme that `name` names, by path or in the repositories; empty, and an
+/// error printed, when there is none.
 QString themeDirectory(const Request& request, const QString& name);
 
 void print(const QString& text);

@@ -24,7 +24,7 @@ QString dashed(const Option& option)
 QVector<Option> commonOptions()
 {
     return {{QStringLiteral("repository"), QStringLiteral("DIR"),
-             QStringLiteral("where themes are; otherwise those installed with this program")},
+             QStringLiteral("where themes are; otherwise those of this machine")},
             {QStringLiteral("help"), {}, QStringLiteral("print this and do nothing else")}};
 }
 

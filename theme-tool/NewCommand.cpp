@@ -3,10 +3,11 @@
 #include "ReadTheme.h"
 #include "ThemeCheck.h"
 #include "ThemeDocument.h"
+#include "ThemeRepositories.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QSaveFile>
+#include <QStandardPaths>
 
 using namespace BRELK;
 
@@ -138,19 +139,21 @@ int runNew(const Request& request)
                 " cannot be a theme's name; it names a directory, without \"/\", \"<\" and \"&\""));
         return CouldNotRun;
     }
-    Request inRepository = request;
-    const QString directory = request.repository + QLatin1Char('/') + name;
+    const QString repository =
+        request.has("repository")
+            ? request.value("repository")
+            : QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)
+                  + QLatin1String("/varn/themes");
+    const QString directory = repository + QLatin1Char('/') + name;
     if (QFileInfo::exists(directory)) {
         printError(directory
                    + QLatin1String(" is there already; choose another name or remove it"));
         return CouldNotRun;
     }
-    // A theme to stand on may be in the repository, or come with this program.
-    const QString own = QDir::cleanPath(QCoreApplication::applicationDirPath()
-                                        + QLatin1String("/../share/varn/themes"));
-    if (!QFileInfo::exists(request.repository + QLatin1Char('/') + base))
-        inRepository.repository = own;
-    const QString baseDirectory = themeDirectory(inRepository, base);
+    // A theme to stand on may be in the repository, or be one of this machine.
+    Request anywhere = request;
+    anywhere.repositories += BRELK::ThemeRepositories::all();
+    const QString baseDirectory = themeDirectory(anywhere, base);
     if (baseDirectory.isEmpty() || !areColors(request))
         return CouldNotRun;
     if (!isReadable(request, ReadTheme(baseDirectory)))
@@ -158,7 +161,7 @@ int runNew(const Request& request)
 
     const QString header = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
     const bool isWritten =
-        provideBase(baseDirectory, request.repository) && QDir().mkpath(directory)
+        provideBase(baseDirectory, repository) && QDir().mkpath(directory)
         && write(directory + QLatin1String("/theme.xml"),
                  header + QStringLiteral("<theme>\n  <name>%1</name>\n</theme>\n").arg(name))
         && write(directory + QLatin1String("/config.xml"), configuration(request, base))
@@ -169,7 +172,7 @@ int runNew(const Request& request)
     print(
         QStringLiteral(
             "wrote %1; look at it with\n  varn-gallery --theme-repository \"%2\" --theme \"%3\"\n")
-            .arg(directory, request.repository, name));
+            .arg(directory, repository, name));
     for (const Finding& finding : checkTheme(directory))
         print(finding.text + QLatin1Char('\n'));
     return Success;

@@ -2,6 +2,7 @@
 #include "ContrastTable.h"
 #include "ReadTheme.h"
 #include "ThemeIndex.h"
+#include "ThemeRepositories.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -168,14 +169,12 @@ int runContrast(const Request& request)
 
 int runList(const Request& request)
 {
-    const QDir repository(request.repository);
-    if (!repository.exists()) {
-        printError(request.repository + QLatin1String(" does not exist; give --repository DIR"));
-        return CouldNotRun;
-    }
-    for (const QString& name : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
-        print(QStringLiteral("%1  %2\n").arg(name.leftJustified(16), repository.filePath(name)));
-    return Success;
+    const QStringList themes = BRELK::ThemeRepositories::themes(request.repositories);
+    for (const QString& theme : themes)
+        print(QStringLiteral("%1  %2\n").arg(QFileInfo(theme).fileName().leftJustified(16), theme));
+    if (themes.isEmpty())
+        printError(QStringLiteral("there are no themes; give --repository DIR"));
+    return themes.isEmpty() ? CouldNotRun : Success;
 }
 
 int runIcons(const Request& request)

@@ -1,6 +1,6 @@
 #include "Commands.h"
+#include "ThemeRepositories.h"
 
-#include <QDir>
 #include <QGuiApplication>
 
 #include <algorithm>
@@ -64,10 +64,8 @@ int runCommand(const Command& command, const QStringList& words)
                        .arg(command.name, command.arguments));
         return CouldNotRun;
     }
-    request.repository = request.has("repository")
-                             ? request.value("repository")
-                             : QDir::cleanPath(QCoreApplication::applicationDirPath()
-                                               + QLatin1String("/../share/varn/themes"));
+    request.repositories = request.has("repository") ? QStringList{request.value("repository")}
+                                                     : BRELK::ThemeRepositories::all();
     return command.run(request);
 }
 

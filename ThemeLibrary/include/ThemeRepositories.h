@@ -12,6 +12,10 @@ namespace BRELK::ThemeRepositories {
 /// that was installed with the library. What comes first wins. Needs the application object.
 VARN_COMMON_THEME_EXPORT QStringList all();
 
+/// The theme directories of `repositories`, by name; of those that differ in upper and lower case
+/// only, the first.
+VARN_COMMON_THEME_EXPORT QStringList themes(const QStringList& repositories);
+
 /// The theme directory `name` of the first repository that has one, in its own spelling: upper and
 /// lower case are one. Empty when there is none.
 VARN_COMMON_THEME_EXPORT QString find(const QString& name);

@@ -2,6 +2,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QMap>
 #include <QStandardPaths>
 
 #ifdef Q_OS_UNIX
@@ -50,6 +52,20 @@ QStringList all()
     return existing;
 }
 
+QStringList themes(const QStringList& repositories)
+{
+    QMap<QString, QString> found;
+    for (const QString& repository : repositories) {
+        const QDir directory(repository);
+        for (const QString& name : directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+            const QString key = name.toLower();
+            if (!found.contains(key))
+                found.insert(key, directory.absoluteFilePath(name));
+        }
+    }
+    return found.values();
+}
+
 QString find(const QString& name)
 {
     return find(name, all());
@@ -57,12 +73,9 @@ QString find(const QString& name)
 
 QString find(const QString& name, const QStringList& repositories)
 {
-    for (const QString& repository : repositories) {
-        const QDir directory(repository);
-        for (const QString& theme : directory.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            if (theme.compare(name, Qt::CaseInsensitive) == 0)
-                return directory.absoluteFilePath(theme);
-        }
+    for (const QString& theme : themes(repositories)) {
+        if (QFileInfo(theme).fileName().compare(name, Qt::CaseInsensitive) == 0)
+            return theme;
     }
     return {};
 }

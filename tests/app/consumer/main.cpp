@@ -8,7 +8,6 @@
 #include <ThemeFactory.h>
 #include <ThemeQApplication.h>
 #include <ThemeResources.h>
-
 #include <memory>
 
 /// Exits with 0 when the library gave it a theme, and the style plugin is there.
