@@ -17,8 +17,9 @@ FAMILIES = "widget families"
 
 LAYERS = (
     (0, "companion library", ["CommonUtils/*"]),
-    (6, "theme application", [LIBRARY + name for name in ("AppliedThemes.*", "BaseTheme.*", "ThemeFactory.*",
-                                                            "ThemeQApplication.*", "ThemeSwitcher.*")]),
+    (6, "theme application", [LIBRARY + name for name in ("AppliedThemes.*", "BaseTheme.*", "HeldPaints.*",
+                                                            "ThemeFactory.*", "ThemeQApplication.*",
+                                                            "ThemeSwitcher.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
         "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
         "WidgetProperties.*", "WidgetTraits.*")]),

@@ -1,6 +1,7 @@
 #include "ThemeSwitcher.h"
 
 #include "AppliedThemes.h"
+#include "HeldPaints.h"
 #include "Kept.h"
 #include "Theme.h"
 #include "ThemeFactory.h"
@@ -14,9 +15,13 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMdiArea>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMouseEvent>
 #include <QPixmapCache>
 #include <QPointer>
 #include <QStyle>
+#include <QToolButton>
 #include <QVector>
 #include <QWidget>
 
@@ -58,6 +63,19 @@ void renewGround(QWidget& widget, const QBrush& before)
 {
     if (auto* area = qobject_cast<QMdiArea*>(&widget); area && area->background() == before)
         area->setBackground(area->palette().brush(QPalette::Dark));
+}
+
+/// The buttons of a calendar would give themselves these words as they are painted, and then be
+/// painted once more.
+void renewCalendarWords(QWidget& widget)
+{
+    const auto* button = qobject_cast<QToolButton*>(&widget);
+    if (!button || !button->objectName().startsWith(QLatin1String("qt_calendar_"))
+        || button->underMouse() || button->isDown())
+        return;
+    QPalette palette = widget.palette();
+    palette.setColor(QPalette::ButtonText, palette.color(QPalette::HighlightedText));
+    widget.setPalette(palette);
 }
 
 /// Unpolishes all widgets, so that what follows costs them nothing, and returns those that were
@@ -120,6 +138,37 @@ private:
     QObject* m_owner;
 };
 
+void tell(QObject& object)
+{
+    QEvent event(QEvent::StyleChange);
+    QCoreApplication::sendEvent(&object, &event);
+}
+
+/// A menu bar that is told forgets its active item, so one with an open menu is told later.
+void tell(QMenuBar& bar)
+{
+    QAction* active = bar.activeAction();
+    if (active && active->menu() && active->menu()->isVisible()) {
+        auto* closed = new QObject(&bar);
+        QObject::connect(
+            active->menu(), &QMenu::aboutToHide, closed,
+            [&bar, closed] {
+                delete closed;
+                tell(static_cast<QObject&>(bar));
+            },
+            Qt::QueuedConnection);
+        return;
+    }
+    const QRect place = bar.geometry();
+    tell(static_cast<QObject&>(bar));
+    bar.setGeometry(place); // it has made itself as wide as its parent
+    if (!active || bar.activeAction() || !bar.actions().contains(active))
+        return;
+    const QPoint center = bar.actionGeometry(active).center();
+    QMouseEvent move(QEvent::MouseMove, center, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&bar, &move);
+}
+
 /// As QApplication::setStyle() ends.
 void polishAll(const Widgets& widgets, const QPalette& before)
 {
@@ -142,8 +191,11 @@ void polishAll(const Widgets& widgets, const QPalette& before)
             || widget->testAttribute(Qt::WA_SetStyle))
             continue;
         const QPoint place = widget->pos();
-        QEvent event(QEvent::StyleChange);
-        QCoreApplication::sendEvent(widget, &event);
+        renewCalendarWords(*widget);
+        if (auto* bar = qobject_cast<QMenuBar*>(widget))
+            tell(*bar);
+        else
+            tell(*widget);
         if (!widget)
             continue;
         if (!widget->isWindow()
@@ -226,6 +278,7 @@ bool ThemeSwitcher::switchTo(Theme& theme)
         return replaceThemeBy(theme);
     }();
     polishAll(polished, palette);
+    HeldPaints::start();
     if (focus && !focus->hasFocus()) // wizards build themselves anew
         focus->setFocus(Qt::OtherFocusReason);
     switching = false;

@@ -178,8 +178,9 @@ QPushButton* makeOpener(const QString& text, Make make)
 void fillDialogs(Page& page)
 {
     addMessages(page.addSection(QStringLiteral("Messages")));
-    Section& files = page.addSection(QStringLiteral("Files"));
-    files.add(framed(embedded(makeFileDialog())), true);
+    QFileDialog* files = embedded(makeFileDialog());
+    files->setFixedHeight(54 * Unit); // what it wants depends on when the directory was read
+    page.addSection(QStringLiteral("Files")).add(framed(files), true);
     page.addSection(QStringLiteral("Colors")).add(framed(embedded(makeColorDialog())));
     page.addSection(QStringLiteral("Fonts")).add(framed(embedded(makeFontDialog())));
     page.addSection(QStringLiteral("Calendars"))

@@ -89,11 +89,8 @@ QLayout* containers()
     tabs->setCurrentIndex(1);
     auto* group = new QGroupBox(text("Group"));
     (new QVBoxLayout(group))->addWidget(filled(new QTreeView));
-    auto* calendar = new QCalendarWidget;
-    for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday})
-        calendar->setWeekdayTextFormat(day, {});
     auto* area = new QMdiArea;
-    area->addSubWindow(calendar)->setWindowTitle(text("Sub"));
+    area->addSubWindow(new QCalendarWidget)->setWindowTitle(text("Sub"));
     auto* wizard = new QWizard;
     wizard->setWindowFlags(Qt::Widget);
     auto* page = new QWizardPage;
@@ -120,6 +117,10 @@ std::unique_ptr<QMainWindow> everything()
     window->centralWidget()->setLayout(layout);
     window->resize(1000, 1100);
     window->show();
+    QMenuBar* bar = window->menuBar();
+    const QPoint first = bar->actionGeometry(bar->actions().first()).center();
+    QMouseEvent move(QEvent::MouseMove, first, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(bar, &move);
     return window;
 }
 
@@ -255,22 +256,23 @@ private Q_SLOTS:
         QVERIFY(!QDir::searchPaths(text("icons")).filter(text("Dark")).isEmpty());
     }
 
-    void eachWidgetChangesOnce()
+    void eachWidgetChangesAndPaintsOnce()
     {
-        QWidget window;
-        window.setLayout(inputs());
-        window.show();
-        picture(window);
+        const auto window = everything();
+        picture(*window);
         PaintCounter paints;
         paints.settle();
         EventCounter changes(QEvent::StyleChange);
         QVERIFY(switchTo("Light"));
-        for (const QWidget* widget : window.findChildren<QWidget*>())
-            QCOMPARE(changes.of(widget), 1);
-        QTest::qWait(50);
-        // The second is of the icons that are colored as their buttons are painted.
-        QVERIFY2(paints.paintsOf(&window) <= 2,
-                 qPrintable(QString::number(paints.paintsOf(&window))));
+        QCOMPARE(paints.all(), 0);
+        PaintCounter::wait();
+        QCOMPARE(paints.paintsOf(window.get()), 1);
+        for (const QWidget* widget : window->findChildren<QWidget*>()) {
+            // Boxes of buttons and wizards dress theirs once more.
+            if (!widget->testAttribute(Qt::WA_SetStyle) && !widget->inherits("QWizardPage"))
+                QCOMPARE(changes.of(widget), 1);
+            QVERIFY2(paints.paintsOf(widget) <= 1, widget->metaObject()->className());
+        }
     }
 
     void atAnyMoment()

@@ -11,11 +11,17 @@ class PaintCounter : public QObject
 public:
     PaintCounter() { qApp->installEventFilter(this); }
 
-    /// Waits until nothing is left to be painted, and forgets the paints so far.
-    void settle()
+    /// Waits until nothing is left to be painted.
+    static void wait()
     {
         constexpr int Settling = 50;
         QTest::qWait(Settling);
+    }
+
+    /// Waits until nothing is left to be painted, and forgets the paints so far.
+    void settle()
+    {
+        wait();
         m_paints.clear();
     }
 

@@ -124,6 +124,7 @@ bool BaseStyle::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
 
     switch (event->type()) {
+    case QEvent::StyleChange: // already, as a change that comes with the paint asks for another one
     case QEvent::Paint: colorIconBeforePaint(*widget); break;
     case QEvent::KeyPress:
         if (isAlt(*event)) {
