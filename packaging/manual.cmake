@@ -3,6 +3,6 @@ execute_process(COMMAND ${PROGRAM} --help OUTPUT_VARIABLE help COMMAND_ERROR_IS_
 string(REGEX REPLACE ".*\nOptions:" "" help "${help}")
 string(REGEX REPLACE "\n   +([^ -])" " \\1" help "${help}")
 string(REPLACE "-" "\\-" help "${help}")
-string(REGEX REPLACE "\n  ([^\n]*[^ ])  +([^\n]*)" "\n.TP\n.B \\1\n\\2" OPTIONS "${help}")
+string(REGEX REPLACE "\n  ([^\n]*[^ \n])  +([^\n]*)" "\n.TP\n.B \\1\n\\2" OPTIONS "${help}")
 string(STRIP "${OPTIONS}" OPTIONS)
 configure_file(${TEMPLATE} ${OUTPUT} @ONLY)

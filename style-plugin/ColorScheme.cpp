@@ -7,6 +7,8 @@
 #include <QSaveFile>
 #include <QStandardPaths>
 
+namespace BRELK {
+
 namespace {
 
 constexpr char PathProperty[] = "KDE_COLOR_SCHEME_PATH";
@@ -56,9 +58,9 @@ QByteArray schemeOf(const QPalette& palette)
 
 } // namespace
 
-void offerColorScheme(QApplication& app, const QPalette& palette)
+void ColorScheme::offer(QApplication& app, const QPalette& palette)
 {
-    if (app.property(PathProperty).isValid())
+    if (app.property(PathProperty).toString() != m_path)
         return;
     const QByteArray scheme = schemeOf(palette);
     const QByteArray hash = QCryptographicHash::hash(scheme, QCryptographicHash::Sha1).toHex();
@@ -73,5 +75,15 @@ void offerColorScheme(QApplication& app, const QPalette& palette)
             || !file.commit())
             return;
     }
-    app.setProperty(PathProperty, path);
+    m_path = path;
+    app.setProperty(PathProperty, m_path);
 }
+
+void ColorScheme::takeBack(QApplication& app)
+{
+    if (!m_path.isEmpty() && app.property(PathProperty).toString() == m_path)
+        app.setProperty(PathProperty, {});
+    m_path.clear();
+}
+
+} // namespace BRELK

@@ -1,8 +1,22 @@
 #pragma once
 
+#include <QString>
+
 class QApplication;
 class QPalette;
 
+namespace BRELK {
+
 /// Tells the libraries of KDE, whose views and editors take their colors from a scheme of their
-/// own, to take those of `palette`. A scheme that the program has chosen stays.
-void offerColorScheme(QApplication& app, const QPalette& palette);
+/// own, which one fits a palette. A scheme that the program has chosen stays.
+class ColorScheme
+{
+public:
+    void offer(QApplication& app, const QPalette& palette);
+    void takeBack(QApplication& app);
+
+private:
+    QString m_path; ///< of the scheme on offer
+};
+
+} // namespace BRELK

@@ -1,18 +1,21 @@
 #include "BaseStyle.h"
 #include "BaseTheme.h"
 #include "ColorScheme.h"
+#include "ProgramLooks.h"
+#include "ProgramPalette.h"
 #include "ThemeRepositories.h"
 
 #include <QApplication>
 #include <QDebug>
-#include <QFont>
+#include <QEvent>
 #include <QIcon>
 #include <QPointer>
 #include <QStylePlugin>
-#include <QToolTip>
 
 // The key "varn" gives the theme that VARN_THEME names, of the repository VARN_THEME_REPOSITORY;
 // "varn-dark" and the like a theme that is installed.
+
+using namespace BRELK;
 
 namespace {
 
@@ -31,24 +34,8 @@ QString themeOf(const QString& key)
 QStringList repositories()
 {
     const QString chosen = qEnvironmentVariable("VARN_THEME_REPOSITORY");
-    return chosen.isEmpty() ? BRELK::ThemeRepositories::all() : QStringList{chosen};
+    return chosen.isEmpty() ? ThemeRepositories::all() : QStringList{chosen};
 }
-
-/// What an application had before it was given a theme, and has again without one.
-struct Looks
-{
-    QFont font = QApplication::font();
-    QPalette toolTips = QToolTip::palette();
-    QString iconTheme = QIcon::themeName();
-
-    void restore() const
-    {
-        QApplication::setFont(font);
-        QToolTip::setPalette(toolTips);
-        QIcon::setThemeName(iconTheme);
-        qApp->setProperty(CustomActionIcons, {});
-    }
-};
 
 /// The theme of this process: a style plugin may be asked for its style again and again.
 class Session : public QObject
@@ -64,43 +51,84 @@ public:
         ++m_styles;
         connect(style, &QObject::destroyed, this, [this] {
             if (--m_styles == 0 && !QCoreApplication::closingDown())
-                m_before.restore();
+                leave();
         });
         return style;
     }
 
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        if (event->type() == QEvent::ApplicationPaletteChange)
+            judgePalette();
+        return false;
+    }
+
 private:
+    QApplication& app() const { return *static_cast<QApplication*>(parent()); }
+
     QStyle* applied(const QString& name)
     {
-        auto& app = *static_cast<QApplication*>(parent());
-        const QString path = BRELK::ThemeRepositories::find(name, repositories());
+        const QString path = ThemeRepositories::find(name, repositories());
         if (path.isEmpty()) {
             qDebug().noquote() << QString(QLatin1String("There is no theme ") % name
                                           % QLatin1String(" in ")
                                           % repositories().join(QLatin1String(", ")));
             return nullptr;
         }
-        m_before = {};
+        m_before = ProgramLooks::current();
+        BaseTheme theme(path);
+        QStyle* style = theme.createStyle(&app());
+        if (!style)
+            return nullptr;
         // Programs put icons of their own into line edits, and know nothing of this property.
-        app.setProperty(CustomActionIcons, true);
-        BRELK::BaseTheme theme(path);
-        QStyle* style = theme.createStyle(&app);
-        if (style) {
-            m_palette = style->standardPalette();
-            offerColorScheme(app, m_palette);
-        }
+        app().setProperty(CustomActionIcons, true);
+        if (!m_before.iconTheme.isEmpty())
+            QIcon::setThemeName(m_before.iconTheme);
+        m_themed = ProgramLooks::current();
+        m_palette = style->standardPalette();
+        m_worn = m_palette;
+        judgePalette();
+        app().installEventFilter(this);
         return style;
     }
 
     QStyle* again() const
     {
-        auto* style = new BRELK::BaseStyle;
+        auto* style = new BaseStyle;
         style->setPalette(m_palette);
         return style;
     }
 
-    Looks m_before;
-    QPalette m_palette;
+    /// A program that insists on half a palette has it.
+    void judgePalette()
+    {
+        const QPalette palette = QApplication::palette();
+        const bool isOfProgram = palette.resolve() != 0;
+        if (isOfProgram && palette != m_refused && !ProgramPalette::isWhole(palette, m_palette)) {
+            m_refused = palette;
+            QApplication::setPalette({});
+            return;
+        }
+        const QPalette& worn = isOfProgram ? palette : m_palette;
+        m_scheme.offer(app(), worn);
+        ProgramPalette::handOn(m_worn, worn);
+        m_worn = worn;
+    }
+
+    void leave()
+    {
+        app().removeEventFilter(this);
+        app().setProperty(CustomActionIcons, {});
+        m_before.replace(m_themed);
+        m_scheme.takeBack(app());
+    }
+
+    ProgramLooks m_before;
+    ProgramLooks m_themed;
+    QPalette m_palette; ///< of the theme
+    QPalette m_worn; ///< that or one of the program's
+    QPalette m_refused;
+    ColorScheme m_scheme;
     int m_styles = 0; ///< that live
 };
 

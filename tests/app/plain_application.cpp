@@ -1,7 +1,11 @@
 #include <QApplication>
 #include <QIcon>
+#include <QLabel>
+#include <QListView>
 #include <QPointer>
 #include <QPushButton>
+#include <QSettings>
+#include <QStringBuilder>
 #include <QStyle>
 #include <QStyleFactory>
 #include <QToolTip>
@@ -34,22 +38,54 @@ void printLooks(const char* moment)
     print("font", QString::number(QApplication::font().pointSizeF()));
     print("icon theme", QIcon::themeName());
     print("sheet", qApp->styleSheet());
+    const QSettings scheme(qApp->property("KDE_COLOR_SCHEME_PATH").toString(),
+                           QSettings::IniFormat);
+    const QStringList ground =
+        scheme.value(QStringLiteral("Colors:View/BackgroundNormal")).toStringList();
+    print("scheme", ground.size() < 3
+                        ? QStringLiteral("none")
+                        : kindOf({ground[0].toInt(), ground[1].toInt(), ground[2].toInt()}));
+}
+
+/// The palette that the program sets while it runs: white grounds of views, or of everything.
+void setPalette(bool isWhole)
+{
+    QPalette palette = isWhole ? QPalette(QColor(Qt::white)) : QApplication::palette();
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    QApplication::setPalette(palette);
 }
 
 } // namespace
 
 /// A program that was built without the library and prints what it looks like. PLAIN_SHEET is its
-/// style sheet, PLAIN_PALETTE the color of its palette.
+/// style sheet, PLAIN_PALETTE the color of its palette, PLAIN_LATER what it sets later, PLAIN_ICONS
+/// its icon theme.
 int main(int argc, char** argv)
 {
     print("before", QStyleFactory::create(QStringLiteral("varn")) ? QStringLiteral("a style")
                                                                   : QStringLiteral("none"));
     if (qEnvironmentVariableIsSet("PLAIN_PALETTE"))
         QApplication::setPalette(QPalette(QColor(qEnvironmentVariable("PLAIN_PALETTE"))));
+    QIcon::setThemeName(qEnvironmentVariable("PLAIN_ICONS"));
     const QApplication app(argc, argv);
     if (qEnvironmentVariableIsSet("PLAIN_SHEET"))
         qApp->setStyleSheet(qEnvironmentVariable("PLAIN_SHEET"));
     printLooks("style");
+
+    QLabel label;
+    QListView view;
+    label.ensurePolished();
+    view.ensurePolished();
+    if (qEnvironmentVariableIsSet("PLAIN_LATER"))
+        setPalette(qEnvironmentVariable("PLAIN_LATER") == QLatin1String("whole"));
+    const auto pair = [](const QWidget& widget) {
+        return QString(kindOf(widget.palette().color(widget.foregroundRole()))
+                       % QLatin1String(" on ")
+                       % kindOf(widget.palette().color(widget.backgroundRole())));
+    };
+    print("label", pair(label));
+    print("view", pair(*view.viewport()));
 
     QPushButton button;
     QPalette palette = button.palette();
