@@ -1,6 +1,7 @@
 #include "ThemeIndex.h"
 
 #include "ColorDerivations.h"
+#include "NamePattern.h"
 
 using namespace BRELK;
 
@@ -60,15 +61,16 @@ void ThemeIndex::addEntries(const ThemeElement& element, int level)
     entry.isGradient = tag == QLatin1String("LinearGradientBrush");
     entry.level = level;
     entry.place = element.place();
-    for (const NamedThemeElement& spelt : element.spellNames(MostNames)) {
-        entry.name = spelt.name;
-        entry.recipe = recipeOf(spelt.element);
-        entry.named = colorsOf(spelt.element);
-        for (const QString& named : qAsConst(entry.named))
-            m_named.insert(named);
+    entry.recipe = recipeOf(element);
+    entry.named = colorsOf(element);
+    for (const QString& named : qAsConst(entry.named))
+        m_named.insert(named);
+    const QString pattern = element.getAttribute(QStringLiteral("name"));
+    for (const QString& name : expandNamePattern(pattern, MostNames)) {
+        entry.name = name;
         auto& entries = entry.isBrush ? m_brushes : m_colors;
-        if (!entries.contains(entry.name))
-            entries.insert(entry.name, entry);
+        if (!entries.contains(name))
+            entries.insert(name, entry);
     }
 }
 
