@@ -21,7 +21,7 @@ LAYERS = (
                                                             "ThemeFactory.*", "ThemeQApplication.*",
                                                             "ThemeSwitcher.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
-        "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
+        "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "Opacities.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
         "WidgetProperties.*", "WidgetTraits.*")]),
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",

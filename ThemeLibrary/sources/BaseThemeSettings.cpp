@@ -10,8 +10,7 @@ BaseThemeSettings::BaseThemeSettings(const QString& filePath)
     const ThemeDocument document(filePath, budget);
     m_status = Status(document.getStatus());
     document.reportFailure();
-    if (!m_document.setContent(document.getText()) && m_status == NO_ERROR)
-        m_status = READ_ERROR;
+    m_document = document.getContent();
     m_themeRootNode = m_document.firstChildElement(QStringLiteral("theme"));
 }
 

@@ -1,6 +1,7 @@
 #include "ThemeConfigurationReader.h"
 
 #include "ColorArithmetic.h"
+#include "NamePattern.h"
 #include "ThemeConfigurationReader_p.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
@@ -12,7 +13,6 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
-#include <vector>
 
 namespace BRELK {
 
@@ -99,14 +99,13 @@ void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
 {
     const QString pattern = element.getAttribute(QStringLiteral("name"));
     const int most = std::min(MostNamesOfElement, MostNames - entries.getNames().size());
-    const std::vector<NamedThemeElement> names = element.spellNames(most);
-    if (names.empty() && !pattern.isEmpty()) {
+    const QStringList names = expandNamePattern(pattern, most);
+    if (names.isEmpty() && !pattern.isEmpty()) {
         element.reject(
             QStringLiteral("the braces in its name do not match, or there are too many names"));
         return;
     }
-    const auto isNamed = [](const NamedThemeElement& named) { return !named.name.isEmpty(); };
-    if (!isName(pattern) || !std::all_of(names.begin(), names.end(), isNamed)) {
+    if (!isName(pattern) || names.contains(QString())) {
         element.reject(QStringLiteral("it needs a name without blanks, \"/\" and \"@\""));
         return;
     }
@@ -114,8 +113,8 @@ void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
     const bool internal = readInternal(element, ok);
     if (!ok)
         return;
-    for (const NamedThemeElement& named : names)
-        entries.add(named.name, {named.element, level, internal});
+    for (const QString& name : names)
+        entries.add(name, {element, level, internal});
 }
 
 void collectNamed(ThemeEntries& entries, const ThemeElement& list, const char* tag, int level)
@@ -237,32 +236,19 @@ QFont::Weight readWeight(const ThemeElement& element, bool& ok)
     return QFont::Normal;
 }
 
-/// The first of `families` that is installed; empty when none is.
-QString firstInstalled(const QStringList& families)
-{
-    const QFontDatabase database;
-    const QStringList installed = database.families();
-    const auto isListed = [&installed](const QString& family) {
-        return installed.contains(family, Qt::CaseInsensitive);
-    };
-    // Whether other names stand for a font is only asked when none is listed, as it takes long.
-    auto found = std::find_if(families.begin(), families.end(), isListed);
-    if (found == families.end())
-        found = std::find_if(families.begin(), families.end(), [&database](const QString& family) {
-            return database.hasFamily(family);
-        });
-    return found == families.end() ? QString() : *found;
-}
-
 /// The first of `families` that is installed, otherwise the platform's font.
 QFont chooseFont(const QStringList& families)
 {
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return families.isEmpty() ? QFont() : QFont(families.first());
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    const QString family = firstInstalled(families);
-    if (!family.isEmpty())
-        font.setFamily(family);
+    const QFontDatabase database;
+    const auto isInstalled = [&database](const QString& family) {
+        return database.hasFamily(family);
+    };
+    const auto family = std::find_if(families.begin(), families.end(), isInstalled);
+    if (family != families.end())
+        font.setFamily(*family);
     return font;
 }
 

@@ -7,8 +7,7 @@ namespace BRELK::ArrowIcons {
 
 void draw(const PaintContext& context, const QIcon& icon, const QRect& rect, const QBrush& brush)
 {
-    constexpr int IconSize = 16;
-    const int size = qMin(context.measure().dpiScaled(IconSize), qMin(rect.width(), rect.height()));
+    const int size = qMin(context.measure().indicatorSize(), qMin(rect.width(), rect.height()));
     Shapes::drawIcon(context, icon, brush, rect, size);
 }
 

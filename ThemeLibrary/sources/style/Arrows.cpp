@@ -13,16 +13,16 @@ namespace BRELK::Arrows {
 
 namespace {
 
-constexpr int MenuIndicatorSize = 20; ///< keeps the arrow off border and focus mark
-constexpr int ComboBoxIndicatorSize =
-    24; ///< where the text of a combo box ends, its arrow area begins
+constexpr int BesideMenuArrow = 4; ///< keeps the arrow off border and focus mark
+constexpr int BesideComboBoxArrow = 8; ///< up to where the text of a combo box ends
 
 } // namespace
 
 int indicatorWidth(const MeasureContext& context)
 {
     const bool inComboBox = qstyleoption_cast<const QStyleOptionComboBox*>(context.option);
-    return context.dpiScaled(inComboBox ? ComboBoxIndicatorSize : MenuIndicatorSize);
+    return context.indicatorSize()
+           + context.dpiScaled(inComboBox ? BesideComboBoxArrow : BesideMenuArrow);
 }
 
 namespace {

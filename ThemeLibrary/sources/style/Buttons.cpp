@@ -8,6 +8,7 @@
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
 
+#include <QAbstractButton>
 #include <QAbstractSpinBox>
 #include <QComboBox>
 
@@ -165,6 +166,15 @@ bool isMeantForFilling(const StyleContext& context, const QBrush& background)
     return BaseStyle::isFlatButton(&context.option) && !isFilled(context) && background.isOpaque();
 }
 
+/// The keyboard's place is seen without colors too: there the border takes the accent and is two
+/// pixels wide, and the mark inside it comes second.
+bool showsFocus(const StyleContext& context)
+{
+    constexpr QStyle::State Shown = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    return (context.option.state & Shown) == Shown
+           && qobject_cast<const QAbstractButton*>(context.widget);
+}
+
 /// A spin box shows on its frame, not on its buttons, that it holds an error.
 bool showsError(const StyleContext& context)
 {
@@ -260,15 +270,21 @@ void paintPanel(const PaintContext& context)
     if (!filled && !hasError && BaseStyle::isFlatButton(&context.option))
         return;
     const QColor errorColor = context.color(ThemeNames::StatusDangerColor);
+    const bool isFocused = showsFocus(context);
     if (hasError)
         brushes.borderBrush = errorColor;
+    else if (isFocused)
+        brushes.borderBrush = context.brush(ThemeNames::MainBrush);
     else if (context.flag(WidgetProperties::Frameless))
         brushes.borderBrush = Qt::NoBrush;
 
     const QRect rect = panelRect(context);
     const int radius = panelRadius(context, rect);
+    const Corners corners = straightCorners(context);
     Shapes::drawBox(context, rect, radius, filled ? brushes.backgroundBrush : QBrush(),
-                    brushes.borderBrush, straightCorners(context));
+                    brushes.borderBrush, corners);
+    if (isFocused)
+        Shapes::drawInnerBorder(context, rect, radius, brushes.borderBrush, corners);
     if (hasError && !(context.rightToLeft() && isArrowOfEditor(context.widget)))
         Helpers::drawInputStatusIndicator(rect, radius, errorColor, &context.painter);
 }

@@ -14,8 +14,8 @@ namespace BRELK::CheckBoxes {
 
 namespace {
 
-constexpr int SwitchWidth = 32;
-constexpr int VerticalPadding = 2;
+constexpr int SwitchWidthInHeights = 2;
+constexpr int VerticalPadding = 1;
 constexpr int FocusMargin = 3; ///< what the focus mark needs after the label
 
 QSize labelledSize(const MeasureContext& context, const QSize& contents, const QSize& indicator,
@@ -31,9 +31,10 @@ QSize labelledSize(const MeasureContext& context, const QSize& contents, const Q
 
 int indicatorWidth(const MeasureContext& context)
 {
+    const int height = context.metric(QStyle::PM_IndicatorHeight);
     return WidgetProperties::flag(context.widget, WidgetProperties::Switch)
-               ? context.dpiScaled(SwitchWidth)
-               : context.metric(QStyle::PM_IndicatorHeight);
+               ? height * SwitchWidthInHeights
+               : height;
 }
 
 int labelSpacing(const MeasureContext& context)
@@ -86,23 +87,35 @@ struct IndicatorBrushes
     QBrush background;
     QBrush border;
     QBrush mark;
+    bool isWide; ///< the border
 };
 
-/// A checked indicator is filled with what is its border at rest, so that its mark stands out from
-/// it; the mouse and a press brighten border or mark.
+/// A checked indicator has a border in the color of its mark, and so has one that is pointed at or
+/// pressed: both together make it wider.
 IndicatorBrushes indicatorBrushes(const PaintContext& context)
 {
-    const bool hovered = BaseStyle::isHovered(&context.option);
+    const bool pointed =
+        BaseStyle::isHovered(&context.option) || BaseStyle::isPressed(context.option);
+    const bool checked = context.has(QStyle::State_On) || context.has(QStyle::State_NoChange);
     IndicatorBrushes brushes{context.brush(ThemeNames::ControlBackgroundBrush),
                              context.brush(ThemeNames::ControlBorderBrush),
-                             context.brush(ThemeNames::ForegroundMouseOverBrush)};
-    if (hovered || BaseStyle::isPressed(context.option))
+                             context.brush(ThemeNames::ForegroundMouseOverBrush),
+                             pointed && checked};
+    if (pointed || checked)
         brushes.border = brushes.mark;
     if (context.has(QStyle::State_Selected)) // in a row of a view
         brushes.border = context.option.palette.brush(QPalette::HighlightedText);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
         brushes.border = context.color(ThemeNames::StatusDangerColor);
     return brushes;
+}
+
+void paintBox(const PaintContext& context, int radius, const IndicatorBrushes& brushes, bool isWide)
+{
+    const QRect& rect = context.option.rect;
+    Shapes::drawBox(context, rect, radius, brushes.background, brushes.border);
+    if (isWide)
+        Shapes::drawInnerBorder(context, rect, radius, brushes.border);
 }
 
 /// The knob of a switch: at the end when on, in the middle when partially on.
@@ -141,7 +154,7 @@ void paintIndicator(const PaintContext& context)
     const QRect& rect = context.option.rect;
     const bool isSwitch = context.flag(WidgetProperties::Switch);
     const int radius = isSwitch ? rect.height() / 2 : Shapes::cornerRadius(ThemeNames::BaseSize);
-    Shapes::drawBox(context, rect, radius, brushes.background, brushes.border);
+    paintBox(context, radius, brushes, brushes.isWide);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
         Helpers::drawInputStatusIndicator(rect, radius, brushes.border.color(), &context.painter);
 
@@ -157,10 +170,9 @@ void paintRadioIndicator(const PaintContext& context)
 {
     const IndicatorBrushes brushes = indicatorBrushes(context);
     const QRect& rect = context.option.rect;
-    Shapes::drawBox(context, rect, qMin(rect.width(), rect.height()) / 2, brushes.background,
-                    brushes.border);
-    if (context.flag(WidgetProperties::DrawErrorIndicator)) // seen without colors too
-        Shapes::drawInnerBorder(context, rect, rect.height() / 2, brushes.border);
+    const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
+    paintBox(context, qMin(rect.width(), rect.height()) / 2, brushes,
+             hasError || brushes.isWide); // an error is seen without colors too
     if (context.has(QStyle::State_On))
         context.style.drawRadioMark(&context.painter, rect.adjusted(2, 2, -2, -2), brushes.mark);
 }

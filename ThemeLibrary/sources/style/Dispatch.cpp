@@ -117,6 +117,7 @@ RectRule ruleOf(QStyle::SubElement element)
     case QStyle::SE_ItemViewItemDecoration:     return by<ItemViews::markRect>;
     case QStyle::SE_ItemViewItemText:           return by<ItemViews::textRect>;
     case QStyle::SE_LineEditContents:           return by<LineEdits::contentsRect>;
+    case QStyle::SE_ShapedFrameContents:        return by<Frames::contentsRect>;
     case QStyle::SE_TabBarTabRightButton:       return by<Tabs::rightButtonRect>;
     case QStyle::SE_TabBarTabText:              return by<Tabs::textRect>;
     case QStyle::SE_TabWidgetTabBar:            return by<Tabs::barRect>;

@@ -84,6 +84,7 @@ void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comb
 namespace Frames {
 int frameWidth(const MeasureContext& context);
 int focusMargin(const MeasureContext& context);
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base);
 void paintFocusRect(const PaintContext& context);
 void paintToolTip(const PaintContext& context);
 void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& frame);

@@ -21,6 +21,13 @@ namespace {
 constexpr int FrameWidth = 1;
 constexpr int ScrollAreaFrameWidth = 2;
 
+/// The popup of a combo box has a line around its list that the library's style sheet draws where
+/// it is in force: Qt then asks for no frame.
+bool hasInnerLine(const QStyleOptionFrame& popup)
+{
+    return popup.frameShape != QFrame::NoFrame;
+}
+
 } // namespace
 
 int frameWidth(const MeasureContext& context)
@@ -45,7 +52,24 @@ int focusMargin(const MeasureContext& context)
                                                      : InputMetrics::PopupTextMargin);
 }
 
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base)
+{
+    if (!WidgetTraits::isComboBoxPopup(context.widget))
+        return base;
+    const int lines = hasInnerLine(frame) ? 2 : 1;
+    return frame.rect.adjusted(lines, lines, -lines, -lines);
+}
+
 namespace {
+
+/// The outer line stands out from the window.
+void paintPopupFrame(const PaintContext& context, const QStyleOptionFrame& frame)
+{
+    context.draw(QStyle::PE_Frame, frame);
+    if (hasInnerLine(frame))
+        Shapes::drawInnerBorder(context, frame.rect, 0,
+                                context.brush(ThemeNames::BackgroundSubLevel1Brush));
+}
 
 /// Raised and sunken frames need a light that is lighter than the window.
 bool isPlain(const QStyleOptionFrame& frame)
@@ -118,6 +142,10 @@ void paintToolTip(const PaintContext& context)
 
 void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& frame)
 {
+    if (WidgetTraits::isComboBoxPopup(context.widget)) {
+        paintPopupFrame(context, frame);
+        return;
+    }
     switch (frame.frameShape) {
     case QFrame::StyledPanel: context.draw(QStyle::PE_Frame, frame); break;
     case QFrame::HLine:

@@ -1,6 +1,7 @@
 #include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
+#include "Opacities.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -21,8 +22,6 @@
 namespace BRELK::ItemViews {
 
 namespace {
-
-constexpr int IndicatorSize = 16; ///< of the arrow that tells of children
 
 int listViewPadding(const BaseStyle& style)
 {
@@ -53,7 +52,7 @@ bool showsChildren(const QWidget* widget, const QStyleOptionViewItem& item)
 QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item, const QSize&,
                const QSize& base)
 {
-    const int indicator = showsChildren(context.widget, item) ? IndicatorSize : 0;
+    const int indicator = showsChildren(context.widget, item) ? context.indicatorSize() : 0;
     return {base.width() + indicator,
             qMax(base.height(), context.metric(QStyle::PM_HeaderDefaultSectionSizeVertical))};
 }
@@ -80,19 +79,24 @@ QRect textRect(const StyleContext& context, const QRect& base)
 
 namespace {
 
-constexpr qreal HoverOpacity = 0.16;
 constexpr int TextMargin = 1; ///< beside the focus margin, between text and rectangle
 
+/// Whether the keyboard moves in this view. The rows of a popup have it while they are seen.
+bool isInFront(const StyleContext& context)
+{
+    return context.widget
+               ? context.widget->hasFocus() || WidgetTraits::isComboBoxList(context.widget)
+               : context.has(QStyle::State_Active);
+}
+
+/// Words on a selection are those that the palette has for the one that is painted.
 QPalette::ColorGroup colorGroup(const StyleContext& context)
 {
     if (!context.enabled())
         return QPalette::Disabled;
-    return context.has(QStyle::State_Active) ? QPalette::Active : QPalette::Inactive;
-}
-
-bool hasViewFocus(const StyleContext& context)
-{
-    return context.widget ? context.widget->hasFocus() : context.has(QStyle::State_Active);
+    const bool isActive = context.has(QStyle::State_Selected) ? isInFront(context)
+                                                              : context.has(QStyle::State_Active);
+    return isActive ? QPalette::Active : QPalette::Inactive;
 }
 
 /// An application that colors the selection keeps its color.
@@ -102,8 +106,8 @@ QBrush selectionBrush(const StyleContext& context)
         context.widget && context.widget->palette().resolve() & (1U << QPalette::Highlight);
     if (isSet || OwnColors::has(context, QPalette::Highlight))
         return context.option.palette.brush(colorGroup(context), QPalette::Highlight);
-    const bool focused = hasViewFocus(context) || WidgetTraits::isComboBoxList(context.widget);
-    return context.brush(focused ? ThemeNames::MainBrush : ThemeNames::MainSubLevel1Brush);
+    return context.brush(isInFront(context) ? ThemeNames::MainBrush
+                                            : ThemeNames::MainSubLevel1Brush);
 }
 
 QBrush textBrush(const StyleContext& context)
@@ -152,7 +156,7 @@ void paintHover(const PaintContext& context, const QStyleOptionViewItem& item)
     if (context.has(QStyle::State_Selected) || !isHighlighted(context, item))
         return;
     const qreal opacity = context.painter.opacity();
-    context.painter.setOpacity(opacity * HoverOpacity);
+    context.painter.setOpacity(opacity * Opacities::HoveredItem);
     context.painter.fillRect(item.rect, context.brush(ThemeNames::MainBrush));
     context.painter.setOpacity(opacity);
 }
@@ -214,6 +218,7 @@ void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item
     QStyleOptionViewItem check = item;
     check.rect = rect;
     check.state &= ~QStyle::State_HasFocus;
+    check.palette.setCurrentColorGroup(colorGroup(context));
     switch (item.checkState) {
     case Qt::Checked: check.state |= QStyle::State_On; break;
     case Qt::PartiallyChecked: check.state |= QStyle::State_NoChange; break;
@@ -290,7 +295,8 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
 {
     const int margin = context.metric(QStyle::PM_FocusFrameHMargin) + TextMargin;
     const int room =
-        scrollBarRoom(context) + (showsChildren(context.widget, item) ? IndicatorSize : 0);
+        scrollBarRoom(context)
+        + (showsChildren(context.widget, item) ? context.measure().indicatorSize() : 0);
     const QRect rect = context.rightToLeft() ? whole.adjusted(margin + room, 0, -margin, 0)
                                              : whole.adjusted(margin, 0, -margin - room, 0);
     Qt::Alignment given = item.displayAlignment;
@@ -309,11 +315,10 @@ void paintText(const PaintContext& context, const QStyleOptionViewItem& item, co
 void paintChildIndicator(const PaintContext& context, const QBrush& brush)
 {
     const QRect& rect = context.option.rect;
+    const int side = context.measure().indicatorSize();
     const int end = listViewPadding(context.style) / 2 + scrollBarRoom(context);
-    const QRect place(rect.right() + 1 - end - IndicatorSize, rect.y(), IndicatorSize,
-                      rect.height());
-    Shapes::drawIcon(context, themeValues().rightArrow.icon(), brush, context.visual(place),
-                     IndicatorSize);
+    const QRect place(rect.right() + 1 - end - side, rect.y(), side, rect.height());
+    Shapes::drawIcon(context, themeValues().rightArrow.icon(), brush, context.visual(place), side);
 }
 
 void paintItemFocus(const PaintContext& context, const QStyleOptionViewItem& item)
@@ -340,7 +345,8 @@ void paintCurrent(const PaintContext& context)
 void paintArrow(const PaintContext& context, bool down)
 {
     QStyleOption arrow = context.option;
-    arrow.rect = QRect(0, 0, IndicatorSize, IndicatorSize);
+    const int side = context.measure().indicatorSize();
+    arrow.rect = QRect(0, 0, side, side);
     arrow.rect.moveCenter(context.option.rect.center());
     ButtonContent::setForeground(arrow, textBrush(context));
     const QStyle::PrimitiveElement sideways =

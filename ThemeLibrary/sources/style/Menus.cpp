@@ -1,6 +1,7 @@
 #include "ArrowIcons.h"
 #include "ButtonContent.h"
 #include "Families.h"
+#include "Opacities.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -19,8 +20,6 @@ constexpr int PanelMargin = 4;
 constexpr int RowPadding = 5;
 constexpr int SeparatorHeight = 9;
 constexpr int ItemPadding = 8;
-constexpr int MarkSize = 16;
-constexpr int ArrowSize = 16;
 constexpr int ShortcutSpacing = 24; ///< between a text and the shortcuts
 constexpr int BarItemPadding = 8;
 constexpr int BarRowPadding = 4;
@@ -45,8 +44,8 @@ struct Columns
 Columns columnsOf(const MeasureContext& context, const QStyleOptionMenuItem& item)
 {
     const int padding = context.dpiScaled(ItemPadding);
-    const int mark = qMax(item.maxIconWidth, context.dpiScaled(MarkSize));
-    return {mark + 2 * padding, context.dpiScaled(ArrowSize) + padding};
+    const int mark = qMax(item.maxIconWidth, context.indicatorSize());
+    return {mark + 2 * padding, context.indicatorSize() + padding};
 }
 
 bool isSection(const QStyleOptionMenuItem& item)
@@ -114,9 +113,8 @@ void paintSeparator(const PaintContext& context, const QStyleOptionMenuItem& ite
 void paintMarkBorder(const PaintContext& context, const QRect& rect, int radius,
                      const QBrush& brush)
 {
-    constexpr qreal Opacity = 0.6;
     const qreal opacity = context.painter.opacity();
-    context.painter.setOpacity(isSelected(context) ? opacity : opacity * Opacity);
+    context.painter.setOpacity(isSelected(context) ? opacity : opacity * Opacities::MenuMarkBorder);
     Shapes::drawBox(context, rect, radius, Qt::NoBrush, brush);
     context.painter.setOpacity(opacity);
 }
@@ -126,7 +124,7 @@ void paintMarkBorder(const PaintContext& context, const QRect& rect, int radius,
 void paintMark(const PaintContext& context, const QStyleOptionMenuItem& item, const QRect& column,
                const QBrush& brush)
 {
-    const int side = context.measure().dpiScaled(MarkSize);
+    const int side = context.measure().indicatorSize();
     QRect rect(0, 0, side, side);
     rect.moveCenter(column.center());
     const bool checkable = item.checkType != QStyleOptionMenuItem::NotCheckable;
@@ -252,7 +250,7 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
 
     if (item.menuItemType == QStyleOptionMenuItem::SubMenu) {
         QStyleOptionMenuItem arrow = item;
-        const int side = measure.dpiScaled(ArrowSize);
+        const int side = measure.indicatorSize();
         arrow.rect = context.visual(
             {rect.right() + 1 - columns.end, rect.y() + (rect.height() - side) / 2, side, side});
         ButtonContent::setForeground(arrow, brush);

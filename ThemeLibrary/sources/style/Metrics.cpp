@@ -14,7 +14,8 @@ enum class Unit : unsigned char {
     BaseStyle, ///< nobody's here
     Pixels,
     Scaled, ///< pixels of a screen of 96 dots per inch
-    Row ///< the padding above and below the text of a row, scaled
+    Row, ///< the padding above and below the text of a row, scaled
+    Indicator ///< what is added to the side of an indicator, scaled
 };
 
 struct Metric
@@ -40,6 +41,11 @@ constexpr Metric row(unsigned name, int padding)
     return {name, Unit::Row, padding};
 }
 
+constexpr Metric indicator(unsigned name, int added = 0)
+{
+    return {name, Unit::Indicator, added};
+}
+
 constexpr Metric by(unsigned name, int (*exception)(const MeasureContext&))
 {
     return {name, Unit::Pixels, 0, exception};
@@ -56,9 +62,9 @@ constexpr Metric Metrics[] = {
     by(QStyle::PM_MenuButtonIndicator, Arrows::indicatorWidth),
 
     by(QStyle::PM_IndicatorWidth, CheckBoxes::indicatorWidth),
-    scaled(QStyle::PM_IndicatorHeight, 16),
-    scaled(QStyle::PM_ExclusiveIndicatorWidth, 16),
-    scaled(QStyle::PM_ExclusiveIndicatorHeight, 16),
+    indicator(QStyle::PM_IndicatorHeight),
+    indicator(QStyle::PM_ExclusiveIndicatorWidth),
+    indicator(QStyle::PM_ExclusiveIndicatorHeight),
     by(QStyle::PM_CheckBoxLabelSpacing, CheckBoxes::labelSpacing),
     scaled(QStyle::PM_RadioButtonLabelSpacing, 8),
 
@@ -75,7 +81,7 @@ constexpr Metric Metrics[] = {
     by(QStyle::PM_LayoutRightMargin, WindowParts::layoutMargin),
     by(QStyle::PM_LayoutBottomMargin, WindowParts::layoutMargin),
     scaled(QStyle::PM_LayoutHorizontalSpacing, 8),
-    scaled(QStyle::PM_LayoutVerticalSpacing, 8),
+    scaled(QStyle::PM_LayoutVerticalSpacing, 4),
     scaled(QStyle::PM_SplitterWidth, 6),
     by(QStyle::PM_SmallIconSize, LineEdits::iconSize),
     scaled(QStyle::PM_LargeIconSize, 32),
@@ -83,14 +89,14 @@ constexpr Metric Metrics[] = {
 
     // Item views
     scaled(BaseStyle::BRELK_PM_ListViewPadding, 8),
-    row(QStyle::PM_HeaderDefaultSectionSizeVertical, 4),
+    row(QStyle::PM_HeaderDefaultSectionSizeVertical, 3),
     scaled(QStyle::PM_HeaderDefaultSectionSizeHorizontal, 100),
     pixels(QStyle::PM_HeaderMargin, 0), // the padding of sections is their own
     scaled(QStyle::PM_HeaderGripMargin, 4),
-    scaled(QStyle::PM_HeaderMarkSize, 10),
+    indicator(QStyle::PM_HeaderMarkSize, -6),
     scaled(QStyle::PM_ListViewIconSize, 16),
     scaled(QStyle::PM_IconViewIconSize, 32),
-    scaled(QStyle::PM_TreeViewIndentation, 20),
+    indicator(QStyle::PM_TreeViewIndentation, 4),
 
     // Menus. The panel has the border in it; a frame besides would be drawn over it.
     pixels(QStyle::PM_MenuHMargin, 2),
@@ -123,8 +129,8 @@ constexpr Metric Metrics[] = {
     scaled(QStyle::PM_TabBarTabVSpace, 12),
     scaled(QStyle::PM_TabBarIconSize, 16),
     scaled(QStyle::PM_TabBarScrollButtonWidth, 24),
-    scaled(QStyle::PM_TabCloseIndicatorWidth, 16),
-    scaled(QStyle::PM_TabCloseIndicatorHeight, 16),
+    indicator(QStyle::PM_TabCloseIndicatorWidth),
+    indicator(QStyle::PM_TabCloseIndicatorHeight),
     pixels(QStyle::PM_TabBarBaseOverlap, 1),
     pixels(QStyle::PM_TabBarBaseHeight, 0),
     pixels(QStyle::PM_TabBarTabOverlap, 0),
@@ -144,9 +150,9 @@ constexpr Metric Metrics[] = {
     scaled(QStyle::PM_MdiSubWindowMinimizedWidth, 196),
 
     // Tool bars
-    scaled(QStyle::PM_ToolBarIconSize, 16),
-    scaled(QStyle::PM_ToolBarItemMargin, 4),
-    scaled(QStyle::PM_ToolBarItemSpacing, 4),
+    scaled(QStyle::PM_ToolBarIconSize, 24),
+    scaled(QStyle::PM_ToolBarItemMargin, 2),
+    scaled(QStyle::PM_ToolBarItemSpacing, 2),
     scaled(QStyle::PM_ToolBarHandleExtent, 8),
     scaled(QStyle::PM_ToolBarSeparatorExtent, 9),
     scaled(QStyle::PM_ToolBarExtensionExtent, 16),
@@ -177,6 +183,7 @@ int valueOf(const Metric& metric, const MeasureContext& context)
     switch (metric.unit) {
     case Unit::Scaled: return context.dpiScaled(metric.value);
     case Unit::Row: return context.rowHeight(metric.value);
+    case Unit::Indicator: return context.indicatorSize() + context.dpiScaled(metric.value);
     default: return metric.value;
     }
 }

@@ -161,9 +161,20 @@ ThemeNames::FontName tabFontName(const QWidget& tabs)
     return name;
 }
 
+/// In an application that writes larger than the theme, tabs keep step with the texts around them.
+QFont inStep(QFont font)
+{
+    const qreal themed = themeValues().fonts.value(ThemeNames::BaseFont).pointSizeF();
+    const QFont given = QApplication::font();
+    const bool isGiven = given.resolve() & QFont::SizeResolved;
+    if (isGiven && themed > 0 && font.pointSizeF() > 0 && given.pointSizeF() > themed)
+        font.setPointSizeF(font.pointSizeF() * given.pointSizeF() / themed);
+    return font;
+}
+
 void setTabFont(BaseStyle&, QWidget& widget)
 {
-    const QFont font = themeValues().fonts.value(tabFontName(widget));
+    const QFont font = inStep(themeValues().fonts.value(tabFontName(widget)));
     widget.setProperty(Properties::StyleSheetWidgetFont, font);
     widget.setFont(font);
 }

@@ -78,9 +78,10 @@ void drawBox(const PaintContext& context, const QRectF& rect, int radius, const 
 }
 
 void drawInnerBorder(const PaintContext& context, const QRect& rect, int radius,
-                     const QBrush& border)
+                     const QBrush& border, Helpers::StraightCornerFlags straightCorners)
 {
-    drawBox(context, rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush, border);
+    drawBox(context, rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush, border,
+            straightCorners);
 }
 
 void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill)

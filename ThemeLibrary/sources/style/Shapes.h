@@ -31,7 +31,8 @@ void drawBox(const PaintContext& context, const QRectF& rect, int radius, const 
 
 /// A second border inside that of such a box: who has the focus is seen without colors too.
 void drawInnerBorder(const PaintContext& context, const QRect& rect, int radius,
-                     const QBrush& border);
+                     const QBrush& border,
+                     Helpers::StraightCornerFlags straightCorners = Helpers::None);
 
 /// The ground inside the border of such a box.
 void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill);

@@ -34,6 +34,13 @@ int MeasureContext::rowHeight(int padding) const
     return (height + Rhythm - 1) / Rhythm * Rhythm;
 }
 
+int MeasureContext::indicatorSize() const
+{
+    constexpr int SmallestSize = 16;
+    constexpr int LessThanText = 3;
+    return qMax(dpiScaled(SmallestSize), (fontMetrics().height() - LessThanText) / Rhythm * Rhythm);
+}
+
 int MeasureContext::controlHeight() const
 {
     return rowHeight(InputMetrics::ControlPadding);

@@ -33,6 +33,9 @@ struct MeasureContext
     /// grid that keeps rows of different controls in step.
     int rowHeight(int padding) const;
 
+    /// The side of check boxes, radio buttons, marks and arrows: they grow with large texts.
+    int indicatorSize() const;
+
     /// The height that the controls of one row share: buttons, line edits, combo boxes and spin
     /// boxes.
     int controlHeight() const;

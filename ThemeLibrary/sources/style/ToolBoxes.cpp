@@ -1,5 +1,6 @@
 #include "ButtonContent.h"
 #include "Families.h"
+#include "Opacities.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -54,11 +55,10 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
     const QBrush ground = tabBrush(context);
     context.painter.fillRect(rect, raised && isOwn ? OwnColors::deeper(ground, OwnStep) : ground);
     if (raised && !isOwn) {
-        constexpr qreal Hint = 0.35;
         QColor step = context.color(ThemeNames::BackgroundUpLevel2Color);
         // A step as light as the words on it is only hinted at.
         if (Shapes::isLight(step) == Shapes::isLight(tab.palette.color(QPalette::ButtonText)))
-            step.setAlphaF(Hint);
+            step.setAlphaF(Opacities::HoveredToolBoxTab);
         context.painter.fillRect(rect, step);
     }
     Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), context.borderBrush());

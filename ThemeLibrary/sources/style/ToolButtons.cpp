@@ -105,6 +105,8 @@ void paintMenuPart(const PaintContext& context, const QStyleOptionToolButton& bu
     menu.subControls = QStyle::SC_ToolButtonMenu;
     if (state & PanelStates && !context.flag(WidgetProperties::Circular))
         context.draw(QStyle::PE_IndicatorButtonDropDown, menu);
+    if (context.rightToLeft()) // what is left over by centring the arrow goes to the border
+        menu.rect.translate(1, 0);
     ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, menu);
 }
 

@@ -21,7 +21,10 @@ constexpr int ChildMargin = 8;
 int layoutMargin(const MeasureContext& context)
 {
     const bool isWindow = context.widget && context.widget->isWindow();
-    return context.dpiScaled(isWindow ? WindowMargin : ChildMargin);
+    // The frame of a group box is a part of its margin: then what stands in it stands below the
+    // check box of its title.
+    const int frame = WidgetTraits::isGroupBox(context.widget) ? 1 : 0;
+    return context.dpiScaled(isWindow ? WindowMargin : ChildMargin) - frame;
 }
 
 void paintStatusBar(const PaintContext& context)
