@@ -19,13 +19,11 @@ QStringList words(Group group)
 
 QStringList composedBrushes()
 {
-    QStringList families = words(Group::Family);
-    families.append(ThemeNames::Toggle.text + ThemeNames::Button.text);
     QStringList names;
-    for (const QString& family : families)
+    for (const QString& family : AllThemeNames::families())
         for (const QString& kind : AllThemeNames::kinds())
             for (const QString& state : AllThemeNames::states())
-                for (const QString& part : words(Group::Part))
+                for (const QString& part : AllThemeNames::parts())
                     names.append(QString(family + kind + state + part));
     return names;
 }
@@ -48,6 +46,21 @@ QStringList plainBrushes()
             names.append(name);
     }
     return names;
+}
+
+QStringList families()
+{
+    return words(Group::Family) + QStringList{ThemeNames::Toggle.text + ThemeNames::Button.text};
+}
+
+QStringList parts()
+{
+    return words(Group::Part);
+}
+
+QStringList numbers()
+{
+    return words(Group::Opacity) + words(Group::Factor);
 }
 
 QStringList kinds()

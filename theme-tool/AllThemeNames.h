@@ -13,6 +13,15 @@ QStringList brushes();
 /// The brushes whose names are not composed.
 QStringList plainBrushes();
 
+/// The words that the names of controls begin with: "Button", "ToggleButton" and "Input".
+QStringList families();
+
+/// Those that they end with: "BackgroundBrush", "BorderBrush" and "ForegroundBrush".
+QStringList parts();
+
+/// The names of opacities and of factors.
+QStringList numbers();
+
 /// The words that stand for a kind of button or input, beginning with the empty one.
 QStringList kinds();
 

@@ -6,16 +6,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QTextStream>
 
 #include <algorithm>
-#include <unistd.h>
 
 namespace ThemeTool {
 
 namespace {
-
-constexpr int Patience = 1000; // ms
 
 QStringList directoriesToCheck(const Request& request)
 {
@@ -55,12 +51,6 @@ QString counted(int count, const char* thing)
            + QLatin1String(count == 1 ? "" : "s");
 }
 
-void showProgress(const QElapsedTimer& timer, int done, int all)
-{
-    if (timer.elapsed() > Patience && isatty(STDERR_FILENO))
-        QTextStream(stderr) << "checked " << done << " of " << all << " themes\n";
-}
-
 } // namespace
 
 int runCheck(const Request& request)
@@ -71,20 +61,25 @@ int runCheck(const Request& request)
     if (directories.isEmpty() || directories.contains(QString()))
         return CouldNotRun;
 
+    const QRegularExpression own(request.value("own"));
+    if (!isUsable(own))
+        return CouldNotRun;
+
     QElapsedTimer timer;
     timer.start();
     int errors = 0;
     int warnings = 0;
     QJsonArray objects;
     for (int i = 0; i < directories.size(); ++i) {
-        for (const Finding& finding : checkTheme(directories.at(i))) {
+        for (const Finding& finding : checkTheme(directories.at(i), own)) {
             ++(finding.isError ? errors : warnings);
             if (request.has("json"))
                 objects.append(object(finding));
             else
                 print(line(finding));
         }
-        showProgress(timer, i + 1, directories.size());
+        showProgress(timer,
+                     QStringLiteral("checked %1 of %2 themes").arg(i + 1).arg(directories.size()));
     }
     if (request.has("json"))
         print(QString::fromUtf8(QJsonDocument(objects).toJson()));

@@ -38,10 +38,12 @@ const QVector<Command>& commands()
                         "none is given), and prints a "
                         "line FILE:LINE:COLUMN: error|warning: TEXT for whatever is wrong: what "
                         "the readers report, names that are "
-                        "missing or that nobody asks for, palette roles without a color, pictures "
-                        "that cannot be read, and colors "
-                        "that do not stand out enough."),
-         {option("strict", "", "warnings count as faults"),
+                        "missing or that nobody asks for, palette roles without a color, "
+                        "placeholders of style sheets without a value, icons, pictures and "
+                        "bundles that are not found or cannot be read, and colors that do not "
+                        "stand out enough."),
+         {option("own", "PATTERN", "names that an application asks for, as a regular expression"),
+          option("strict", "", "warnings count as faults"),
           option("json", "", "print an array of objects instead of lines")},
          0,
          Any,
@@ -78,7 +80,7 @@ const QVector<Command>& commands()
          QStringLiteral("print what the style asks a theme for"),
          QStringLiteral("Prints each name that the style asks for, or that contains a match of "
                         "PATTERN, and what it is used for."),
-         {},
+         {option("markdown", "", "print the page of the documentation instead")},
          0,
          1,
          runNames},
@@ -140,6 +142,21 @@ QString themeDirectory(const Request& request, const QString& name)
                               "list\" prints those")
                    .arg(name, request.repositories.join(QLatin1String(", "))));
     return {};
+}
+
+bool isUsable(const QRegularExpression& expression)
+{
+    if (!expression.isValid())
+        printError(QStringLiteral("the pattern is no regular expression: ")
+                   + expression.errorString());
+    return expression.isValid();
+}
+
+void showProgress(const QElapsedTimer& timer, const QString& text)
+{
+    constexpr int Patience = 1000; // ms
+    if (timer.elapsed() > Patience && isatty(STDERR_FILENO))
+        QTextStream(stderr) << text << '\n';
 }
 
 void print(const QString& text)

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QColor>
+#include <QElapsedTimer>
 #include <QHash>
+#include <QRegularExpression>
 #include <QStringList>
 #include <QVector>
 
@@ -65,6 +67,12 @@ QString completion(const QString& shell);
 /// The directory of the theme that `name` names, by path or in the repositories; empty, and an
 /// error printed, when there is none.
 QString themeDirectory(const Request& request, const QString& name);
+
+/// Whether `expression` is one; an error is printed when not.
+bool isUsable(const QRegularExpression& expression);
+
+/// Says on a terminal how far a command is that has taken longer than a second.
+void showProgress(const QElapsedTimer& timer, const QString& text);
 
 void print(const QString& text);
 void printError(const QString& text);

@@ -24,8 +24,6 @@ const QString Body = QStringLiteral("BackgroundBrush");
 const QString Border = QStringLiteral("BorderBrush");
 const QString Words = QStringLiteral("ForegroundBrush");
 const QString Disabled = QStringLiteral("Disabled");
-const QString Families[] = {QStringLiteral("Button"), QStringLiteral("ToggleButton"),
-                            QStringLiteral("Input")};
 
 /// What controls and words stand on.
 QStringList surfaces()
@@ -39,42 +37,28 @@ QStringList surfaces()
             QStringLiteral("ItemViewAlternateBackgroundBrush")};
 }
 
-struct Row
-{
-    QString least;
-    QString subject;
-    QStringList grounds;
-};
-
 QStringList words(const QString& text)
 {
     return text.simplified().split(QLatin1Char(' '));
 }
 
-QVector<Row> readRows()
+/// The table, with the surfaces by their names.
+QVector<ContrastRule> expandedRules()
 {
-    registerTable();
-    QFile file(QStringLiteral(":/theme-tool/contrasts.txt"));
-    file.open(QIODevice::ReadOnly);
-    QVector<Row> rows;
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
-    for (const QString& line : lines) {
-        const QStringList fields = line.split(QLatin1Char('|'));
-        if (fields.size() != 3)
-            continue;
-        QStringList grounds = words(fields.at(2));
-        if (grounds.removeOne(QStringLiteral("surfaces")))
-            grounds += surfaces();
-        rows += {fields.at(0).trimmed(), fields.at(1).simplified(), grounds};
+    QVector<ContrastRule> rules = contrastRules();
+    for (ContrastRule& rule : rules) {
+        if (rule.grounds.removeOne(QStringLiteral("surfaces")))
+            rule.grounds += surfaces();
     }
-    return rows;
+    return rules;
 }
 
 /// Measures what one row of the table says.
 class Measuring
 {
 public:
-    Measuring(const ReadTheme& theme, const Row& row, double least, QVector<Contrast>& results)
+    Measuring(const ReadTheme& theme, const ContrastRule& row, double least,
+              QVector<Contrast>& results)
         : m_theme(theme), m_row(row), m_least(least), m_results(results)
     { }
 
@@ -94,7 +78,7 @@ private:
     void compareStates(const QString& control, const QString& one, const QString& other) const;
 
     const ReadTheme& m_theme;
-    const Row& m_row;
+    const ContrastRule& m_row;
     double m_least;
     QVector<Contrast>& m_results;
 };
@@ -121,7 +105,7 @@ void Measuring::forControls(Measure measure) const
 {
     for (const QString& groundName : m_row.grounds) {
         const QColor ground = color(groundName);
-        for (const QString& family : Families)
+        for (const QString& family : AllThemeNames::families())
             for (const QString& kind : AllThemeNames::kinds())
                 for (const QString& state : AllThemeNames::states())
                     measure(QString(family + kind + state), groundName, ground);
@@ -178,7 +162,7 @@ void Measuring::statesOfControls() const
     const QString unchecked = QStringLiteral("Unchecked");
     const QString byDefault = QStringLiteral("Default");
     const QString pointers[] = {QStringLiteral("Hover"), QStringLiteral("Pressed")};
-    for (const QString& family : Families) {
+    for (const QString& family : AllThemeNames::families()) {
         const bool isInput = family == QLatin1String("Input");
         for (const QString& kind : AllThemeNames::kinds()) {
             // Inputs of a kind show it in their border, whatever the pointer does.
@@ -199,6 +183,21 @@ void Measuring::statesOfControls() const
 
 } // namespace
 
+QVector<ContrastRule> contrastRules()
+{
+    registerTable();
+    QFile file(QStringLiteral(":/theme-tool/contrasts.txt"));
+    file.open(QIODevice::ReadOnly);
+    QVector<ContrastRule> rules;
+    const QStringList lines = QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'));
+    for (const QString& line : lines) {
+        const QStringList fields = line.split(QLatin1Char('|'));
+        if (fields.size() == 3)
+            rules += {fields.at(0).trimmed(), fields.at(1).simplified(), words(fields.at(2))};
+    }
+    return rules;
+}
+
 QVector<Contrast> measureContrasts(const ReadTheme& theme)
 {
     using Measure = void (Measuring::*)() const;
@@ -207,10 +206,10 @@ QVector<Contrast> measureContrasts(const ReadTheme& theme)
         {QStringLiteral("borders of controls"), &Measuring::bordersOfControls},
         {QStringLiteral("disabled words of controls"), &Measuring::disabledWordsOfControls},
         {QStringLiteral("states of controls"), &Measuring::statesOfControls}};
-    static const QVector<Row> sRows = readRows();
+    static const QVector<ContrastRule> sRules = expandedRules();
 
     QVector<Contrast> results;
-    for (const Row& row : sRows) {
+    for (const ContrastRule& row : sRules) {
         const double least = row.least == QLatin1String("words")
                                  ? theme.getConfiguration().getWordContrast()
                                  : row.least.toDouble();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include <QStringList>
 #include <QVector>
 
 namespace ThemeTool {
@@ -17,6 +17,16 @@ struct Contrast
 
     bool isEnough() const { return found >= least; }
 };
+
+/// A row of the contrast table, as it is written.
+struct ContrastRule
+{
+    QString least; ///< a ratio, or "words" for the one that the theme promises its words
+    QString subject; ///< names with blanks between them, or words for all buttons and inputs
+    QStringList grounds; ///< names, and "surfaces" for what controls and words stand on
+};
+
+QVector<ContrastRule> contrastRules();
 
 /// Measures `theme` by every row of the contrast table, contrasts.txt.
 QVector<Contrast> measureContrasts(const ReadTheme& theme);

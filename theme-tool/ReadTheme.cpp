@@ -17,8 +17,9 @@ QColor paletteColor(const QPalette& palette, const QString& group, const QString
 {
     const auto groups = QMetaEnum::fromType<QPalette::ColorGroup>();
     const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
-    return palette.color(QPalette::ColorGroup(groups.keyToValue(group.toLatin1())),
-                         QPalette::ColorRole(roles.keyToValue(role.toLatin1())));
+    const QColor color = palette.color(QPalette::ColorGroup(groups.keyToValue(group.toLatin1())),
+                                       QPalette::ColorRole(roles.keyToValue(role.toLatin1())));
+    return color.rgba() == UnmappedColor ? QColor() : color;
 }
 
 } // namespace

@@ -1,21 +1,17 @@
 #include "Commands.h"
 #include "ContrastTable.h"
+#include "NameUses.h"
 #include "ReadTheme.h"
 #include "ThemeIndex.h"
 #include "ThemeRepositories.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
 
 #include <algorithm>
-
-/// The page is in a static library, whose resources register themselves only when asked to.
-static void registerPages()
-{
-    Q_INIT_RESOURCE(theme_tool);
-}
 
 namespace ThemeTool {
 
@@ -25,14 +21,6 @@ namespace {
 QRegularExpression pattern(const Request& request, int index)
 {
     return QRegularExpression(request.arguments.value(index));
-}
-
-bool isUsable(const QRegularExpression& expression)
-{
-    if (!expression.isValid())
-        printError(QStringLiteral("the pattern is no regular expression: ")
-                   + expression.errorString());
-    return expression.isValid();
 }
 
 QString place(const Entry& entry)
@@ -84,6 +72,15 @@ QString described(const ReadTheme& theme, const QString& name)
     return color.isValid() ? shown(color) : QStringLiteral("-");
 }
 
+/// The pictures in `directory` that are not older than `since`.
+int countPictures(const QString& directory, const QDateTime& since)
+{
+    const QFileInfoList files = QDir(directory).entryInfoList({QStringLiteral("*.png")});
+    return int(std::count_if(files.begin(), files.end(), [&since](const QFileInfo& file) {
+        return file.lastModified() >= since;
+    }));
+}
+
 } // namespace
 
 int runShow(const Request& request)
@@ -108,24 +105,21 @@ int runShow(const Request& request)
 
 int runNames(const Request& request)
 {
-    registerPages();
     const QRegularExpression expression = pattern(request, 0);
     if (!isUsable(expression))
         return CouldNotRun;
-    QFile page(QStringLiteral(":/theme-tool/theme-names.md"));
-    page.open(QIODevice::ReadOnly);
-    const QRegularExpression name(QStringLiteral("`([A-Za-z0-9]+)`"));
-    for (const QString& line : QString::fromUtf8(page.readAll()).split(QLatin1Char('\n'))) {
-        const QStringList cells = line.split(QLatin1Char('|'));
-        auto names = name.globalMatch(cells.value(1));
-        while (cells.size() == 4 && names.hasNext()) {
-            const QString found = names.next().captured(1);
-            if (found.contains(expression))
-                print(
-                    QStringLiteral("%1  %2\n").arg(found.leftJustified(36), cells.at(2).trimmed()));
-        }
+    if (request.has("markdown")) {
+        print(namesPage());
+        return Success;
     }
-    return Success;
+    bool isAny = false;
+    for (const NameUse& use : nameUses()) {
+        if (!use.name.contains(expression))
+            continue;
+        isAny = true;
+        print(QStringLiteral("%1  %2\n").arg(use.name.leftJustified(48), use.use));
+    }
+    return isAny ? Success : Faults;
 }
 
 int runDiff(const Request& request)
@@ -202,12 +196,20 @@ int runRender(const Request& request)
         return CouldNotRun;
     }
     QDir().mkpath(request.arguments.last());
-    return QProcess::execute(gallery, {QStringLiteral("--theme-repository"), theme.absolutePath(),
-                                       QStringLiteral("--theme"), theme.fileName(),
-                                       QStringLiteral("--render"), request.arguments.last()})
-                   == 0
-               ? Success
-               : CouldNotRun;
+    const QDateTime started = QDateTime::currentDateTime();
+    QElapsedTimer timer;
+    timer.start();
+    QProcess process;
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.start(gallery, {QStringLiteral("--theme-repository"), theme.absolutePath(),
+                            QStringLiteral("--theme"), theme.fileName(), QStringLiteral("--render"),
+                            request.arguments.last()});
+    constexpr int BetweenReports = 1000; // ms
+    while (!process.waitForFinished(BetweenReports) && process.state() != QProcess::NotRunning)
+        showProgress(timer, QStringLiteral("rendered %1 pages")
+                                .arg(countPictures(request.arguments.last(), started)));
+    const bool isDone = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return isDone ? Success : CouldNotRun;
 }
 
 } // namespace ThemeTool

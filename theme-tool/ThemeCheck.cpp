@@ -2,15 +2,14 @@
 
 #include "AllThemeNames.h"
 #include "ContrastTable.h"
+#include "NameUses.h"
 #include "ReadTheme.h"
+#include "ThemeFilesCheck.h"
 #include "ThemeIndex.h"
 #include "ThemeNames.h"
 
-#include <QDir>
-#include <QDirIterator>
-#include <QImageReader>
 #include <QMetaEnum>
-#include <QRegularExpression>
+#include <QSet>
 
 #include <algorithm>
 #include <numeric>
@@ -44,29 +43,13 @@ int distance(const QString& one, const QString& other)
     return costs.last();
 }
 
-/// The names in the library's own style sheets, as "colors/MainColor".
-QStringList placeholders()
-{
-    const QRegularExpression placeholder(QStringLiteral("@([\\w/]+)@"));
-    QStringList paths;
-    QDirIterator sheets(QStringLiteral(":/BRELK/ThemeLibrary/stylesheets"), QDir::Files);
-    while (sheets.hasNext()) {
-        QFile sheet(sheets.next());
-        sheet.open(QIODevice::ReadOnly);
-        auto matches = placeholder.globalMatch(QString::fromUtf8(sheet.readAll()));
-        while (matches.hasNext())
-            paths += matches.next().captured(1);
-    }
-    paths.removeDuplicates();
-    return paths;
-}
-
 /// Collects what is wrong with one theme.
 class Check
 {
 public:
-    explicit Check(const QString& directory)
-        : m_theme(directory)
+    Check(const QString& directory, const QRegularExpression& own)
+        : m_own(own)
+        , m_theme(directory)
         , m_index(directory)
         , m_configuration(directory + QLatin1String("/config.xml"))
     { }
@@ -78,13 +61,14 @@ private:
     void takeProblems();
     void findMissing();
     void findMissing(const QStringList& names, const QStringList& defined);
+    bool isReported(const Entry& entry) const;
+    bool isUnused(const Entry& entry, const QSet<QString>& asked) const;
     void findUnused();
     void checkPalette();
     void checkGradients();
-    void checkPlaceholders();
-    void checkImages();
     void checkContrasts();
 
+    QRegularExpression m_own;
     ReadTheme m_theme;
     ThemeIndex m_index;
     QString m_configuration;
@@ -120,15 +104,22 @@ void Check::findMissing(const QStringList& names, const QStringList& defined)
         if (!defined.contains(name))
             missing += name;
     }
+    if (missing.isEmpty())
+        return;
+    QHash<QString, QString> uses;
+    for (const NameUse& use : nameUses())
+        uses.insert(use.name, use.use);
     for (const QString& name : qAsConst(missing)) {
         const Entry* entry = m_index.find(name);
         if (entry && !entry->isInternal)
             continue; // its entry is bad, which is reported
         add(true, entry,
             quoted(name)
-                + (entry ? QLatin1String(" is internal, so the style does not find it")
-                         : QLatin1String(" is missing, which the style asks for; define it, or "
-                                         "extend a theme that has it")));
+                + (entry
+                       ? QString(QLatin1String(" is internal, so the style does not find it"))
+                       : QString(QLatin1String(" is missing, which the style asks for (")
+                                 + uses.value(name)
+                                 + QLatin1String("); define it, or extend a theme that has it"))));
     }
 }
 
@@ -138,28 +129,51 @@ void Check::findMissing()
     findMissing(AllThemeNames::brushes(), m_theme.getConfiguration().getBrushesMap().keys());
 }
 
-/// Names that nobody asks for. What an extended theme defines is its own matter.
+bool Check::isReported(const Entry& entry) const
+{
+    const auto isAtEntry = [&entry](const ThemeProblem& problem) {
+        return problem.file == entry.place.file && problem.line == entry.place.line
+               && problem.column == entry.place.column;
+    };
+    const QVector<ThemeProblem>& problems = m_theme.getProblems();
+    return std::any_of(problems.begin(), problems.end(), isAtEntry);
+}
+
+/// Whether nobody but an application can ask for `entry`. What an extended theme defines is its own
+/// matter.
+bool Check::isUnused(const Entry& entry, const QSet<QString>& asked) const
+{
+    const QString name = original(entry.name);
+    const bool isOwn = !m_own.pattern().isEmpty() && entry.name.contains(m_own);
+    return entry.level == 0 && !isOwn && !isReported(entry) && !asked.contains(name)
+           && !m_index.isNamed(entry.name) && !m_index.isNamed(name);
+}
+
 void Check::findUnused()
 {
-    const QStringList asked =
-        AllThemeNames::colors() + AllThemeNames::brushes() + m_index.getMapped();
-    const auto look = [&](const QMap<QString, Entry>& entries) {
-        for (const Entry& entry : entries) {
-            const QString name = original(entry.name);
-            if (entry.level > 0 || asked.contains(name) || m_index.isNamed(entry.name)
-                || m_index.isNamed(name))
+    const QStringList names = AllThemeNames::colors() + AllThemeNames::brushes()
+                              + AllThemeNames::numbers() + m_index.getMapped()
+                              + namesInStyleSheets(m_theme);
+    const QSet<QString> asked(names.begin(), names.end());
+    for (const auto* entries :
+         {&m_index.getColors(), &m_index.getBrushes(), &m_index.getNumbers()}) {
+        for (const Entry& entry : *entries) {
+            if (!isUnused(entry, asked))
                 continue;
-            const QString meant = likelyName(name, asked);
+            const QString meant = likelyName(original(entry.name), names);
             if (entry.isInternal)
                 add(false, &entry, quoted(entry.name) + QLatin1String(" is internal and not used"));
-            else if (!meant.isEmpty())
+            else if (meant.isEmpty())
+                add(false, &entry,
+                    quoted(entry.name)
+                        + QLatin1String(" is asked for by nobody; remove it, or say --own PATTERN "
+                                        "if an application asks for it"));
+            else
                 add(false, &entry,
                     quoted(entry.name) + QLatin1String(" is asked for by nobody; was ")
                         + quoted(meant) + QLatin1String(" meant?"));
         }
-    };
-    look(m_index.getColors());
-    look(m_index.getBrushes());
+    }
 }
 
 void Check::checkPalette()
@@ -173,11 +187,12 @@ void Check::checkPalette()
         if (role != QPalette::NoRole && !isMapped)
             unmapped += QLatin1String(roles.valueToKey(role));
     }
-    for (const QString& role : qAsConst(unmapped))
+    if (!unmapped.isEmpty())
         m_findings.append(
             {m_theme.getDirectory() + QLatin1String("/qpaletteMapping.xml"), 1, 1, false,
-             QLatin1String("the palette role ") + quoted(role)
-                 + QLatin1String(" is not mapped; add <ColorRole role=\"") + role
+             QLatin1String("palette roles that are not mapped: ")
+                 + unmapped.join(QLatin1String(", ")) + QLatin1String("; add <ColorRole role=\"")
+                 + unmapped.first()
                  + QLatin1String("\">NAME</ColorRole>, or extend a theme's mapping")});
 }
 
@@ -190,32 +205,6 @@ void Check::checkGradients()
                 quoted(entry.name)
                     + QLatin1String(
                         " is a gradient where one color is needed; it counts as black"));
-    }
-}
-
-void Check::checkPlaceholders()
-{
-    for (const QString& path : placeholders()) {
-        const QString name = path.section(QLatin1Char('/'), 1);
-        if (!m_theme.getConfiguration().getColorsMap().contains(name))
-            add(true, m_index.find(name),
-                QLatin1Char('@') + path
-                    + QLatin1String("@ of the style sheets is no color of the theme; without it "
-                                    "none of their rules applies"));
-    }
-}
-
-void Check::checkImages()
-{
-    QDirIterator images(m_theme.getDirectory() + QLatin1String("/Images"),
-                        {QStringLiteral("*.svg"), QStringLiteral("*.png"), QStringLiteral("*.cur")},
-                        QDir::Files, QDirIterator::Subdirectories);
-    while (images.hasNext()) {
-        const QString path = images.next();
-        if (QImageReader(path).size().isEmpty())
-            m_findings.append(
-                {path, 1, 1, true,
-                 QStringLiteral("the picture cannot be read; it would show as nothing")});
     }
 }
 
@@ -258,14 +247,19 @@ QVector<Finding> Check::run()
     findUnused();
     checkPalette();
     checkGradients();
-    checkPlaceholders();
-    checkImages();
+    m_findings += checkFiles(m_theme);
     checkContrasts();
     const auto isBefore = [](const Finding& one, const Finding& other) {
         return std::tie(one.file, one.line, one.column, one.text)
                < std::tie(other.file, other.line, other.column, other.text);
     };
     std::sort(m_findings.begin(), m_findings.end(), isBefore);
+    // An element of several names may be wrong for each.
+    const auto isSame = [](const Finding& one, const Finding& other) {
+        return std::tie(one.file, one.line, one.column, one.text)
+               == std::tie(other.file, other.line, other.column, other.text);
+    };
+    m_findings.erase(std::unique(m_findings.begin(), m_findings.end(), isSame), m_findings.end());
     return m_findings;
 }
 
@@ -287,9 +281,9 @@ QString likelyName(const QString& name, const QStringList& names)
     return nearest;
 }
 
-QVector<Finding> checkTheme(const QString& directory)
+QVector<Finding> checkTheme(const QString& directory, const QRegularExpression& own)
 {
-    return Check(directory).run();
+    return Check(directory, own).run();
 }
 
 } // namespace ThemeTool

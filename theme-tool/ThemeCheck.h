@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QRegularExpression>
 #include <QString>
 #include <QVector>
 
@@ -15,8 +16,9 @@ struct Finding
     QString text;
 };
 
-/// All that is wrong with the theme in `directory`, in the order of its files' lines.
-QVector<Finding> checkTheme(const QString& directory);
+/// All that is wrong with the theme in `directory`, in the order of its files' lines. Names that
+/// match `own` are an application's, which asks for them; an empty pattern matches none.
+QVector<Finding> checkTheme(const QString& directory, const QRegularExpression& own = {});
 
 /// The one of `names` that was probably meant by `name`; empty when none is near.
 QString likelyName(const QString& name, const QStringList& names);

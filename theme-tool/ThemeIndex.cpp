@@ -1,7 +1,6 @@
 #include "ThemeIndex.h"
 
 #include "ColorDerivations.h"
-#include "NamePattern.h"
 
 using namespace BRELK;
 
@@ -52,25 +51,23 @@ const Entry* ThemeIndex::find(const QString& name) const
     return nullptr;
 }
 
-void ThemeIndex::addEntries(const ThemeElement& element, int level)
+void ThemeIndex::add(QMap<QString, Entry>& entries, const ThemeElement& element, int level)
 {
     const QString tag = element.getTag();
     Entry entry;
-    entry.isBrush = tag != QLatin1String("Color");
+    entry.isBrush = &entries == &m_brushes;
     entry.isInternal = element.getAttribute(QStringLiteral("internal")) == QLatin1String("true");
     entry.isGradient = tag == QLatin1String("LinearGradientBrush");
     entry.level = level;
     entry.place = element.place();
-    entry.recipe = recipeOf(element);
-    entry.named = colorsOf(element);
-    for (const QString& named : qAsConst(entry.named))
-        m_named.insert(named);
-    const QString pattern = element.getAttribute(QStringLiteral("name"));
-    for (const QString& name : expandNamePattern(pattern, MostNames)) {
-        entry.name = name;
-        auto& entries = entry.isBrush ? m_brushes : m_colors;
-        if (!entries.contains(name))
-            entries.insert(name, entry);
+    for (const NamedThemeElement& spelt : element.spellNames(MostNames)) {
+        entry.name = spelt.name;
+        entry.recipe = recipeOf(spelt.element);
+        entry.named = colorsOf(spelt.element);
+        for (const QString& named : qAsConst(entry.named))
+            m_named.insert(named);
+        if (!entries.contains(entry.name))
+            entries.insert(entry.name, entry);
     }
 }
 
@@ -80,16 +77,16 @@ void ThemeIndex::readPalette(const ThemeElement& palette, int level)
         for (const QString& named : namedColors(list))
             m_named.insert(named);
         for (const ThemeElement& element : list.getChildren())
-            addEntries(element, level);
+            add(element.getTag() == QLatin1String("Color") ? m_colors : m_brushes, element, level);
     }
 }
 
-void ThemeIndex::readFactors(const ThemeElement& factors)
+/// Opacities, or factors, which may say what color they keep.
+void ThemeIndex::readNumbers(const ThemeElement& numbers, int level)
 {
-    for (const ThemeElement& factor : factors.getChildren()) {
-        m_named.insert(factor.getAttribute(QStringLiteral("keep")));
-        for (const QString& named : namedColors(factor))
-            m_named.insert(named);
+    for (const ThemeElement& number : numbers.getChildren()) {
+        add(m_numbers, number, level);
+        m_named.insert(number.getAttribute(QStringLiteral("keep")));
     }
 }
 
@@ -100,8 +97,9 @@ void ThemeIndex::readConfiguration(const QString& path)
         for (const ThemeElement& section : documents.at(level)->getRoot().getChildren()) {
             if (section.getTag() == QLatin1String("Palette"))
                 readPalette(section, int(level));
-            else if (section.getTag() == QLatin1String("Factors"))
-                readFactors(section);
+            else if (section.getTag() == QLatin1String("Factors")
+                     || section.getTag() == QLatin1String("Opacities"))
+                readNumbers(section, int(level));
         }
     }
 }

@@ -8,7 +8,7 @@
 
 namespace ThemeTool {
 
-/// A color or brush as it stands in a theme file.
+/// A color, brush or number as it stands in a theme file.
 struct Entry
 {
     QString name;
@@ -34,6 +34,9 @@ public:
 
     const QMap<QString, Entry>& getBrushes() const { return m_brushes; }
 
+    /// The opacities and factors.
+    const QMap<QString, Entry>& getNumbers() const { return m_numbers; }
+
     /// Whether another entry, a factor or the palette mapping names the color or brush `name`.
     bool isNamed(const QString& name) const { return m_named.contains(name); }
 
@@ -42,13 +45,14 @@ public:
 
 private:
     void readConfiguration(const QString& path);
-    void readFactors(const BRELK::ThemeElement& factors);
+    void readNumbers(const BRELK::ThemeElement& numbers, int level);
     void readPalette(const BRELK::ThemeElement& palette, int level);
     void readMapping(const QString& path);
-    void addEntries(const BRELK::ThemeElement& element, int level);
+    void add(QMap<QString, Entry>& entries, const BRELK::ThemeElement& element, int level);
 
     QMap<QString, Entry> m_colors;
     QMap<QString, Entry> m_brushes;
+    QMap<QString, Entry> m_numbers;
     QSet<QString> m_named;
     QStringList m_mapped;
 };

@@ -39,7 +39,7 @@ void registerFonts(const QString& directory)
         const QString path = file.absoluteFilePath();
         if (appliedThemes().fontFiles.contains(path))
             continue;
-        if (QFontDatabase::addApplicationFont(path) < 0)
+        if (!file.isFile() || QFontDatabase::addApplicationFont(path) < 0)
             log(QLatin1String("Error reading font: ") + path);
         else
             appliedThemes().fontFiles.insert(path);
@@ -107,9 +107,22 @@ void registerBundles(const QString& directory)
     }
 }
 
-void useIcons(const QString& themePath, const QString& themeName)
+/// Where the folders of a theme's images are; nowhere when there is something among them that
+/// opening would wait for, such as a pipe: Qt looks for icons there without asking what they are.
+QString imagesRoot(const QString& themePath)
 {
-    addIconThemePath(themePath + QLatin1String("/Images/"));
+    const QString root = themePath + QLatin1String("/Images/");
+    QDirIterator others(root, QDir::System | QDir::Hidden,
+                        QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
+    if (!others.hasNext())
+        return root;
+    log(others.next() + QLatin1String(": it is no file; the images of the theme are not used"));
+    return QStringLiteral(":/BRELK/ThemeLibrary/none/");
+}
+
+void useIcons(const QString& root, const QString& themeName)
+{
+    addIconThemePath(root);
     QIcon::setThemeName(themeName);
     if (!QImageReader::supportedImageFormats().contains(QByteArrayLiteral("svg")))
         log(QStringLiteral("Icons need Qt's SVG plugins, which are not installed"));
@@ -237,8 +250,9 @@ void BaseTheme::apply(QApplication* app, const UseStyle& useStyle)
 
     QApplication::setFont(configuration.getFont().getFont(ThemeFont::BASE_FONT));
     const QString name = imagesName(m_themePath, getName());
-    useIcons(m_themePath, name);
-    const QString imagesPath = m_themePath + QLatin1String("/Images/") + name;
+    const QString root = imagesRoot(m_themePath);
+    useIcons(root, name);
+    const QString imagesPath = root + name;
     const QString scalablePath = imagesPath + QLatin1String("/scalable");
     registerBundles(scalablePath);
     EmbeddedIcons::offerToIconTheme(name, foreground);

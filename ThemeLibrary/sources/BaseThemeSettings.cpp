@@ -10,7 +10,8 @@ BaseThemeSettings::BaseThemeSettings(const QString& filePath)
     const ThemeDocument document(filePath, budget);
     m_status = Status(document.getStatus());
     document.reportFailure();
-    m_document = document.getContent();
+    if (!m_document.setContent(document.getText()) && m_status == NO_ERROR)
+        m_status = READ_ERROR;
     m_themeRootNode = m_document.firstChildElement(QStringLiteral("theme"));
 }
 

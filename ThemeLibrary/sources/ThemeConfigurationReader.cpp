@@ -1,7 +1,6 @@
 #include "ThemeConfigurationReader.h"
 
 #include "ColorArithmetic.h"
-#include "NamePattern.h"
 #include "ThemeConfigurationReader_p.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
@@ -13,6 +12,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <vector>
 
 namespace BRELK {
 
@@ -99,13 +99,14 @@ void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
 {
     const QString pattern = element.getAttribute(QStringLiteral("name"));
     const int most = std::min(MostNamesOfElement, MostNames - entries.getNames().size());
-    const QStringList names = expandNamePattern(pattern, most);
-    if (names.isEmpty() && !pattern.isEmpty()) {
+    const std::vector<NamedThemeElement> names = element.spellNames(most);
+    if (names.empty() && !pattern.isEmpty()) {
         element.reject(
             QStringLiteral("the braces in its name do not match, or there are too many names"));
         return;
     }
-    if (!isName(pattern) || names.contains(QString())) {
+    const auto isNamed = [](const NamedThemeElement& named) { return !named.name.isEmpty(); };
+    if (!isName(pattern) || !std::all_of(names.begin(), names.end(), isNamed)) {
         element.reject(QStringLiteral("it needs a name without blanks, \"/\" and \"@\""));
         return;
     }
@@ -113,8 +114,8 @@ void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
     const bool internal = readInternal(element, ok);
     if (!ok)
         return;
-    for (const QString& name : names)
-        entries.add(name, {element, level, internal});
+    for (const NamedThemeElement& named : names)
+        entries.add(named.name, {named.element, level, internal});
 }
 
 void collectNamed(ThemeEntries& entries, const ThemeElement& list, const char* tag, int level)
@@ -236,19 +237,32 @@ QFont::Weight readWeight(const ThemeElement& element, bool& ok)
     return QFont::Normal;
 }
 
+/// The first of `families` that is installed; empty when none is.
+QString firstInstalled(const QStringList& families)
+{
+    const QFontDatabase database;
+    const QStringList installed = database.families();
+    const auto isListed = [&installed](const QString& family) {
+        return installed.contains(family, Qt::CaseInsensitive);
+    };
+    // Whether other names stand for a font is only asked when none is listed, as it takes long.
+    auto found = std::find_if(families.begin(), families.end(), isListed);
+    if (found == families.end())
+        found = std::find_if(families.begin(), families.end(), [&database](const QString& family) {
+            return database.hasFamily(family);
+        });
+    return found == families.end() ? QString() : *found;
+}
+
 /// The first of `families` that is installed, otherwise the platform's font.
 QFont chooseFont(const QStringList& families)
 {
     if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
         return families.isEmpty() ? QFont() : QFont(families.first());
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    const QFontDatabase database;
-    const auto isInstalled = [&database](const QString& family) {
-        return database.hasFamily(family);
-    };
-    const auto family = std::find_if(families.begin(), families.end(), isInstalled);
-    if (family != families.end())
-        font.setFamily(*family);
+    const QString family = firstInstalled(families);
+    if (!family.isEmpty())
+        font.setFamily(family);
     return font;
 }
 

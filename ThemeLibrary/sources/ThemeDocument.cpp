@@ -1,5 +1,7 @@
 #include "ThemeDocument.h"
 
+#include "NamePattern.h"
+
 #include <QDebug>
 #include <QDir>
 #include <QFile>
@@ -27,6 +29,47 @@ constexpr int MaxAttributes = 100;
 QString extendsAttribute()
 {
     return QStringLiteral("extends");
+}
+
+QString nameAttribute()
+{
+    return QStringLiteral("name");
+}
+
+/// Whether `text` stands in the content of `node`.
+bool mentions(const ThemeNode& node, const QString& text)
+{
+    const auto hasIt = [&text](const QPair<QString, QString>& attribute) {
+        return attribute.first != nameAttribute() && attribute.second.contains(text);
+    };
+    return node.text.contains(text)
+           || std::any_of(node.attributes.begin(), node.attributes.end(), hasIt)
+           || std::any_of(node.children.begin(), node.children.end(),
+                          [&text](const ThemeNode& child) { return mentions(child, text); });
+}
+
+/// How the content of an element refers to the alternative of its name's group `index`.
+QString reference(int index)
+{
+    return QLatin1Char('{') + QString::number(index + 1) + QLatin1Char('}');
+}
+
+/// `text` with `alternatives` in the place of references to them.
+QString substituted(const QString& text, const QStringList& alternatives)
+{
+    QString result;
+    int from = 0;
+    for (int brace = text.indexOf(u'{'); brace >= 0; brace = text.indexOf(u'{', from)) {
+        const int closing = text.indexOf(u'}', brace);
+        const int group = text.midRef(brace + 1, closing - brace - 1).toInt();
+        result += text.midRef(from, brace - from);
+        if (closing >= 0 && group > 0 && group <= alternatives.size())
+            result += alternatives.at(group - 1);
+        else
+            result += text.midRef(brace, closing < 0 ? -1 : closing + 1 - brace);
+        from = closing < 0 ? text.size() : closing + 1;
+    }
+    return result + text.midRef(from);
 }
 
 QString leftOut()
@@ -83,32 +126,89 @@ int sizeOfToken(const QXmlStreamReader& reader)
     return size;
 }
 
-/// Why the token that `reader` is at must not be given to the document parser; empty when it may.
-QString problemOfToken(const QXmlStreamReader& reader, int& depth, ThemeFileBudget& budget)
+/// Makes a tree of what a reader reads, as far as a budget goes.
+class TreeBuilder
 {
-    switch (reader.tokenType()) {
+public:
+    TreeBuilder(QXmlStreamReader& reader, ThemeFileBudget& budget)
+        : m_reader(reader), m_budget(budget)
+    { }
+
+    /// Reads on to the end, or to the first problem, which is returned.
+    QString build(ThemeNode& root);
+
+private:
+    QString take();
+    void open();
+    void close();
+
+    QXmlStreamReader& m_reader;
+    ThemeFileBudget& m_budget;
+    /// From a node that holds the root to the innermost element that is not closed.
+    std::vector<ThemeNode> m_open{1};
+    int m_line = 0;
+    int m_column = 0;
+    bool m_hasEntities = false;
+};
+
+void TreeBuilder::open()
+{
+    ThemeNode node;
+    node.tag = m_reader.qualifiedName().toString();
+    node.line = m_line;
+    node.column = m_column;
+    const QXmlStreamAttributes attributes = m_reader.attributes();
+    node.attributes.reserve(attributes.size());
+    for (const QXmlStreamAttribute& attribute : attributes)
+        node.attributes.append(
+            {attribute.qualifiedName().toString(), attribute.value().toString()});
+    m_open.push_back(std::move(node));
+}
+
+void TreeBuilder::close()
+{
+    ThemeNode node = std::move(m_open.back());
+    m_open.pop_back();
+    node.text = node.text.trimmed();
+    m_open.back().children.push_back(std::move(node));
+}
+
+/// Takes the token that the reader is at, unless there is a problem with it.
+QString TreeBuilder::take()
+{
+    switch (m_reader.tokenType()) {
     case QXmlStreamReader::StartElement:
-        if (++depth > MaxDepth)
+        if (m_open.size() > MaxDepth)
             return QStringLiteral("elements are nested too deeply");
-        return --budget.elements < 0 ? QStringLiteral("there are too many elements") : QString();
-    case QXmlStreamReader::EndElement: --depth; return {};
+        if (--m_budget.elements < 0)
+            return QStringLiteral("there are too many elements");
+        open();
+        return {};
+    case QXmlStreamReader::EndElement: close(); return {};
+    case QXmlStreamReader::Characters:
+        if (!m_reader.isWhitespace())
+            m_open.back().text += m_reader.text();
+        return {};
     default: return {};
     }
 }
 
-/// Reads on to the end of the content, or to the first problem, which is returned.
-QString scan(QXmlStreamReader& reader, ThemeFileBudget& budget)
+QString TreeBuilder::build(ThemeNode& root)
 {
-    int depth = 0;
-    bool hasEntities = false;
     QString problem;
-    while (!reader.atEnd() && problem.isEmpty()) {
-        reader.readNext();
-        problem = problemOfToken(reader, depth, budget);
-        hasEntities |= reader.tokenType() == QXmlStreamReader::DTD;
-        if (hasEntities && (budget.characters -= sizeOfToken(reader)) < 0)
-            problem = QStringLiteral("its entities stand for too much text");
+    while (!m_reader.atEnd() && problem.isEmpty()) {
+        // Behind a text the reader has seen the bracket that ends it.
+        const bool isPastBracket = m_reader.tokenType() == QXmlStreamReader::Characters;
+        m_line = int(m_reader.lineNumber());
+        m_column = int(m_reader.columnNumber()) + (isPastBracket ? 0 : 1);
+        m_reader.readNext();
+        m_hasEntities |= m_reader.tokenType() == QXmlStreamReader::DTD;
+        if (m_hasEntities && (m_budget.characters -= sizeOfToken(m_reader)) < 0)
+            return QStringLiteral("its entities stand for too much text");
+        problem = take();
     }
+    if (!m_open.front().children.empty())
+        root = std::move(m_open.front().children.front());
     return problem;
 }
 
@@ -191,28 +291,55 @@ QString quoted(const QString& text)
     return QLatin1Char('"') + shown + QLatin1Char('"');
 }
 
-ThemeElement::ThemeElement(const ThemeDocument& document, const QDomElement& element)
-    : m_document(&document), m_element(element)
-{ }
-
-QString ThemeElement::getText() const
+const QString* ThemeElement::findAttribute(const QString& name) const
 {
-    QString text;
-    for (QDomNode node = m_element.firstChild(); !node.isNull(); node = node.nextSibling()) {
-        if (node.isText())
-            text += node.nodeValue();
+    for (const auto& attribute : m_node->attributes) {
+        if (attribute.first == name)
+            return &attribute.second;
     }
-    return text.trimmed();
+    return nullptr;
+}
+
+QString ThemeElement::getAttribute(const QString& name) const
+{
+    const QString* value = findAttribute(name);
+    return value ? withAlternatives(*value) : QString();
+}
+
+QString ThemeElement::withAlternatives(const QString& text) const
+{
+    return m_alternatives.isEmpty() ? text : substituted(text, m_alternatives);
+}
+
+std::vector<NamedThemeElement> ThemeElement::spellNames(int most) const
+{
+    const NamePattern pattern(getAttribute(nameAttribute()), most);
+    std::vector<NamedThemeElement> named;
+    named.reserve(size_t(pattern.size()));
+    QVector<bool> isMentioned;
+    if (mentions(*m_node, QStringLiteral("{"))) {
+        for (int group = 0; group < pattern.countGroups(); ++group)
+            isMentioned += mentions(*m_node, reference(group));
+    }
+    for (int index = 0; index < pattern.size(); ++index) {
+        ThemeElement element = *this;
+        for (int group = 0; group < isMentioned.size(); ++group)
+            element.m_alternatives +=
+                isMentioned.at(group) ? pattern.getAlternative(index, group) : QString();
+        named.push_back({pattern.getName(index), element});
+    }
+    return named;
 }
 
 std::vector<ThemeElement> ThemeElement::getChildren() const
 {
+    if (!m_node->text.isEmpty())
+        report(QStringLiteral("text ") + quoted(m_node->text), ignored());
     std::vector<ThemeElement> children;
-    for (QDomNode node = m_element.firstChild(); !node.isNull(); node = node.nextSibling()) {
-        if (node.isElement())
-            children.emplace_back(*m_document, node.toElement());
-        else if (node.isText())
-            report(QStringLiteral("text ") + quoted(node.nodeValue().trimmed()), ignored());
+    children.reserve(m_node->children.size());
+    for (const ThemeNode& child : m_node->children) {
+        children.emplace_back(*m_document, child);
+        children.back().m_alternatives = m_alternatives;
     }
     return children;
 }
@@ -242,15 +369,14 @@ int ThemeElement::readInteger(const QString& text, int smallest, int largest, bo
 
 ThemeProblem ThemeElement::place() const
 {
-    return {m_document->getPath(), m_element.lineNumber(), m_element.columnNumber(), {}, {}};
+    return {m_document->getPath(), m_node->line, m_node->column, {}, {}};
 }
 
 void ThemeElement::checkAttributes(std::initializer_list<const char*> known,
                                    const QStringList& others) const
 {
-    const QDomNamedNodeMap attributes = m_element.attributes();
-    for (int i = 0; i < attributes.size(); ++i) {
-        const QString name = attributes.item(i).nodeName();
+    for (const auto& attribute : m_node->attributes) {
+        const QString& name = attribute.first;
         const auto isName = [&name](const char* other) { return name == QLatin1String(other); };
         if (std::none_of(known.begin(), known.end(), isName) && !others.contains(name))
             report(QStringLiteral("unknown attribute ") + quoted(name), ignored());
@@ -261,8 +387,7 @@ void ThemeElement::checkTextElement(std::initializer_list<const char*> known,
                                     const QStringList& others) const
 {
     checkAttributes(known, others);
-    for (QDomElement child = m_element.firstChildElement(); !child.isNull();
-         child = child.nextSiblingElement())
+    for (const ThemeNode& child : m_node->children)
         ThemeElement(*m_document, child).rejectUnknown();
 }
 
@@ -273,7 +398,7 @@ void ThemeElement::reject(const QString& problem) const
 
 void ThemeElement::rejectUnknown() const
 {
-    m_document->report(m_element.lineNumber(), m_element.columnNumber(),
+    m_document->report(m_node->line, m_node->column,
                        QStringLiteral("unknown element ") + quoted(getTag()), leftOut());
 }
 
@@ -282,11 +407,10 @@ void ThemeElement::report(const QString& what, const QString& done) const
     QString subject = getTag();
     for (const QString& key :
          {QStringLiteral("name"), QStringLiteral("role"), QStringLiteral("group")}) {
-        if (hasAttribute(key))
-            subject += QLatin1Char(' ') + quoted(getAttribute(key));
+        if (const QString* value = findAttribute(key))
+            subject += QLatin1Char(' ') + quoted(*value);
     }
-    m_document->report(m_element.lineNumber(), m_element.columnNumber(),
-                       subject + QStringLiteral(": ") + what, done);
+    m_document->report(m_node->line, m_node->column, subject + QStringLiteral(": ") + what, done);
 }
 
 ThemeDocument::ThemeDocument(const QString& path, ThemeFileBudget& budget) : m_path(path)
@@ -297,7 +421,7 @@ ThemeDocument::ThemeDocument(const QString& path, ThemeFileBudget& budget) : m_p
         m_status = FILE_NOT_FOUND_ERROR;
         return;
     }
-    const QByteArray bytes = file.read(qint64(budget.bytes) + 1);
+    const QByteArray bytes = file.read(std::min<qint64>(file.size(), budget.bytes) + 1);
     budget.bytes -= bytes.size();
     if (budget.bytes < 0)
         fail(1, QStringLiteral("the file is too large"));
@@ -313,19 +437,11 @@ void ThemeDocument::parse(const QString& text, ThemeFileBudget& budget)
     }
     QXmlStreamReader reader(text);
     reader.setNamespaceProcessing(false);
-    const QString problem = scan(reader, budget);
-    if (!problem.isEmpty()) {
-        fail(int(reader.lineNumber()), problem);
-        return;
-    }
-    if (reader.hasError())
-        fail(int(reader.lineNumber()), reader.errorString());
-
-    QString error;
-    int line = 0;
-    const QString checked = reader.hasError() ? text.left(int(reader.characterOffset())) : text;
-    if (!m_content.setContent(checked, &error, &line) && m_status == NO_ERROR)
-        fail(line, error);
+    const QString problem = TreeBuilder(reader, budget).build(m_root);
+    if (!problem.isEmpty() || reader.hasError())
+        fail(int(reader.lineNumber()), problem.isEmpty() ? reader.errorString() : problem);
+    if (problem.isEmpty())
+        m_text = reader.hasError() ? text.left(int(reader.characterOffset())) : text;
 }
 
 void ThemeDocument::fail(int line, const QString& what)

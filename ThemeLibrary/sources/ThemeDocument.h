@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDomDocument>
+#include <QPair>
 #include <QSet>
 #include <QStringList>
 #include <QVector>
@@ -12,6 +12,7 @@
 namespace BRELK {
 
 class ThemeDocument;
+struct NamedThemeElement;
 
 /// What is wrong in a theme file, and what was done about it.
 struct ThemeProblem
@@ -41,32 +42,52 @@ private:
     QVector<ThemeProblem> m_problems;
 };
 
+/// An element as it stands in a file.
+struct ThemeNode
+{
+    QString tag;
+    QVector<QPair<QString, QString>> attributes;
+    QString text; ///< all that stands right in it, without the blanks around it
+    int line = 0;
+    int column = 0;
+    std::vector<ThemeNode> children;
+};
+
 /// An element of a theme file that knows how to report problems with itself. Valid as long as its
 /// document.
 class ThemeElement
 {
 public:
-    ThemeElement(const ThemeDocument& document, const QDomElement& element);
+    ThemeElement(const ThemeDocument& document, const ThemeNode& node)
+        : m_document(&document), m_node(&node)
+    { }
 
-    /// Whether both are the same element of the same document.
-    bool operator==(const ThemeElement& other) const { return m_element == other.m_element; }
+    /// Whether both are the same element of the same document, read for the same name.
+    bool operator==(const ThemeElement& other) const
+    {
+        return m_node == other.m_node && m_alternatives == other.m_alternatives;
+    }
 
-    QString getTag() const { return m_element.tagName(); }
+    const QString& getTag() const { return m_node->tag; }
 
     /// Where it stands, for messages.
     ThemeProblem place() const;
 
     /// The text without the blanks around it.
-    QString getText() const;
+    QString getText() const { return withAlternatives(m_node->text); }
 
-    int countAttributes() const { return m_element.attributes().size(); }
+    int countAttributes() const { return m_node->attributes.size(); }
 
-    bool hasAttribute(const QString& name) const { return m_element.hasAttribute(name); }
+    bool hasAttribute(const QString& name) const { return findAttribute(name) != nullptr; }
 
-    QString getAttribute(const QString& name) const { return m_element.attribute(name); }
+    QString getAttribute(const QString& name) const;
 
     /// The elements within this one; other content is reported.
     std::vector<ThemeElement> getChildren() const;
+
+    /// This element as it reads for each of the names that its attribute "name" spells: "{1}" in
+    /// its content stands for the alternative of the name's first group. At most `most` names.
+    std::vector<NamedThemeElement> spellNames(int most) const;
 
     /// `text` as a number from `smallest` to `largest`. Any other text makes `ok` false and has the
     /// element rejected.
@@ -93,8 +114,19 @@ public:
     void report(const QString& what, const QString& done) const;
 
 private:
+    const QString* findAttribute(const QString& name) const;
+    QString withAlternatives(const QString& text) const;
+
     const ThemeDocument* m_document;
-    QDomElement m_element;
+    const ThemeNode* m_node;
+    /// Of the groups in its name; empty for those that it does not refer to.
+    QStringList m_alternatives;
+};
+
+struct NamedThemeElement
+{
+    QString name;
+    ThemeElement element;
 };
 
 /// What may be read of a theme file and the files it extends together. It is far more than any
@@ -120,10 +152,11 @@ public:
     /// it is not well-formed XML, too large or too deep.
     Status getStatus() const { return m_status; }
 
-    /// The file's content. Of a file that is not well-formed, what stands before the error.
-    const QDomDocument& getContent() const { return m_content; }
+    /// The file's content, decoded. Of a file that is not well-formed, what stands before the
+    /// error; of one that is too large or too deep, nothing.
+    const QString& getText() const { return m_text; }
 
-    ThemeElement getRoot() const { return {*this, m_content.documentElement()}; }
+    ThemeElement getRoot() const { return {*this, m_root}; }
 
     /// Reports why the status is `READ_ERROR`, if it is.
     void reportFailure() const;
@@ -138,7 +171,8 @@ private:
     void fail(int line, const QString& what);
 
     QString m_path;
-    QDomDocument m_content;
+    QString m_text;
+    ThemeNode m_root;
     Status m_status = NO_ERROR;
     int m_failureLine = 0;
     QString m_failure;

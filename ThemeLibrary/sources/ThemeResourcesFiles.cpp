@@ -24,13 +24,20 @@ QStringList readableExtensions()
     return extensions;
 }
 
+/// Opening a pipe or a device would wait for ever, so they are as good as missing.
+bool isThere(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.isFile() || info.isDir();
+}
+
 QString searchFile(const QString& base, const QStringList& extensions)
 {
-    if (QFileInfo::exists(base))
+    if (isThere(base))
         return base;
     for (const QString& extension : extensions) {
         const QString path = base + QLatin1Char('.') + extension;
-        if (QFileInfo::exists(path))
+        if (isThere(path))
             return path;
     }
     return {};
@@ -153,6 +160,8 @@ QCursor getCursor(const QString& name)
     const QString path =
         findFilePath(name, QDir::searchPaths(cursorsPrefix()), readableExtensions());
     const QPixmap pixmap(path);
+    if (pixmap.isNull())
+        return {};
     const bool isWindowsCursor = QFileInfo(path).suffix() == QLatin1String("cur");
     const QPoint hotSpot = isWindowsCursor ? extractHotspotFromCurFile(path) : CentreHotSpot;
     return {pixmap, hotSpot.x(), hotSpot.y()};

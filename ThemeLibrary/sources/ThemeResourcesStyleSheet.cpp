@@ -21,20 +21,17 @@ QString customizeStyleSheet(const QString& styleSheet)
         QStringLiteral("(@)([\\w%1]+)(@)").arg(QLatin1Char('/')));
 
     const QVariantMap variables = themeVariables();
-    QString result = styleSheet;
+    QString result;
     int from = 0;
-    for (auto match = sPlaceholder.match(result); match.hasMatch();
-         match = sPlaceholder.match(result, from)) {
+    for (auto matches = sPlaceholder.globalMatch(styleSheet); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
         const QVariant value = findVariable(variables, match.captured(2), {});
-        if (value.isValid()) {
-            const QString text = toQssString(value);
-            result.replace(match.capturedStart(), match.capturedLength(), text);
-            from = match.capturedStart() + text.size();
-        } else {
-            from = match.capturedEnd();
-        }
+        if (!value.isValid())
+            continue;
+        result += styleSheet.midRef(from, match.capturedStart() - from) + toQssString(value);
+        from = match.capturedEnd();
     }
-    return result;
+    return result + styleSheet.midRef(from);
 }
 
 } // namespace BRELK::ThemeResources

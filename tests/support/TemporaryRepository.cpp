@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <sys/stat.h>
+
 namespace {
 
 // The colors that the library's own style sheets name have to be there for Qt to take the sheets.
@@ -48,6 +50,12 @@ void TemporaryRepository::write(const QString& name, const QByteArray& content) 
     QFile file(path(name));
     if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
         qFatal("cannot write %s", qPrintable(file.fileName()));
+}
+
+void TemporaryRepository::makePipe(const QString& name) const
+{
+    QDir().mkpath(QFileInfo(path(name)).path());
+    ::mkfifo(QFile::encodeName(path(name)).constData(), S_IRUSR | S_IWUSR);
 }
 
 QString TemporaryRepository::addTheme(const QString& name, const QByteArray& title,

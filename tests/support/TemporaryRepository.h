@@ -16,6 +16,9 @@ public:
     /// Writes a file below the repository, making the directories on the way.
     void write(const QString& name, const QByteArray& content) const;
 
+    /// Makes a pipe, which nobody writes to, below the repository.
+    void makePipe(const QString& name) const;
+
     /// Adds the theme directory `name`, whose theme.xml names the theme `title`. It has a small
     /// configuration and palette mapping: "MainColor" is `mainColor`, "BackgroundBrush" and the
     /// Window role are #102030, "ForegroundBrush" and WindowText are #ffffff. Returns its path.

@@ -184,6 +184,27 @@ private Q_SLOTS:
                                      "REPOSITORY/a/Images/A/scalable/broken.rcc\n"
                                      "brushes"));
         QVERIFY(QFile::exists(QStringLiteral(":/from/a/bundle")));
+
+        m_files.makePipe(QStringLiteral("b/Fonts/pipe"));
+        QFile::link(m_files.path(QStringLiteral("b/Fonts/pipe")),
+                    m_files.path(QStringLiteral("b/Fonts/pipe.ttf")));
+        m_files.makePipe(QStringLiteral("b/Images/B/index.theme"));
+        const QByteArray text = applied({QStringLiteral("b")});
+        QVERIFY2(text.startsWith("REPOSITORY/b/Images/B/index.theme: it is no file; the images of "
+                                 "the theme are not used\n"
+                                 "Error reading font: REPOSITORY/b/Fonts/pipe.ttf\n"),
+                 text);
+    }
+
+    /// Its images are then looked for by the name of its directory.
+    void namesDoNotLeadOutOfTheTheme()
+    {
+        for (const char* name : {"../../b/Images/B", "..", "/etc", "a\\b"}) {
+            m_files.addTheme(QStringLiteral("a"), name);
+            const QByteArray text = applied();
+            QVERIFY2(text.contains(" leads out of the theme;"), text);
+            QVERIFY2(text.contains("REPOSITORY/a/Images/a/scalable\n"), text);
+        }
     }
 
     void variablesAreThereWhenWidgetsAreRestyled()
