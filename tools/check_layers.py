@@ -21,12 +21,12 @@ LAYERS = (
                                                             "ThemeFactory.*", "ThemeQApplication.*",
                                                             "ThemeSwitcher.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
-        "ArrowIcons.*", "ButtonContent.*", "InputMetrics.*", "Opacities.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
+        "ArrowIcons.*", "Foregrounds.*", "InputMetrics.*", "Opacities.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
         "WidgetProperties.*", "WidgetTraits.*")]),
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",
                                                      "ProxyStyle_p.*")]
-        + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "Metrics.*", "Polishing.*",
+        + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "HandOuts.*", "Metrics.*", "Polishing.*",
                                 "Revocable.*")]),
     (4, FAMILIES, [STYLE + "*"]),
     (1, "theme data", [LIBRARY + "*"]),

@@ -1,8 +1,8 @@
 #include "ThemeConfigurationReader.h"
 
 #include "ColorArithmetic.h"
-#include "ThemeConfigurationReader_p.h"
 #include "ThemeNames.h"
+#include "ThemeResolvers.h"
 #include "ThemeResources.h"
 
 #include <QFontDatabase>

@@ -1,6 +1,6 @@
 #include "ArrowIcons.h"
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "WidgetTraits.h"
 
 #include <QToolButton>
@@ -33,7 +33,7 @@ void paintArrow(const PaintContext& context, const QIcon& icon)
     if (!context.widget || context.flag(WidgetProperties::NoMenuArrow))
         return;
     const QBrush brush = qobject_cast<const QToolButton*>(context.widget)
-                             ? ButtonContent::foreground(context)
+                             ? Foregrounds::of(context)
                              : context.option.palette.brush(QPalette::ButtonText);
     ArrowIcons::draw(context, icon, context.option.rect, brush);
 }

@@ -1,6 +1,6 @@
 #include "ArrowIcons.h"
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -321,7 +321,7 @@ void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
         arrow.rect = context.visual({button.rect.right() - indicator - ArrowMargin,
                                      button.rect.y() + (button.rect.height() - indicator) / 2,
                                      indicator, indicator});
-        ButtonContent::commonCallButtonText(context.style, arrow, context.widget);
+        Foregrounds::commonCallButtonText(context.style, arrow, context.widget);
         ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, arrow);
     }
 }
@@ -335,8 +335,8 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
     if (themed.style() == Qt::NoBrush)
         themed = context.color(ThemeNames::ForegroundColor);
     const QBrush foreground =
-        ButtonContent::textBrush(context, QPalette::ButtonText, themed,
-                                 isFilled(context) ? brushes.backgroundBrush : QBrush());
+        Foregrounds::ofText(context, QPalette::ButtonText, themed,
+                            isFilled(context) ? brushes.backgroundBrush : QBrush());
 
     constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
     const int textWidth = Texts::width(context.painter, Flags, button.text);

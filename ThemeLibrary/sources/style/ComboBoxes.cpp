@@ -1,6 +1,6 @@
 #include "ArrowIcons.h"
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "InputMetrics.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
@@ -118,7 +118,7 @@ void paintArrow(const PaintContext& context, const QStyleOptionComboBox& comboBo
 {
     auto arrow = optionFrom<QStyleOptionButton>(comboBox);
     arrow.rect = rect;
-    ButtonContent::commonCallButtonText(context.style, arrow, context.widget);
+    Foregrounds::commonCallButtonText(context.style, arrow, context.widget);
     ArrowIcons::drawOf(context, QStyle::PE_IndicatorArrowDown, arrow);
 }
 
@@ -145,7 +145,7 @@ QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& combo
     const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&comboBox, context.widget);
     const QBrush themed =
         comboBox.frame ? brushes.foregroundBrush : context.brush(ThemeNames::ForegroundBrush);
-    return ButtonContent::textBrush(context, QPalette::ButtonText, themed, brushes.backgroundBrush);
+    return Foregrounds::ofText(context, QPalette::ButtonText, themed, brushes.backgroundBrush);
 }
 
 /// The base style moves the field of a pressed box; a text that jumps is hard to read.

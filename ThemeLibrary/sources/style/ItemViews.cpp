@@ -1,6 +1,6 @@
 #include "ArrowIcons.h"
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "Opacities.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
@@ -348,7 +348,7 @@ void paintArrow(const PaintContext& context, bool down)
     const int side = context.measure().indicatorSize();
     arrow.rect = QRect(0, 0, side, side);
     arrow.rect.moveCenter(context.option.rect.center());
-    ButtonContent::setForeground(arrow, textBrush(context));
+    Foregrounds::set(arrow, textBrush(context));
     const QStyle::PrimitiveElement sideways =
         context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
     ArrowIcons::drawOf(context, down ? QStyle::PE_IndicatorArrowDown : sideways, arrow);

@@ -1,6 +1,6 @@
 #include "ArrowIcons.h"
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "Opacities.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
@@ -253,7 +253,7 @@ void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item)
         const int side = measure.indicatorSize();
         arrow.rect = context.visual(
             {rect.right() + 1 - columns.end, rect.y() + (rect.height() - side) / 2, side, side});
-        ButtonContent::setForeground(arrow, brush);
+        Foregrounds::set(arrow, brush);
         ArrowIcons::drawOf(context,
                            context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft
                                                  : QStyle::PE_IndicatorArrowRight,

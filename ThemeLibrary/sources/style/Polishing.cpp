@@ -1,6 +1,7 @@
 #include "BaseStyle.h"
 #include "ComboBoxDefaultItemDelegate.h"
 #include "Families.h"
+#include "HandOuts.h"
 #include "OwnColors.h"
 #include "Revocable.h"
 #include "ThemeValues.h"
@@ -47,26 +48,6 @@ template <class Widget>
 Widget& as(QWidget& widget)
 {
     return static_cast<Widget&>(widget);
-}
-
-/// A theme brush that a widget library reads from one of its widgets' properties.
-struct HandedBrush
-{
-    const char* property;
-    ThemeNames::BrushName name;
-    bool enabled;
-};
-
-template <size_t Count>
-void handOut(QWidget& widget, const HandedBrush (&brushes)[Count])
-{
-    for (const HandedBrush& brush : brushes)
-        widget.setProperty(brush.property, themeValues().brushes.value(brush.name, brush.enabled));
-}
-
-int cornerRadius(ThemeNames::RadiusName size)
-{
-    return int(themeValues().radii.value(size));
 }
 
 /// Sets `role` for all groups to the theme brush `name`, and for the Disabled group to its twin.
@@ -209,32 +190,9 @@ void paintBackground(BaseStyle&, QWidget& widget)
     widget.setAttribute(Qt::WA_StyledBackground);
 }
 
-void setCardTitleFonts(BaseStyle&, QWidget& widget)
-{
-    const QFont minimized = themeValues().fonts.value(ThemeNames::BaseFont);
-    const QFont normal = themeValues().fonts.value(ThemeNames::MediumFont);
-    widget.setProperty(Properties::CardTitleMinimizedFont, minimized);
-    widget.setProperty(Properties::CardTitleDefaultFont, normal);
-    if (const QObject* card = widget.parent())
-        widget.setFont(Properties::flag(card, Properties::Minimized) ? minimized : normal);
-}
-
 void fadeSubtitle(BaseStyle&, QWidget& widget)
 {
     setPaletteBrush(widget, QPalette::WindowText, ThemeNames::ForegroundDisabledBrush);
-}
-
-bool isCard(const QWidget* widget)
-{
-    return WidgetTraits::isCardWidget(widget);
-}
-
-void dressCard(BaseStyle&, QWidget& widget)
-{
-    // Deliberate: the hover brush of foregrounds is the background of cards.
-    handOut(widget,
-            {{Properties::BackgroundBrush, ThemeNames::ForegroundMouseOverBrush, true},
-             {Properties::BackgroundBrushDisabled, ThemeNames::ForegroundMouseOverBrush, false}});
 }
 
 bool isComboBoxList(const QWidget* widget)
@@ -260,15 +218,9 @@ void replaceDelegate(BaseStyle&, QWidget& widget)
         comboBox.setItemDelegate(new ComboBoxDefaultItemDelegate(&comboBox, &comboBox));
 }
 
-bool isGroupContainer(const QWidget* widget)
+bool isCard(const QWidget* widget)
 {
-    return has<Properties::ButtonGroupContainer>(widget)
-           || has<Properties::ColorButtonContainer>(widget);
-}
-
-void roundGroupContainer(BaseStyle&, QWidget& widget)
-{
-    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::BaseSize));
+    return WidgetTraits::isCardWidget(widget);
 }
 
 bool isButtonGroup(const QWidget* widget)
@@ -276,76 +228,15 @@ bool isButtonGroup(const QWidget* widget)
     return WidgetTraits::isSegmentedGroup(widget);
 }
 
-void dressButtonGroup(BaseStyle&, QWidget& widget)
+bool isGroupContainer(const QWidget* widget)
 {
-    handOut(widget,
-            {{Properties::BackgroundBrush, ThemeNames::ListBackgroundBrush, true},
-             {Properties::BackgroundBrushDisabled, ThemeNames::ListBackgroundBrush, false},
-             {Properties::BorderBrush, ThemeNames::ListBorderBrush, true},
-             {Properties::BorderBrushDisabled, ThemeNames::ListBorderBrush, false},
-             {Properties::WorkflowLinkBrush, ThemeNames::PrioritySecondaryUpLevel1Brush, true},
-             {Properties::WorkflowLinkBrushDisabled, ThemeNames::PrioritySecondaryUpLevel1Brush,
-              false}});
+    return has<Properties::ButtonGroupContainer>(widget)
+           || has<Properties::ColorButtonContainer>(widget);
 }
 
 bool showsRoundedPixmap(const QWidget* widget)
 {
     return !Properties::value(widget, Properties::RoundedPixmap).value<QPixmap>().isNull();
-}
-
-void dressRoundedPixmap(BaseStyle&, QWidget& widget)
-{
-    handOut(widget, {{Properties::BorderBrush, ThemeNames::BackgroundSubLevel1Brush, true}});
-    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::MediumSize));
-}
-
-void setPillFont(BaseStyle&, QWidget& widget)
-{
-    QFont font = themeValues().fonts.value(ThemeNames::SmallFont);
-    font.setBold(true);
-    widget.setFont(font);
-}
-
-void dressPeriodicTable(BaseStyle&, QWidget& widget)
-{
-    const auto hand = [&](const char* property, ThemeNames::ColorName name) {
-        widget.setProperty(property, themeValues().colors.value(name));
-    };
-    hand(Properties::PeriodicTableBackgroundColor, ThemeNames::StatusConfigColor);
-    hand(Properties::PeriodicTableBorderColor, ThemeNames::StatusConfigColor);
-    hand(Properties::PeriodicTableForegroundColor, ThemeNames::ForegroundColor);
-    hand(Properties::PeriodicTableForegroundSubLevelColor, ThemeNames::ForegroundSubLevel1Color);
-    hand(Properties::PeriodicTableForegroundUpLevelColor, ThemeNames::ForegroundUpLevel1Color);
-
-    constexpr ThemeNames::ColorName Series[] = {
-        ThemeNames::Series01Color, ThemeNames::Series02Color, ThemeNames::Series03Color,
-        ThemeNames::Series04Color, ThemeNames::Series05Color, ThemeNames::Series06Color,
-        ThemeNames::Series07Color, ThemeNames::Series08Color, ThemeNames::Series09Color,
-        ThemeNames::Series10Color, ThemeNames::Series11Color};
-    QList<QColor> colors;
-    for (const auto name : Series)
-        colors.append(themeValues().colors.value(name));
-    widget.setProperty(Properties::PeriodicTableColorList, QVariant::fromValue(colors));
-}
-
-void dressRangeSlider(BaseStyle&, QWidget& widget)
-{
-    widget.setProperty(Properties::Orientation, Qt::Horizontal);
-    widget.setProperty(Properties::InvertedAppearance, false);
-    widget.setProperty(Properties::InvertedControls, false);
-    widget.setProperty(Properties::Tracking, true);
-    widget.setProperty(Properties::TickPosition, 0);
-    handOut(widget, {{Properties::SunkenBrush, ThemeNames::SliderThumbNailPressedBrush, true},
-                     {Properties::HoverBrush, ThemeNames::SliderThumbNailHoverBrush, true},
-                     {Properties::DefaultBrush, ThemeNames::InputForegroundBrush, true},
-                     {Properties::DefaultBrushDisabled, ThemeNames::InputForegroundBrush, false},
-                     {Properties::BackgroundBrush, ThemeNames::InputBackgroundBrush, true},
-                     {Properties::BackgroundBrushDisabled, ThemeNames::InputBackgroundBrush, false},
-                     {Properties::BorderBrush, ThemeNames::InputBorderBrush, true},
-                     {Properties::BorderBrushDisabled, ThemeNames::InputBorderBrush, false},
-                     {Properties::RangeBrush, ThemeNames::MainBrush, true},
-                     {Properties::RangeBrushDisabled, ThemeNames::MainBrush, false}});
-    widget.setProperty(Properties::CornerRadius, cornerRadius(ThemeNames::BaseSize));
 }
 
 void watch(BaseStyle& style, QWidget& widget)
@@ -397,17 +288,17 @@ constexpr PolishRule Rules[] = {
     {WidgetTraits::isStatusBar,        Revocable::raiseStatusBar},
     {is<QScrollArea>,                  lightenViewport},
     {hasOwnBackground,                 paintBackground},
-    {has<Properties::CardTitle>,       setCardTitleFonts},
+    {has<Properties::CardTitle>,       HandOuts::setCardTitleFonts},
     {has<Properties::CardSubtitle>,    fadeSubtitle},
-    {isCard,                           dressCard},
+    {isCard,                           HandOuts::dressCard},
     {is<QComboBox>,                    replaceDelegate},
     {isComboBoxList,                   dressComboBoxList},
-    {isGroupContainer,                 roundGroupContainer},
-    {isButtonGroup,                    dressButtonGroup},
-    {showsRoundedPixmap,               dressRoundedPixmap},
-    {has<Properties::PillFont>,        setPillFont},
-    {WidgetTraits::isPeriodicTable,    dressPeriodicTable},
-    {WidgetTraits::isRangeSlider,      dressRangeSlider},
+    {isGroupContainer,                 HandOuts::roundGroupContainer},
+    {isButtonGroup,                    HandOuts::dressButtonGroup},
+    {showsRoundedPixmap,               HandOuts::dressRoundedPixmap},
+    {has<Properties::PillFont>,        HandOuts::setPillFont},
+    {WidgetTraits::isPeriodicTable,    HandOuts::dressPeriodicTable},
+    {WidgetTraits::isRangeSlider,      HandOuts::dressRangeSlider},
     {is<QCommandLinkButton>,           watch},
     {hasNoShadow,                      castShadow},
     {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},

@@ -1,6 +1,6 @@
 #include "ArrowIcons.h"
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -77,7 +77,7 @@ void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool 
     arrow.rect = QRect(0, 0, ArrowIconSize, ArrowIconSize);
     arrow.rect.moveCenter(bar.rect.center());
     if (BaseStyle::isHovered(&bar) || BaseStyle::isPressed(bar))
-        ButtonContent::setForeground(arrow, context.color(ThemeNames::MainColor));
+        Foregrounds::set(arrow, context.color(ThemeNames::MainColor));
     if (qMin(bar.rect.width(), bar.rect.height()) >= ArrowSize)
         ArrowIcons::drawOf(context, lineArrow(context, forwards), arrow);
 }

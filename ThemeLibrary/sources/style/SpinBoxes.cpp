@@ -1,5 +1,5 @@
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Pictures.h"
@@ -133,11 +133,11 @@ void paintStepButton(const PaintContext& context, const StepButton& button,
         context.draw(QStyle::PE_PanelButtonBevel, bevel);
 
     if (context.style.getButtonBackgroundState(bevel) == BaseStyle::ButtonBackground_Highlighted)
-        ButtonContent::setForeground(copy, copy.palette.brush(QPalette::HighlightedText));
+        Foregrounds::set(copy, copy.palette.brush(QPalette::HighlightedText));
     if (BaseStyle::isButtonHovered(&bevel))
-        ButtonContent::setForeground(copy, context.brush(ThemeNames::MainBrush));
+        Foregrounds::set(copy, context.brush(ThemeNames::MainBrush));
     if (BaseStyle::isDown(bevel))
-        ButtonContent::setForeground(copy, context.brush(ThemeNames::MainSubLevel1Brush));
+        Foregrounds::set(copy, context.brush(ThemeNames::MainSubLevel1Brush));
     const bool hasSigns = copy.buttonSymbols == QAbstractSpinBox::PlusMinus;
     context.draw(hasSigns ? button.sign : button.arrow, copy);
 }

@@ -1,5 +1,5 @@
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeIcons.h"

@@ -1,5 +1,5 @@
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "Opacities.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
@@ -83,13 +83,13 @@ void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab)
     if (!tab.icon.isNull()) {
         QStyleOptionToolBox icon = tab;
         icon.text.clear();
-        icon.icon = ButtonContent::commonModifyStyleOptionIcon(tab.icon, brush);
+        icon.icon = Foregrounds::commonModifyStyleOptionIcon(tab.icon, brush);
         paintLabelPart(context, icon, {textRect.topLeft(), QSize(iconSize, tab.rect.height())});
         textRect.adjust(iconSize + IconSpacing, 0, 0, 0);
     }
     QStyleOptionToolBox text = tab;
     text.icon = QIcon();
-    ButtonContent::setForeground(text, brush);
+    Foregrounds::set(text, brush);
     paintLabelPart(context, text, textRect);
 }
 

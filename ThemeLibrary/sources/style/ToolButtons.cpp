@@ -1,6 +1,6 @@
 #include "ArrowIcons.h"
-#include "ButtonContent.h"
 #include "Families.h"
+#include "Foregrounds.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
@@ -228,7 +228,7 @@ void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& 
     label.state = states.button;
     const int frameWidth = context.metric(QStyle::PM_DefaultFrameWidth);
     label.rect = buttonRect.adjusted(frameWidth, frameWidth, -frameWidth, -frameWidth);
-    ButtonContent::commonCallButtonText(context.style, label, context.widget);
+    Foregrounds::commonCallButtonText(context.style, label, context.widget);
     context.draw(QStyle::CE_ToolButtonLabel, label);
 
     if (button.subControls & QStyle::SC_ToolButtonMenu)
@@ -257,7 +257,7 @@ void BaseStyle::drawToolButtonArrow(const QStyle* style, const QStyleOptionToolB
     }
     QStyleOption arrow = *option;
     arrow.rect = rect;
-    ButtonContent::commonCallButtonText(*this, arrow, widget);
+    Foregrounds::commonCallButtonText(*this, arrow, widget);
     style->drawPrimitive(element, &arrow, painter, widget);
 }
 

@@ -2,24 +2,23 @@
 
 #include "StyleContext.h"
 
-/// Prepares what a button-like control shows before it is painted: text and icon in the control's
-/// foreground.
-namespace BRELK::ButtonContent {
+/// In what brush a button-like control writes and draws, and its options and icons in that brush.
+namespace BRELK::Foregrounds {
 
 /// The brush that a button-like control writes in on a panel that the theme fills with `ground`, or
 /// without a panel on what it stands on: the application's own for `role`, else `themed`, else the
 /// palette's. Whatever that is, it is read on the ground.
-QBrush textBrush(const StyleContext& context, QPalette::ColorRole role, const QBrush& themed,
-                 const QBrush& ground);
+QBrush ofText(const StyleContext& context, QPalette::ColorRole role, const QBrush& themed,
+              const QBrush& ground);
 
 /// The brush that a button-like control writes and draws in, on the ground that it shows.
-QBrush foreground(const StyleContext& context);
+QBrush of(const StyleContext& context);
 
 /// `icon` in `brush`; as it is for a brush that paints nothing.
 QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush);
 
 /// Makes `brush` that of the option's texts and arrows, in the current color group of its palette.
-void setForeground(QStyleOption& option, const QBrush& brush);
+void set(QStyleOption& option, const QBrush& brush);
 
 /// Gives the option's texts and arrows the foreground of its button brushes.
 void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget);
@@ -30,4 +29,4 @@ void commonCallButtonText(const BaseStyle& style, QStyleOptionButton& option,
 void commonCallButtonText(const BaseStyle& style, QStyleOptionToolButton& option,
                           const QWidget* widget);
 
-} // namespace BRELK::ButtonContent
+} // namespace BRELK::Foregrounds

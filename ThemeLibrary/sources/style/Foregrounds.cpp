@@ -1,4 +1,4 @@
-#include "ButtonContent.h"
+#include "Foregrounds.h"
 
 #include "Kept.h"
 #include "OwnColors.h"
@@ -7,7 +7,7 @@
 
 #include <QToolButton>
 
-namespace BRELK::ButtonContent {
+namespace BRELK::Foregrounds {
 
 namespace {
 
@@ -41,14 +41,14 @@ struct PaletteKey
 template <class Option>
 void prepare(const BaseStyle& style, Option& option, const QWidget* widget)
 {
-    const QBrush brush = foreground({style, option, widget});
-    setForeground(option, brush);
+    const QBrush brush = of({style, option, widget});
+    set(option, brush);
     option.icon = commonModifyStyleOptionIcon(option.icon, brush);
 }
 
 } // namespace
 
-QBrush foreground(const StyleContext& context)
+QBrush of(const StyleContext& context)
 {
     const BaseStyle::ButtonBrushes brushes =
         BaseStyle::buttonBrushes(&context.option, context.widget);
@@ -58,12 +58,12 @@ QBrush foreground(const StyleContext& context)
     if (isToolButton && WidgetTraits::isCalendarButton(context.widget))
         return isOnPanel ? brushes.foregroundBrush
                          : context.option.palette.brush(QPalette::HighlightedText);
-    return textBrush(context, QPalette::ButtonText, brushes.foregroundBrush,
-                     isOnPanel ? brushes.backgroundBrush : QBrush());
+    return ofText(context, QPalette::ButtonText, brushes.foregroundBrush,
+                  isOnPanel ? brushes.backgroundBrush : QBrush());
 }
 
-QBrush textBrush(const StyleContext& context, QPalette::ColorRole role, const QBrush& themed,
-                 const QBrush& ground)
+QBrush ofText(const StyleContext& context, QPalette::ColorRole role, const QBrush& themed,
+              const QBrush& ground)
 {
     const QBrush& given = context.option.palette.brush(role);
     const bool isSet = context.widget && context.widget->palette().resolve() & (1U << role);
@@ -81,7 +81,7 @@ QBrush textBrush(const StyleContext& context, QPalette::ColorRole role, const QB
     return isOwn ? OwnColors::readable(ground, {brush, themed}) : brush;
 }
 
-void setForeground(QStyleOption& option, const QBrush& brush)
+void set(QStyleOption& option, const QBrush& brush)
 {
     constexpr int BytesOfPalette = 4096;
     // To change one brush of a palette all others are copied, which takes longer than painting.
@@ -108,7 +108,7 @@ QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush)
 
 void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget)
 {
-    setForeground(option, foreground({style, option, widget}));
+    set(option, of({style, option, widget}));
 }
 
 void commonCallButtonText(const BaseStyle& style, QStyleOptionButton& option, const QWidget* widget)
@@ -122,4 +122,4 @@ void commonCallButtonText(const BaseStyle& style, QStyleOptionToolButton& option
     prepare(style, option, widget);
 }
 
-} // namespace BRELK::ButtonContent
+} // namespace BRELK::Foregrounds
