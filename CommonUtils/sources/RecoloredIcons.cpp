@@ -82,6 +82,31 @@ struct PictureKey
     }
 };
 
+/// All that the picture of an icon from a file depends on.
+struct AskedPicture
+{
+    qint64 icon; ///< 0 for other icons
+    QString iconTheme;
+    Recoloring recoloring;
+    QSize size;
+    QIcon::Mode mode;
+    QIcon::State state;
+    qreal ratio;
+
+    friend bool operator==(const AskedPicture& one, const AskedPicture& other)
+    {
+        return one.icon == other.icon && one.iconTheme == other.iconTheme
+               && one.recoloring == other.recoloring && one.size == other.size
+               && one.mode == other.mode && one.state == other.state && one.ratio == other.ratio;
+    }
+
+    friend uint qHash(const AskedPicture& picture, uint seed)
+    {
+        return ::qHash(picture.icon, seed) ^ hashOf(picture.recoloring)
+               ^ uint(picture.size.width() << 4 ^ picture.size.height());
+    }
+};
+
 /// An icon is asked in device pixels; without this `QIcon` would scale by the ratio of the
 /// application once more.
 class AskedInDevicePixels
@@ -159,14 +184,58 @@ QPixmap made(const QPixmap& source, const Recoloring& recoloring, qreal ratio)
     return result;
 }
 
+qint64 bytesOf(const QPixmap& picture)
+{
+    return qint64(picture.width()) * picture.height() * picture.depth() / 8;
+}
+
 QPixmap kept(const PictureKey& key, const QPixmap& source)
 {
     static Kept::Store<PictureKey, QPixmap> sPictures;
     if (const QPixmap* known = sPictures.find(key))
         return *known;
     auto picture = std::make_unique<QPixmap>(made(source, key.recoloring, key.ratio));
-    const qint64 bytes = qint64(picture->width()) * picture->height() * picture->depth() / 8;
-    return *sPictures.keep(key, std::move(picture), bytes + key.content.sizeInBytes());
+    const qint64 bytes = bytesOf(*picture) + key.content.sizeInBytes();
+    return *sPictures.keep(key, std::move(picture), bytes);
+}
+
+/// Whether `icon` is drawn from files that the icon theme names, and so is the same as long as that
+/// is: names with points are given to files. What programs draw themselves has no name, or one
+/// without.
+bool isFromFile(const QIcon& icon)
+{
+    return icon.name().contains(QLatin1Char('.'));
+}
+
+QPixmap drawn(const QIcon& icon, const AskedPicture& picture)
+{
+    constexpr int MostContent = 64 * 64; ///< pixels
+    Recoloring recoloring = picture.recoloring;
+    recoloring.disabled = recoloring.disabled || picture.mode == QIcon::Disabled;
+    const QIcon::Mode mode = recoloring.disabled ? QIcon::Disabled : picture.mode;
+    const bool isOwn = hasOwn(icon, mode, picture.state);
+    if (isOwn)
+        recoloring = {};
+    const QSize wanted = picture.size * picture.ratio;
+    QPixmap source;
+    {
+        const AskedInDevicePixels inDevicePixels;
+        source = icon.pixmap(wanted, isOwn ? mode : QIcon::Normal, picture.state);
+    }
+    const bool isFine = source.width() >= wanted.width() || source.height() >= wanted.height();
+    const qreal ratio = isFine
+                            ? picture.ratio
+                            : qMax(1.0, picture.ratio * source.width() / qMax(1, wanted.width()));
+    if (source.isNull() || (!referenceColor(recoloring) && !recoloring.disabled && ratio == 1))
+        return source;
+    // What is kept by another key, and what nobody else has, is drawn anew.
+    if (picture.icon)
+        return made(source, recoloring, ratio);
+    if (!source.isDetached())
+        return kept({source.cacheKey(), {}, recoloring, ratio}, source);
+    if (source.width() * source.height() <= MostContent)
+        return kept({0, source.toImage(), recoloring, ratio}, source);
+    return made(source, recoloring, ratio);
 }
 
 } // namespace
@@ -203,30 +272,17 @@ bool hasOwn(const QIcon& icon, QIcon::Mode mode, QIcon::State state)
 QPixmap pixmap(const QIcon& icon, const Recoloring& recoloring, const QSize& size, QIcon::Mode mode,
                QIcon::State state, qreal ratio)
 {
-    constexpr int MostContent = 64 * 64; ///< pixels
-    Recoloring asked = recoloring;
-    asked.disabled = asked.disabled || mode == QIcon::Disabled;
-    const QIcon::Mode shown = asked.disabled ? QIcon::Disabled : mode;
-    const bool isOwn = hasOwn(icon, shown, state);
-    if (isOwn)
-        asked = {};
-    const QSize wanted = size * ratio;
-    QPixmap source;
-    {
-        const AskedInDevicePixels inDevicePixels;
-        source = icon.pixmap(wanted, isOwn ? shown : QIcon::Normal, state);
-    }
-    const bool isFine = source.width() >= wanted.width() || source.height() >= wanted.height();
-    const qreal itsRatio =
-        isFine ? ratio : qMax(1.0, ratio * source.width() / qMax(1, wanted.width()));
-    if (source.isNull() || (!referenceColor(asked) && !asked.disabled && itsRatio == 1))
-        return source;
-    // What nobody else has is drawn anew each time, under another key.
-    if (!source.isDetached())
-        return kept({source.cacheKey(), {}, asked, itsRatio}, source);
-    if (source.width() * source.height() <= MostContent)
-        return kept({0, source.toImage(), asked, itsRatio}, source);
-    return made(source, asked, itsRatio);
+    if (!isFromFile(icon))
+        return drawn(icon, {0, {}, recoloring, size, mode, state, ratio});
+    static Kept::Store<AskedPicture, QPixmap> sPictures;
+    const AskedPicture asked{
+        icon.cacheKey(), QIcon::themeName(), recoloring, size, mode, state, ratio};
+    if (const QPixmap* known = sPictures.find(asked))
+        return *known;
+    const QPixmap picture = drawn(icon, asked);
+    return picture.isNull()
+               ? picture
+               : *sPictures.keep(asked, std::make_unique<QPixmap>(picture), bytesOf(picture));
 }
 
 QPixmap pixmap(const QPixmap& source, const Recoloring& recoloring)

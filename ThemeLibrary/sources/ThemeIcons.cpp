@@ -5,11 +5,11 @@
 #include "RecoloredIcons.h"
 #include "ThemeNames.h"
 #include "ThemeResources.h"
-#include "ThemeResources_p.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
-#include <QVariant>
+#include <QPointer>
 
 namespace BRELK::ThemeIcons {
 
@@ -60,9 +60,10 @@ Finding find(const FindingKey& key)
 
 /// What was found in the current theme. Looking for a brush's name and an icon's file takes far
 /// longer than painting the icon.
-class Findings
+class Findings : public QObject
 {
 public:
+    /// Good until the next call.
     const Finding& of(const FindingKey& key)
     {
         constexpr int BytesOfNames = 256;
@@ -72,25 +73,34 @@ public:
         return *m_findings.keep(key, std::make_unique<Finding>(find(key)), BytesOfNames);
     }
 
+    /// Asking the application each time whether it has other variables takes as long as all else.
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::DynamicPropertyChange && watched == m_application)
+            m_findings.clear();
+        return false;
+    }
+
 private:
     void forgetOtherThemes()
     {
-        const QVariantMap variables =
-            QCoreApplication::instance() ? ThemeResources::themeVariables() : QVariantMap();
-        const QString iconTheme = QIcon::themeName();
-        if (variables.isSharedWith(m_variables) && iconTheme == m_iconTheme)
-            return;
-        m_findings.clear();
-        m_variables = variables;
-        m_iconTheme = iconTheme;
+        if (!m_application && QCoreApplication::instance()) {
+            m_application = QCoreApplication::instance();
+            m_application->installEventFilter(this);
+            m_findings.clear();
+        }
+        if (const QString iconTheme = QIcon::themeName(); iconTheme != m_iconTheme) {
+            m_findings.clear();
+            m_iconTheme = iconTheme;
+        }
     }
 
-    QVariantMap m_variables;
+    QPointer<QCoreApplication> m_application;
     QString m_iconTheme;
     Kept::Store<FindingKey, Finding> m_findings;
 };
 
-Finding findingOf(const QString& icon, const QBrush& brush)
+const Finding& findingOf(const QString& icon, const QBrush& brush)
 {
     static Findings sFindings;
     return sFindings.of({icon, brush});
@@ -117,7 +127,7 @@ QIcon inReferenceColor(const QIcon& icon, const QString& name)
 QIcon colored(const QIcon& icon, const QBrush& brush)
 {
     const QString name = icon.name();
-    const Finding finding = findingOf(name, brush);
+    const Finding& finding = findingOf(name, brush);
     if (!finding.handMade.isNull())
         return finding.handMade;
     return RecoloredIcons::icon(inReferenceColor(icon, name), recoloring(brush, finding.disabled));
@@ -137,7 +147,7 @@ QPixmap pixmap(const QPainter& painter, const QIcon& icon, const QBrush& brush, 
     if (brush.style() == Qt::NoBrush)
         return RecoloredIcons::pixmap(icon, {}, size, shown, state, ratio);
     const QString name = icon.name();
-    const Finding finding = findingOf(name, brush);
+    const Finding& finding = findingOf(name, brush);
     if (!finding.handMade.isNull())
         return RecoloredIcons::pixmap(finding.handMade, {}, size, QIcon::Normal, state, ratio);
     return RecoloredIcons::pixmap(inReferenceColor(icon, name), recoloring(brush, finding.disabled),
