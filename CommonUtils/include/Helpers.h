@@ -47,9 +47,9 @@ public:
     /// draws nothing. The painter is left as it was found.
     ///
     /// On images, pixmaps and widgets this is several times as fast as `QPainter::drawRoundedRect`
-    /// unless the painter is rotated, translucent or composes otherwise than by default, the pen is
-    /// wider than 16 or not of one color, or the brush is a texture, a pattern or a gradient in
-    /// logical coordinates.
+    /// unless the painter is rotated, translucent (when there is both pen and brush) or composes
+    /// otherwise than by default, the pen is wider than 16 or not of one color, or the brush is a
+    /// texture, a pattern or a gradient in logical coordinates.
     static void drawRoundedRectShape(const QRectF& rect, int radius,
                                      StraightCornerFlags straightCorners, QPainter* painter);
 

@@ -25,7 +25,7 @@ DeviceCoordinates::DeviceCoordinates(const QPainter& painter)
     : m_transform(painter.deviceTransform())
     , m_isRaster(hasRaster(painter))
     , m_canCopy(m_isRaster && m_transform.type() <= QTransform::TxScale && m_transform.m11() > 0
-                && m_transform.m22() > 0 && painter.opacity() >= 1
+                && m_transform.m22() > 0
                 && painter.compositionMode() == QPainter::CompositionMode_SourceOver)
 { }
 

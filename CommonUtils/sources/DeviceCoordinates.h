@@ -20,7 +20,7 @@ public:
     bool isRaster() const { return m_isRaster; }
 
     /// Whether painting is nothing but setting pixels, so that they may be copied from a picture:
-    /// on a raster device, upright, and neither translucent nor composed.
+    /// on a raster device, upright and not composed.
     bool canCopy() const { return m_canCopy; }
 
     qreal horizontalScale() const { return m_transform.m11(); }

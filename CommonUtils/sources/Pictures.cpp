@@ -87,8 +87,9 @@ void drawKept(QPainter& painter, Kind kind, const QRect& rect, const QBrush& bru
 
     const DeviceCoordinates device(painter);
     const QRectF pixels = device.map(rect);
-    if (!rect.isValid() || !device.canCopy() || brush.style() != Qt::SolidPattern
-        || !DeviceCoordinates::isNear(pixels) || pixels.width() * pixels.height() > LargestArea) {
+    if (!rect.isValid() || !device.canCopy() || painter.opacity() < 1
+        || brush.style() != Qt::SolidPattern || !DeviceCoordinates::isNear(pixels)
+        || pixels.width() * pixels.height() > LargestArea) {
         call(paint, painter);
         return;
     }

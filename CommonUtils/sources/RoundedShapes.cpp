@@ -53,7 +53,10 @@ const ShapeTile& tileFor(const TileKey& key, const TileAxis& horizontal, const T
 bool drawFromTile(const RoundedShape& shape, const QPen& shapePen, const QBrush& brush,
                   const DeviceCoordinates& device, QPainter* painter)
 {
-    if (!device.canCopy() || !isTileable(*painter, shapePen, brush))
+    // Of a translucent shape the ground is seen through its border.
+    const bool isLayered = isVisible(shapePen) && brush.style() != Qt::NoBrush;
+    if (!device.canCopy() || !isTileable(*painter, shapePen, brush)
+        || (isLayered && painter->opacity() < 1))
         return false;
     static const QPen sNoPen(Qt::NoPen);
     const QPen& pen = isVisible(shapePen) ? shapePen : sNoPen;
