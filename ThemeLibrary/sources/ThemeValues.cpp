@@ -129,11 +129,7 @@ QIcon FrozenIcon::icon()
     return *m_icon;
 }
 
-ThemeValues& themeValues()
-{
-    static ThemeValues sValues;
-    return sValues;
-}
+ThemeValues::ThemeValues() = default;
 
 void letGoOfThemeValues()
 {

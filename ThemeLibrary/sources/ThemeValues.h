@@ -125,6 +125,8 @@ struct DisabledFactors
 /// list.
 struct ThemeValues
 {
+    ThemeValues();
+
     FrozenGroup<QColor> colors{ThemeNames::Group::Color};
     FrozenGroup<QBrush> brushes{ThemeNames::Group::Brush};
     FrozenGroup<QFont> fonts{ThemeNames::Group::Font};
@@ -152,7 +154,11 @@ struct ThemeValues
 };
 
 /// The one object of them.
-ThemeValues& themeValues();
+inline ThemeValues& themeValues()
+{
+    static ThemeValues sValues;
+    return sValues;
+}
 
 /// Lets go of all of it: everything is frozen anew at its next use.
 void letGoOfThemeValues();

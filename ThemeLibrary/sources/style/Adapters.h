@@ -2,6 +2,8 @@
 
 #include "StyleContext.h"
 
+#include <optional>
+
 /// Lets a table name functions that take the option type they work on: the adapter casts the
 /// option, and calls the function only when it has that type. All of it is resolved when compiling;
 /// a table entry is a plain pointer.
@@ -10,7 +12,7 @@ namespace BRELK {
 using Painter = void (*)(const PaintContext&);
 using RectRule = QRect (*)(const StyleContext&, const QRect& base);
 using PartRule = QRect (*)(const StyleContext&, QStyle::SubControl, const BasePart& base);
-using SizeRule = QSize (*)(const MeasureContext&, const QSize& contents, const QSize& base);
+using SizeRule = std::optional<QSize> (*)(const MeasureContext&, const QSize& contents);
 
 template <auto Function>
 struct Adapter;
@@ -72,14 +74,13 @@ struct Adapter<Rule>
     }
 };
 
-template <class Option,
-          QSize (*Rule)(const MeasureContext&, const Option&, const QSize&, const QSize&)>
+template <class Option, QSize (*Rule)(const MeasureContext&, const Option&, const QSize&)>
 struct Adapter<Rule>
 {
-    static QSize call(const MeasureContext& context, const QSize& contents, const QSize& base)
+    static std::optional<QSize> call(const MeasureContext& context, const QSize& contents)
     {
         const auto* option = qstyleoption_cast<const Option*>(context.option);
-        return option ? Rule(context, *option, contents, base) : base;
+        return option ? std::optional(Rule(context, *option, contents)) : std::nullopt;
     }
 };
 

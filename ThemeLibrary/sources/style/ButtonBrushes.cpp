@@ -64,10 +64,9 @@ QString partName(Part part)
     }
 }
 
-ComposedPlaces& placesOf(const QString& kind)
+ComposedPlaces& placesOf(ThemeValues& values, const QString& kind)
 {
     constexpr int MostKinds = 64;
-    ThemeValues& values = themeValues();
     if (kind.isEmpty())
         return values.composedBrushes;
     QHash<QString, ComposedPlaces>& ofKinds = values.composedBrushesOfKinds;
@@ -83,14 +82,14 @@ const QBrush& composedBrush(const Words& words, const QString& kind, bool enable
     for (const size_t word :
          {size_t(words.family), size_t(words.check), size_t(words.pointer), size_t(words.part)})
         index = index * ComposedPlaces::Words + word;
-    FrozenGroup<QBrush>& brushes = themeValues().brushes;
-    int& place = placesOf(kind).places.at(index);
+    ThemeValues& values = themeValues();
+    int& place = placesOf(values, kind).places.at(index);
     if (place < 0) {
         const QString name =
             familyName(words.family) + kind + stateName(words) + partName(words.part);
-        place = brushes.placeOf(enabled ? name : ThemeNames::twin(name));
+        place = values.brushes.placeOf(enabled ? name : ThemeNames::twin(name));
     }
-    return brushes.at(place);
+    return values.brushes.at(place);
 }
 
 struct ButtonLook

@@ -40,7 +40,7 @@ int panelRadius(const StyleContext& context, const QRect& rect)
 } // namespace
 
 QSize buttonSize(const MeasureContext& context, const QStyleOptionButton& button,
-                 const QSize& contents, const QSize& /*base*/)
+                 const QSize& contents)
 {
     const bool hasText = !button.text.isEmpty();
     const int padding = context.dpiScaled(hasText ? HorizontalPadding : IconOnlyPadding);
@@ -305,7 +305,7 @@ void paintButton(const PaintContext& context, const QStyleOptionButton& button)
         // The mark lies on the button's body, so it takes the color of the words there.
         const QBrush words = BaseStyle::buttonBrushes(&button, context.widget).foregroundBrush;
         if (words.style() != Qt::NoBrush)
-            focus.palette.setBrush(QPalette::Text, words);
+            Foregrounds::set(focus, words, QPalette::Text);
         context.draw(QStyle::PE_FrameFocusRect, focus);
     }
 }

@@ -43,8 +43,7 @@ int labelSpacing(const MeasureContext& context)
            + 1; // counted from the indicator's last pixel
 }
 
-QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton&, const QSize& contents,
-                   const QSize&)
+QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton&, const QSize& contents)
 {
     const QSize indicator(context.metric(QStyle::PM_IndicatorWidth),
                           context.metric(QStyle::PM_IndicatorHeight));
@@ -53,7 +52,7 @@ QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton&, con
 }
 
 QSize radioButtonSize(const MeasureContext& context, const QStyleOptionButton&,
-                      const QSize& contents, const QSize&)
+                      const QSize& contents)
 {
     const QSize indicator(context.metric(QStyle::PM_ExclusiveIndicatorWidth),
                           context.metric(QStyle::PM_ExclusiveIndicatorHeight));

@@ -73,7 +73,7 @@ QRect popupRect(const StyleContext& context, const QRect& box)
 } // namespace
 
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
-                   const QSize& contents, const QSize& /*base*/)
+                   const QSize& contents)
 {
     const int padding = 2 * textInset(context);
     if (!comboBox.frame)

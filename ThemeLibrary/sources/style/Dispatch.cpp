@@ -217,9 +217,9 @@ QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComple
 QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
                                   const QSize& contents, const QWidget* widget) const
 {
-    const QSize base = QProxyStyle::sizeFromContents(type, option, contents, widget);
     const SizeRule rule = option ? ruleOf(type) : nullptr;
-    return rule ? rule({*this, option, widget}, contents, base) : base;
+    const std::optional<QSize> size = rule ? rule({*this, option, widget}, contents) : std::nullopt;
+    return size ? *size : QProxyStyle::sizeFromContents(type, option, contents, widget);
 }
 
 } // namespace BRELK

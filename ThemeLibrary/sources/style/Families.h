@@ -43,7 +43,7 @@ void paintUp(const PaintContext& context);
 
 namespace Buttons {
 QSize buttonSize(const MeasureContext& context, const QStyleOptionButton& button,
-                 const QSize& contents, const QSize& base);
+                 const QSize& contents);
 void paintDefaultFrame(const PaintContext& context);
 void paintPanel(const PaintContext& context);
 void paintButton(const PaintContext& context, const QStyleOptionButton& button);
@@ -59,9 +59,9 @@ namespace CheckBoxes {
 int indicatorWidth(const MeasureContext& context);
 int labelSpacing(const MeasureContext& context);
 QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton& button,
-                   const QSize& contents, const QSize& base);
+                   const QSize& contents);
 QSize radioButtonSize(const MeasureContext& context, const QStyleOptionButton& button,
-                      const QSize& contents, const QSize& base);
+                      const QSize& contents);
 QRect indicatorRect(const StyleContext& context, const QStyleOptionButton& button,
                     const QRect& base);
 QRect contentsRect(const StyleContext& context, const QStyleOptionButton& button,
@@ -74,7 +74,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button);
 
 namespace ComboBoxes {
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
-                   const QSize& contents, const QSize& base);
+                   const QSize& contents);
 QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,
                QStyle::SubControl part, const BasePart& base);
 void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox);
@@ -99,7 +99,7 @@ void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& grou
 
 namespace Headers {
 QSize sectionSize(const MeasureContext& context, const QStyleOptionHeader& header,
-                  const QSize& contents, const QSize& base);
+                  const QSize& contents);
 QRect labelRect(const StyleContext& context, const QRect& base);
 QRect markRect(const StyleContext& context, const QRect& base);
 void paintHeader(const PaintContext& context, const QStyleOptionHeader& header);
@@ -110,7 +110,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionHeader& header);
 
 namespace ItemViews {
 QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
-               const QSize& contents, const QSize& base);
+               const QSize& contents);
 /// Of an item's check box or icon.
 QRect markRect(const StyleContext& context, const QRect& base);
 QRect textRect(const StyleContext& context, const QRect& base);
@@ -125,7 +125,7 @@ void paintColumnViewGrip(const PaintContext& context);
 namespace LineEdits {
 int iconSize(const MeasureContext& context);
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
-                   const QSize& contents, const QSize& base);
+                   const QSize& contents);
 QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base);
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
 void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame);
@@ -134,9 +134,9 @@ void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame);
 namespace Menus {
 int panelMargin(const MeasureContext& context);
 QSize itemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
-               const QSize& contents, const QSize& base);
+               const QSize& contents);
 QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
-                  const QSize& contents, const QSize& base);
+                  const QSize& contents);
 void paintPanel(const PaintContext& context);
 void paintItem(const PaintContext& context, const QStyleOptionMenuItem& item);
 void paintTearoff(const PaintContext& context, const QStyleOptionMenuItem& item);
@@ -148,7 +148,7 @@ namespace ProgressBars {
 /// Of a busy bar, which a style that goes takes with it.
 void endAnimation(QWidget& bar);
 QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressBar& bar,
-                      const QSize& contents, const QSize& base);
+                      const QSize& contents);
 void paintGroove(const PaintContext& context);
 void paintContents(const PaintContext& context, const QStyleOptionProgressBar& bar);
 void paintLabel(const PaintContext& context, const QStyleOptionProgressBar& bar);
@@ -167,7 +167,7 @@ void paintScrollBar(const PaintContext& context, const QStyleOptionSlider& bar);
 namespace Sliders {
 int spaceAvailable(const MeasureContext& context);
 QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
-                 const QSize& contents, const QSize& base);
+                 const QSize& contents);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
                QStyle::SubControl part, const BasePart& base);
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial);
@@ -176,7 +176,7 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider);
 
 namespace SpinBoxes {
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
-                  const QSize& contents, const QSize& base);
+                  const QSize& contents);
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
                QStyle::SubControl part, const BasePart& base);
 void paintDown(const PaintContext& context);
@@ -221,7 +221,7 @@ void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab);
 
 namespace ToolButtons {
 QSize toolButtonSize(const MeasureContext& context, const QStyleOptionToolButton& button,
-                     const QSize& contents, const QSize& base);
+                     const QSize& contents);
 void paintLabel(const PaintContext& context, const QStyleOptionToolButton& button);
 void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& button);
 } // namespace ToolButtons

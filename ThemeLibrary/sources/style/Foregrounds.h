@@ -18,7 +18,8 @@ QBrush of(const StyleContext& context);
 QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush);
 
 /// Makes `brush` that of the option's texts and arrows, in the current color group of its palette.
-void set(QStyleOption& option, const QBrush& brush);
+void set(QStyleOption& option, const QBrush& brush,
+         QPalette::ColorRole role = QPalette::ButtonText);
 
 /// Gives the option's texts and arrows the foreground of its button brushes.
 void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget);

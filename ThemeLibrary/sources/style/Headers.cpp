@@ -55,8 +55,7 @@ int markRoom(const MeasureContext& context, const QStyleOptionHeader& header)
 
 } // namespace
 
-QSize sectionSize(const MeasureContext& context, const QStyleOptionHeader& header, const QSize&,
-                  const QSize&)
+QSize sectionSize(const MeasureContext& context, const QStyleOptionHeader& header, const QSize&)
 {
     const int icon = iconExtent({context.style, header, context.widget}, header);
     const int gap = icon > 0 && !header.text.isEmpty() ? context.dpiScaled(Spacing) : 0;

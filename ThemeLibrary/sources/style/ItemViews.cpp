@@ -49,9 +49,10 @@ bool showsChildren(const QWidget* widget, const QStyleOptionViewItem& item)
 
 } // namespace
 
-QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item, const QSize&,
-               const QSize& base)
+QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
+               const QSize& contents)
 {
+    const QSize base = context.baseSize(QStyle::CT_ItemViewItem, contents);
     const int indicator = showsChildren(context.widget, item) ? context.indicatorSize() : 0;
     return {base.width() + indicator,
             qMax(base.height(), context.metric(QStyle::PM_HeaderDefaultSectionSizeVertical))};

@@ -45,7 +45,7 @@ int iconSize(const MeasureContext& context)
 }
 
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
-                   const QSize& contents, const QSize&)
+                   const QSize& contents)
 {
     if (frame.lineWidth <= 0)
         return contents;

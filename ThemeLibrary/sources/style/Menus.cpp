@@ -56,7 +56,7 @@ bool isSection(const QStyleOptionMenuItem& item)
 } // namespace
 
 QSize itemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
-               const QSize& contents, const QSize&)
+               const QSize& contents)
 {
     if (item.menuItemType == QStyleOptionMenuItem::Separator && !isSection(item))
         return {contents.width(), context.dpiScaled(SeparatorHeight)};
@@ -67,8 +67,7 @@ QSize itemSize(const MeasureContext& context, const QStyleOptionMenuItem& item,
             height};
 }
 
-QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem&, const QSize& contents,
-                  const QSize&)
+QSize barItemSize(const MeasureContext& context, const QStyleOptionMenuItem&, const QSize& contents)
 {
     return {contents.width() + 2 * context.dpiScaled(BarItemPadding),
             qMax(contents.height(), context.rowHeight(BarRowPadding))};

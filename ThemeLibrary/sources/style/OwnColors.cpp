@@ -32,13 +32,6 @@ bool isOfViews(const QBrush& brush)
            || brush == brushes.value(ThemeNames::ItemViewBackgroundBrush, false);
 }
 
-/// Inputs show the color of texts' grounds, and a combo box without an editor that of buttons.
-bool isInput(const QWidget* widget)
-{
-    const auto* comboBox = qobject_cast<const QComboBox*>(widget);
-    return comboBox ? comboBox->isEditable() : widget && WidgetTraits::isSpinBox(widget);
-}
-
 /// Whether a rule of a style sheet for the control's state gave it the brush.
 bool isOfState(const StyleContext& context, QPalette::ColorRole role)
 {
@@ -88,12 +81,14 @@ QBrush controlGround(const StyleContext& context)
 {
     constexpr int Hovered = 8;
     constexpr int Pressed = 16;
-    const bool input = isInput(context.widget);
+    // Inputs show the color of texts' grounds, and a combo box without an editor that of buttons.
+    const auto* comboBox = qobject_cast<const QComboBox*>(context.widget);
+    const bool input = comboBox ? comboBox->isEditable()
+                                : context.widget && WidgetTraits::isSpinBox(context.widget);
     QPalette::ColorRole role = input ? QPalette::Base : QPalette::Button;
     if (!has(context, role)) {
-        const bool hasOther = input || qobject_cast<const QComboBox*>(context.widget);
         role = input ? QPalette::Button : QPalette::Base;
-        if (!hasOther || !has(context, role))
+        if (!(input || comboBox) || !has(context, role))
             return Qt::NoBrush;
     }
     const QBrush& brush = brushOf(context, role);

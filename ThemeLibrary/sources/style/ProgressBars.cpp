@@ -20,8 +20,9 @@ constexpr int TextPadding = 2;
 } // namespace
 
 QSize progressBarSize(const MeasureContext& context, const QStyleOptionProgressBar& bar,
-                      const QSize&, const QSize& base)
+                      const QSize& contents)
 {
+    const QSize base = context.baseSize(QStyle::CT_ProgressBar, contents);
     const int thickness = context.rowHeight(TextPadding);
     return bar.orientation == Qt::Horizontal ? QSize(base.width(), thickness)
                                              : QSize(thickness, base.height());

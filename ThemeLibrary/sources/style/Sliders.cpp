@@ -67,7 +67,7 @@ int spaceAvailable(const MeasureContext& context)
 }
 
 QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
-                 const QSize& /*contents*/, const QSize& base)
+                 const QSize& contents)
 {
     // The handle stays in the middle: ticks on one side take as much room as on both.
     const int tickRoom =
@@ -76,6 +76,7 @@ QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider
                           ? context.dpiScaled(CrossSize)
                           : context.metric(QStyle::PM_SliderLength) + 2 * tickRoom;
     const bool vertical = slider.orientation == Qt::Vertical;
+    const QSize base = context.baseSize(QStyle::CT_Slider, contents);
     return base.expandedTo({vertical ? cross : 0, vertical ? 0 : cross});
 }
 

@@ -28,7 +28,7 @@ bool hasButtons(const QStyleOptionSpinBox& spinBox)
 /// As a style sheet sizes them, without asking the style: with the room of a frame also where none
 /// is drawn.
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
-                  const QSize& contents, const QSize& /*base*/)
+                  const QSize& contents)
 {
     QStyleOptionSpinBox framed = spinBox;
     framed.frame = true;

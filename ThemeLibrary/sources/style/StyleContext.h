@@ -22,6 +22,12 @@ struct MeasureContext
         return style.proxy()->pixelMetric(metric, option, widget);
     }
 
+    /// What the base style would answer.
+    QSize baseSize(QStyle::ContentsType type, const QSize& contents) const
+    {
+        return style.QProxyStyle::sizeFromContents(type, option, contents, widget);
+    }
+
     /// The metrics of the font that the control is drawn in.
     QFontMetrics fontMetrics() const;
 

@@ -31,7 +31,7 @@ bool hasMenuMark(const QStyleOptionToolButton& button, const QWidget* widget)
 } // namespace
 
 QSize toolButtonSize(const MeasureContext& context, const QStyleOptionToolButton& button,
-                     const QSize& contents, const QSize&)
+                     const QSize& contents)
 {
     const int markWidth =
         hasMenuMark(button, context.widget) ? context.metric(QStyle::PM_MenuButtonIndicator) : 0;
