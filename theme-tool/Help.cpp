@@ -54,10 +54,23 @@ QStringList names()
     return names;
 }
 
+/// Prints the themes that a command takes; nothing for commands that take none.
+QString themesFor(const Command& command)
+{
+    const bool takesThemes = command.arguments.contains(QLatin1String("THEME"))
+                             || command.arguments == QLatin1String("A B");
+    return takesThemes ? QStringLiteral("$(varn-theme list 2>/dev/null | cut -d' ' -f1)")
+                       : QString();
+}
+
 QString fishCompletion()
 {
     QString text;
     for (const Command& command : commands()) {
+        if (!themesFor(command).isEmpty())
+            text += QStringLiteral("complete -c varn-theme -n '__fish_seen_subcommand_from %1' -a "
+                                   "\"(varn-theme list 2>/dev/null | cut -d' ' -f1)\"\n")
+                        .arg(command.name);
         text += QStringLiteral("complete -c varn-theme -n __fish_use_subcommand -f -a %1 -d '%2'\n")
                     .arg(command.name, command.summary);
         for (const Option& option : command.options + commonOptions())
@@ -76,8 +89,8 @@ QString wordCompletion(const QString& frame)
         QStringList options;
         for (const Option& option : command.options + commonOptions())
             options += QLatin1String("--") + option.name;
-        cases += QStringLiteral("    %1) words=\"%2\" ;;\n")
-                     .arg(command.name, options.join(QLatin1Char(' ')));
+        cases += QStringLiteral("    %1) words=\"%2 %3\" ;;\n")
+                     .arg(command.name, options.join(QLatin1Char(' ')), themesFor(command));
     }
     return frame.arg(names().join(QLatin1Char(' ')), cases);
 }
@@ -86,8 +99,9 @@ QString wordCompletion(const QString& frame)
 
 QString helpText(const Command& command)
 {
-    return QStringLiteral("Usage: varn-theme %1 [options] %2\n\n%3\n\nOptions:\n")
-               .arg(command.name, command.arguments, command.description)
+    const QString usage = command.name + QLatin1String(" [options] ") + command.arguments;
+    return QStringLiteral("Usage: varn-theme %1\n\n%2\n\nOptions:\n")
+               .arg(usage.trimmed(), command.description)
            + optionsText(command.options + commonOptions());
 }
 

@@ -23,6 +23,15 @@ QRegularExpression pattern(const Request& request, int index)
     return QRegularExpression(request.arguments.value(index));
 }
 
+/// The exit status of a command that prints what matches `pattern`; says so when nothing does.
+int matched(bool isAny, const QString& pattern, const char* all)
+{
+    if (!isAny)
+        printError(QStringLiteral("nothing contains a match of \"%1\"; \"%2\" prints all")
+                       .arg(pattern, QLatin1String(all)));
+    return isAny ? Success : Faults;
+}
+
 QString place(const Entry& entry)
 {
     return QStringLiteral("%1:%2").arg(entry.place.file).arg(entry.place.line);
@@ -100,7 +109,7 @@ int runShow(const Request& request)
             print(name + QLatin1Char(' ') + described(theme, name)
                   + QLatin1String("  derived for disabled widgets\n"));
     }
-    return names.isEmpty() ? Faults : Success;
+    return matched(!names.isEmpty(), request.arguments.value(1), "varn-theme show THEME");
 }
 
 int runNames(const Request& request)
@@ -119,7 +128,7 @@ int runNames(const Request& request)
         isAny = true;
         print(QStringLiteral("%1  %2\n").arg(use.name.leftJustified(48), use.use));
     }
-    return isAny ? Success : Faults;
+    return matched(isAny, request.arguments.value(0), "varn-theme names");
 }
 
 int runDiff(const Request& request)
@@ -176,13 +185,16 @@ int runIcons(const Request& request)
     const QRegularExpression expression = pattern(request, 0);
     if (!isUsable(expression))
         return CouldNotRun;
+    bool isAny = false;
     for (const QString& file :
          QDir(QStringLiteral(":/Icons")).entryList({QStringLiteral("*.svg")})) {
         const QString name = file.left(file.size() - int(qstrlen(".svg")));
-        if (name.contains(expression))
-            print(name + QLatin1Char('\n'));
+        if (!name.contains(expression))
+            continue;
+        isAny = true;
+        print(name + QLatin1Char('\n'));
     }
-    return Success;
+    return matched(isAny, request.arguments.value(0), "varn-theme icons");
 }
 
 int runRender(const Request& request)
@@ -206,7 +218,7 @@ int runRender(const Request& request)
                             request.arguments.last()});
     constexpr int BetweenReports = 1000; // ms
     while (!process.waitForFinished(BetweenReports) && process.state() != QProcess::NotRunning)
-        showProgress(timer, QStringLiteral("rendered %1 pages")
+        showProgress(timer, QStringLiteral("pages rendered: %1")
                                 .arg(countPictures(request.arguments.last(), started)));
     const bool isDone = process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
     return isDone ? Success : CouldNotRun;
