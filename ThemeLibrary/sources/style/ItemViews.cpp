@@ -339,8 +339,8 @@ void paintCurrent(const PaintContext& context)
 {
     if (context.has(QStyle::State_KeyboardFocusChange) && !context.has(QStyle::State_Selected)
         && context.flag(WidgetProperties::HideFocusRect))
-        Shapes::drawBox(context, context.option.rect, 0, Qt::NoBrush,
-                        context.brush(ThemeNames::MainBrush));
+        Shapes::drawInnerBorder(context, context.option.rect, 0, // clear of a table's grid
+                                context.brush(ThemeNames::MainBrush));
 }
 
 void paintArrow(const PaintContext& context, bool down)

@@ -82,6 +82,9 @@ bool isComboBox(const QWidget* widget)
 QBrush background(const PaintContext& context, const QBrush& themed)
 {
     if (const auto* area = qobject_cast<const QAbstractScrollArea*>(context.widget)) {
+        // Qt tells a style sheet's rule for a state to the frame alone, and shows it through.
+        if (OwnColors::isOfState(context, QPalette::Base))
+            return context.option.palette.brush(QPalette::Base);
         const QWidget* viewport = area->viewport();
         return viewport->palette().brush(viewport->backgroundRole());
     }

@@ -32,7 +32,8 @@ bool isOfViews(const QBrush& brush)
            || brush == brushes.value(ThemeNames::ItemViewBackgroundBrush, false);
 }
 
-/// Whether a rule of a style sheet for the control's state gave it the brush.
+} // namespace
+
 bool isOfState(const StyleContext& context, QPalette::ColorRole role)
 {
     if (!context.widget)
@@ -40,8 +41,6 @@ bool isOfState(const StyleContext& context, QPalette::ColorRole role)
     const QPalette::ColorGroup group = context.option.palette.currentColorGroup();
     return brushOf(context, role) != context.widget->palette().brush(group, role);
 }
-
-} // namespace
 
 bool has(const StyleContext& context, QPalette::ColorRole role)
 {

@@ -17,6 +17,9 @@ bool isForAll(const BaseStyle& style, QPalette::ColorRole role);
 /// what it says.
 bool isForThis(const StyleContext& context, QPalette::ColorRole role);
 
+/// Whether a rule of a style sheet for the control's state gave it the brush.
+bool isOfState(const StyleContext& context, QPalette::ColorRole role);
+
 /// What a surface is filled with: the application's brush for `role`, else `themed`.
 QBrush ground(const StyleContext& context, QPalette::ColorRole role, const QBrush& themed);
 

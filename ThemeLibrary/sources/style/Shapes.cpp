@@ -80,8 +80,12 @@ void drawBox(const PaintContext& context, const QRectF& rect, int radius, const 
 void drawInnerBorder(const PaintContext& context, const QRect& rect, int radius,
                      const QBrush& border, Helpers::StraightCornerFlags straightCorners)
 {
-    drawBox(context, rect.adjusted(1, 1, -1, -1), qMax(0, radius - 1), Qt::NoBrush, border,
-            straightCorners);
+    if (border.style() == Qt::NoBrush)
+        return;
+    const PlacedBox box = placed(context.painter, rect); // no gap between the two
+    const QPen pen(border, box.border, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    Helpers::drawRoundedBox(box.inside(1.5), qMax(0, radius - 1), straightCorners, pen, Qt::NoBrush,
+                            &context.painter);
 }
 
 void drawGround(const PaintContext& context, const QRect& rect, int radius, const QBrush& fill)

@@ -23,6 +23,11 @@ constexpr int SelectedTextGain = 2;
 
 enum class Side { North, South, West, East };
 
+bool isUpright(Side side)
+{
+    return side == Side::West || side == Side::East;
+}
+
 Side sideOf(QTabBar::Shape shape)
 {
     switch (shape) {
@@ -105,16 +110,6 @@ Helpers::StraightCornerFlags pageCorners(Side side)
     }
 }
 
-QLine pageEdge(Side side, const QRect& rect)
-{
-    switch (side) {
-    case Side::South: return {rect.topLeft(), rect.topRight()};
-    case Side::West: return {rect.topRight(), rect.bottomRight()};
-    case Side::East: return {rect.topLeft(), rect.bottomLeft()};
-    default: return {rect.bottomLeft(), rect.bottomRight()};
-    }
-}
-
 /// Deliberate: unlike the font, only the properties of the bar and of its tab widget decide.
 ThemeNames::RadiusName radiusName(const QWidget* bar)
 {
@@ -139,7 +134,7 @@ QPolygonF triangularTab(const QRectF& rect, Side side)
 {
     constexpr qreal Slant = 8;
     constexpr qreal Cut = 2;
-    const bool upright = side == Side::West || side == Side::East;
+    const bool upright = isUpright(side);
     const qreal length = upright ? rect.height() : rect.width();
     const qreal depth = upright ? rect.width() : rect.height();
     QPolygonF points;
@@ -226,20 +221,57 @@ QBrush tabForeground(const PaintContext& context, const QStyleOptionTab& tab)
                                {themed, given, context.style.getPalette().windowText()});
 }
 
-/// Along the outer edge of the selected tab, between its round corners.
-QRect accentRect(const QRect& rect, Side side)
+/// `rect` without what of its last row, which it shares with the page, the page's line leaves free
+/// at scales between whole ones.
+QRectF upToPage(const PaintContext& context, const QRectF& rect, Side side)
 {
-    constexpr int Thickness = 2;
-    constexpr int Inset = 8;
+    const qreal rest = 1 - Shapes::borderInside(context.painter, rect, Qt::black).pen.widthF();
     switch (side) {
-    case Side::North: return {rect.x() + Inset, rect.y(), rect.width() - 2 * Inset, Thickness};
-    case Side::South:
-        return {rect.x() + Inset, rect.bottom() + 1 - Thickness, rect.width() - 2 * Inset,
-                Thickness};
-    case Side::West: return {rect.x(), rect.y() + Inset, Thickness, rect.height() - 2 * Inset};
-    default:
-        return {rect.right() + 1 - Thickness, rect.y() + Inset, Thickness,
-                rect.height() - 2 * Inset};
+    case Side::North: return rect.adjusted(0, 0, 0, -rest);
+    case Side::South: return rect.adjusted(0, rest, 0, 0);
+    case Side::West: return rect.adjusted(0, 0, -rest, 0);
+    default: return rect.adjusted(rest, 0, 0, 0);
+    }
+}
+
+/// What lies along an edge of `rect`, clear of its ends by `inset`.
+QRectF along(Side edge, const QRectF& rect, qreal inset, qreal thickness)
+{
+    const QRectF inner =
+        isUpright(edge) ? rect.adjusted(0, inset, 0, -inset) : rect.adjusted(inset, 0, -inset, 0);
+    switch (edge) {
+    case Side::North: return {inner.topLeft(), QSizeF(inner.width(), thickness)};
+    case Side::South: return {inner.left(), inner.bottom() - thickness, inner.width(), thickness};
+    case Side::West: return {inner.topLeft(), QSizeF(thickness, inner.height())};
+    default: return {inner.right() - thickness, inner.top(), thickness, inner.height()};
+    }
+}
+
+Side opposite(Side side)
+{
+    switch (side) {
+    case Side::North: return Side::South;
+    case Side::South: return Side::North;
+    case Side::West: return Side::East;
+    default: return Side::West;
+    }
+}
+
+QRectF outerEdges(const Shapes::Border& border)
+{
+    const qreal half = border.pen.widthF() / 2;
+    return border.line.adjusted(-half, -half, half, half);
+}
+
+/// A square border, quicker than as a box; where two sides meet it is painted once.
+void paintEdges(const PaintContext& context, const QRect& rect, const QBrush& brush)
+{
+    const Shapes::Border border = Shapes::borderInside(context.painter, rect, brush);
+    const qreal width = border.pen.widthF();
+    for (const Side edge : {Side::North, Side::South, Side::West, Side::East}) {
+        const QRectF line = along(edge, outerEdges(border), isUpright(edge) ? width : 0, width);
+        if (line.height() > 0)
+            context.painter.fillRect(line, brush);
     }
 }
 
@@ -255,31 +287,23 @@ void paintFrame(const PaintContext& context)
                           context.brush(ThemeNames::TabBackgroundActiveBrush)));
     if (const auto* frame = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(&context.option)) {
         // The selected tab and its page are one surface: no line between them.
-        QRect gap = frame->selectedTabRect;
         const Side side = sideOf(frame->shape);
-        if (side == Side::North || side == Side::South)
-            gap.adjust(0, 0, -1, 0);
-        else
-            gap.adjust(0, 0, 0, -1);
+        const bool upright = isUpright(side);
+        const QRect gap = frame->selectedTabRect.adjusted(upright ? 0 : 1, upright ? 1 : 0,
+                                                          upright ? 0 : -1, upright ? -1 : 0);
         context.painter.setClipRegion(QRegion(rect).subtracted(gap));
     }
-    const QBrush& border = context.borderBrush();
-    Shapes::drawLine(context, rect.topLeft(), rect.topRight(), border);
-    Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), border);
-    if (rect.height() <= 2)
-        return;
-    Shapes::drawLine(context, rect.topLeft() + QPoint(0, 1), rect.bottomLeft() - QPoint(0, 1),
-                     border);
-    Shapes::drawLine(context, rect.topRight() + QPoint(0, 1), rect.bottomRight() - QPoint(0, 1),
-                     border);
+    paintEdges(context, rect, context.borderBrush());
 }
 
 void paintBarBase(const PaintContext& context, const QStyleOptionTabBarBase& bar)
 {
-    const QLine edge = pageEdge(sideOf(bar.shape), bar.rect);
-    const QRegion line = QRegion(QRect(edge.p1(), edge.p2())).subtracted(bar.selectedTabRect);
+    const Side side = sideOf(bar.shape);
+    const QRect edge = along(opposite(side), bar.rect, 0, 1).toRect();
+    const QRegion line = QRegion(edge).subtracted(bar.selectedTabRect);
     for (const QRect& part : line)
-        context.painter.fillRect(part, context.borderBrush());
+        Shapes::drawBox(context, upToPage(context, part, side), 0, context.borderBrush(),
+                        Qt::NoBrush);
 }
 
 void paintCloseButton(const PaintContext& context)
@@ -313,22 +337,21 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
         context.painter.drawPath(path);
         return;
     }
-    Shapes::drawBox(context, rect, Shapes::cornerRadius(radiusName(context.widget)), fill, border,
+    const QRectF shape = selected ? upToPage(context, rect, side) : QRectF(rect);
+    Shapes::drawBox(context, shape, Shapes::cornerRadius(radiusName(context.widget)), fill, border,
                     pageCorners(side));
-    const QLine edge = pageEdge(side, rect);
-    const QPoint inset = side == Side::North || side == Side::South ? QPoint(1, 0) : QPoint(0, 1);
-    const PainterSaver saver(context.painter);
-    Shapes::drawLine(context, edge.p1() + inset, edge.p2() - inset, fill);
+    constexpr int AccentThickness = 2;
+    constexpr int AccentInset = 8; // clear of the round corners
+    const Shapes::Border line = Shapes::borderInside(context.painter, shape, border);
+    const qreal width = line.pen.widthF();
+    if (line.pen.style() != Qt::NoPen)
+        context.painter.fillRect(along(opposite(side), outerEdges(line), width, width), fill);
     if (selected)
-        context.painter.fillRect(accentRect(rect, side), context.brush(ThemeNames::MainBrush));
+        Shapes::drawBox(context, along(side, rect, AccentInset, AccentThickness), 0,
+                        context.brush(ThemeNames::MainBrush), Qt::NoBrush);
 }
 
 namespace {
-
-bool isUpright(Side side)
-{
-    return side == Side::West || side == Side::East;
-}
 
 /// Turns the painter so that the label of an upright tab can be drawn lying, from the corner where
 /// the text begins.
