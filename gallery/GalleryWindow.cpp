@@ -3,6 +3,7 @@
 #include "Header.h"
 #include "Pages.h"
 #include "ThemeFactory.h"
+#include "ThemeRepositories.h"
 #include "ThemeResources.h"
 #include "ThemeSwitcher.h"
 #include "kit/Page.h"
@@ -42,11 +43,16 @@ GalleryWindow::GalleryWindow(const Settings& settings)
 {
     auto* header = new Header(settings);
     connect(header, &Header::themeChosen, this, [this](const QString& directory) {
+        BRELK::ThemeSwitcher::getInstance().stopFollowingDesktop();
+        m_settings.followDesktop = false;
         const QFileInfo theme(directory);
         BRELK::ThemeFactory::getInstance().setThemesRepositoryPath(theme.absolutePath());
         if (BRELK::ThemeSwitcher::getInstance().switchTo(theme.fileName()))
             m_settings.theme = theme.fileName();
     });
+    connect(header, &Header::desktopChosen, this, &GalleryWindow::followDesktop);
+    if (settings.followDesktop)
+        followDesktop();
     connect(header, &Header::scaleChosen, this, [this](double scale) {
         Settings changed = m_settings;
         changed.scale = scale;
@@ -112,6 +118,16 @@ void GalleryWindow::showPage(int index)
     m_pages->setCurrentIndex(index);
     m_settings.page = entry.name;
     setWindowTitle(entry.title);
+}
+
+void GalleryWindow::followDesktop()
+{
+    m_settings.followDesktop = true;
+    const QFileInfo light(BRELK::ThemeRepositories::find(QStringLiteral("Light")));
+    BRELK::ThemeFactory::getInstance().setThemesRepositoryPath(
+        m_settings.repository.value_or(light.absolutePath()));
+    BRELK::ThemeSwitcher::getInstance().followDesktop(QStringLiteral("Light"),
+                                                      QStringLiteral("Dark"));
 }
 
 /// Pages keep values of the theme: in samples, swatches and the words about them.

@@ -21,6 +21,7 @@ public:
 private:
     QWidget* makeNavigation();
     void showPage(int index);
+    void followDesktop();
     void rebuildPages();
     /// Starts the program anew, as a theme and a scale are chosen once in the life of a process.
     void restart(const Settings& settings);

@@ -52,9 +52,17 @@ void Header::addThemes(QBoxLayout& bar, const Settings& settings)
         themes->addItem(QFileInfo(directory).fileName(), directory);
     themes->setEnabled(themes->count() > 0);
     themes->setCurrentIndex(themes->findText(settings.theme));
+    themes->insertSeparator(themes->count());
+    themes->addItem(QStringLiteral("Follow the desktop"));
+    if (settings.followDesktop)
+        themes->setCurrentIndex(themes->count() - 1);
     addField(bar, QStringLiteral("&Theme"), themes);
-    connect(themes, QOverload<int>::of(&QComboBox::activated), this,
-            [this, themes](int index) { Q_EMIT themeChosen(themes->itemData(index).toString()); });
+    connect(themes, QOverload<int>::of(&QComboBox::activated), this, [this, themes](int index) {
+        if (index == themes->count() - 1)
+            Q_EMIT desktopChosen();
+        else
+            Q_EMIT themeChosen(themes->itemData(index).toString());
+    });
 }
 
 void Header::addScales(QBoxLayout& bar, double current)

@@ -18,6 +18,7 @@ public:
 
 Q_SIGNALS:
     void themeChosen(const QString& directory);
+    void desktopChosen(); ///< the theme Light or Dark, as the desktop prefers
     void rightToLeftChosen(bool rightToLeft);
     void scaleChosen(double scale);
 

@@ -59,6 +59,9 @@ struct Options
         QStringLiteral("via"),
         QStringLiteral("Switch to the theme <name> and back before each picture."),
         QStringLiteral("name")};
+    QCommandLineOption followDesktop{
+        QStringLiteral("follow-desktop"),
+        QStringLiteral("Use the theme Light or Dark, as the desktop prefers.")};
     QCommandLineOption rightToLeft{QStringLiteral("rtl"),
                                    QStringLiteral("Lay out from right to left.")};
     QCommandLineOption styleSheet{
@@ -95,6 +98,8 @@ QStringList Settings::toArguments() const
         arguments << QStringLiteral("--theme-repository") << *repository;
     arguments << QStringLiteral("--page") << page;
     arguments << QStringLiteral("--scale") << QString::number(scale);
+    if (followDesktop)
+        arguments << QStringLiteral("--follow-desktop");
     if (rightToLeft)
         arguments << QStringLiteral("--rtl");
     if (styleSheet)
@@ -126,7 +131,8 @@ Settings readSettings(const QCoreApplication& application)
         QStringLiteral("Shows every kind of widget in a theme, in every state."));
     parser.addHelpOption();
     parser.addOptions({options.theme, options.repository, options.page, options.render, options.via,
-                       options.scale, options.rightToLeft, options.styleSheet, options.listPages});
+                       options.followDesktop, options.scale, options.rightToLeft,
+                       options.styleSheet, options.listPages});
     parser.process(application);
 
     Settings settings;
@@ -136,6 +142,7 @@ Settings readSettings(const QCoreApplication& application)
     settings.page = knownPage(parser.value(options.page));
     settings.renderDirectory = parser.value(options.render);
     settings.via = parser.value(options.via);
+    settings.followDesktop = parser.isSet(options.followDesktop);
     settings.rightToLeft = parser.isSet(options.rightToLeft);
     if (parser.isSet(options.styleSheet))
         settings.styleSheet = parser.value(options.styleSheet);

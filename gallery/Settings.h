@@ -18,6 +18,7 @@ struct Settings
     QString renderDirectory; ///< empty: show the window
     std::optional<QString> styleSheet; ///< takes the place of the application style sheet
     QString via; ///< a theme to switch to and back from before pictures are taken
+    bool followDesktop = false; ///< its preference for light or dark
     double scale = 1;
     bool rightToLeft = false;
     bool listPages = false;

@@ -8,6 +8,7 @@ packages="
     qtbase5-dev libqt5svg5
     fonts-dejavu-core fontconfig
     python3 clang-format
+    dbus-daemon
     $*
 "
 

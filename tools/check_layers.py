@@ -17,7 +17,7 @@ FAMILIES = "widget families"
 
 LAYERS = (
     (0, "companion library", ["CommonUtils/*"]),
-    (6, "theme application", [LIBRARY + name for name in ("AppliedThemes.*", "BaseTheme.*", "HeldPaints.*",
+    (6, "theme application", [LIBRARY + name for name in ("AppliedThemes.*", "BaseTheme.*", "Desktop*", "HeldPaints.*",
                                                             "ThemeFactory.*", "ThemeQApplication.*",
                                                             "ThemeSwitcher.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (

@@ -1,10 +1,10 @@
 #include "RecoloredIcons.h"
 
+#include "AskedInDevicePixels.h"
 #include "Helpers.h"
 #include "Kept.h"
 #include "PixelRecoloring.h"
 
-#include <QCoreApplication>
 #include <QIconEngine>
 #include <QPainter>
 
@@ -105,24 +105,6 @@ struct AskedPicture
         return ::qHash(picture.icon, seed) ^ hashOf(picture.recoloring)
                ^ uint(picture.size.width() << 4 ^ picture.size.height());
     }
-};
-
-/// An icon is asked in device pixels; without this `QIcon` would scale by the ratio of the
-/// application once more.
-class AskedInDevicePixels
-{
-public:
-    AskedInDevicePixels() : m_highDpi(QCoreApplication::testAttribute(Qt::AA_UseHighDpiPixmaps))
-    {
-        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, false);
-    }
-
-    ~AskedInDevicePixels() { QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, m_highDpi); }
-
-    Q_DISABLE_COPY_MOVE(AskedInDevicePixels)
-
-private:
-    bool m_highDpi;
 };
 
 class RecoloredIconEngine : public QIconEngine

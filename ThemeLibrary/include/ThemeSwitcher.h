@@ -9,6 +9,7 @@
 
 namespace BRELK {
 
+class DesktopFollower;
 class Theme;
 
 /// Gives the running application another theme, and lets go of all that is kept of the one before:
@@ -38,6 +39,19 @@ public:
     /// end of the process.
     bool switchTo(const QString& name);
 
+    /// Applies the theme `dark` while the desktop prefers dark colors, else `light`, both
+    /// directories of `ThemeFactory`'s repository: once the desktop has said what it prefers, and
+    /// whenever that changes.
+    ///
+    /// The desktop is asked by the settings portal on the session bus, without waiting for it. The
+    /// theme stays as it is for as long as there is no answer, and for good where there is no
+    /// session bus or the library was built without Qt's D-Bus module. `switchTo()` is still there
+    /// for the user to choose: that theme stays until the preference changes.
+    void followDesktop(const QString& light, const QString& dark);
+
+    /// Leaves the theme as it is, whatever the desktop prefers from now on.
+    void stopFollowingDesktop();
+
 Q_SIGNALS:
     /// Every widget has the new theme.
     void switched();
@@ -47,6 +61,7 @@ private:
     ~ThemeSwitcher() override;
 
     std::map<QString, std::unique_ptr<Theme>> m_themes; ///< by directory
+    std::unique_ptr<DesktopFollower> m_follower;
 };
 
 } // namespace BRELK

@@ -1,5 +1,7 @@
 #include "EmbeddedIcons.h"
 
+#include "ThemeValues.h"
+
 #include <QCache>
 #include <QFile>
 #include <QResource>
@@ -117,6 +119,8 @@ StyleIcon::operator QIcon() const
         return *known;
     const QString path = QLatin1String(":/Icons/") + m_name + QLatin1String(".svg");
     const QIcon own = QResource(path).isValid() ? QIcon(path) : QIcon();
+    if (own.isNull())
+        reportMissing(m_name);
     sIcons.insert(m_name, new QIcon(own));
     return own;
 }

@@ -1,4 +1,6 @@
+#include "ThemeFileIcons.h"
 #include "ThemeResources.h"
+#include "ThemeResources_p.h"
 #include "ThemeValues.h"
 
 #include <QDir>
@@ -60,11 +62,6 @@ QString findFilePath(const QString& name, const QStringList& searchPaths,
     return {};
 }
 
-QString findIconPath(const QString& name)
-{
-    return findFilePath(name, QDir::searchPaths(iconsPrefix()), readableExtensions());
-}
-
 bool isIconFile(const QString& fileName, const QRegularExpression& re)
 {
     // Files named after a brush are variants of an icon, not icons of their own.
@@ -118,11 +115,16 @@ const QString& themeResourcesPrefix()
     return sPrefix;
 }
 
+QString findIconPath(const QString& name)
+{
+    return findFilePath(name, QDir::searchPaths(iconsPrefix()), readableExtensions());
+}
+
 QIcon getIcon(const QString& name)
 {
     const QString path = findIconPath(name);
     if (!path.isEmpty())
-        return QIcon(path);
+        return ThemeFileIcons::icon(name, path);
     reportMissing(name);
     return {};
 }
@@ -148,8 +150,10 @@ QStringList getIcons(const QRegularExpression& re)
 QPixmap getPixmap(const QString& name, const QSize& size)
 {
     const QString path = findIconPath(name);
-    if (!QFileInfo::exists(path))
+    if (!QFileInfo::exists(path)) {
+        reportMissing(name);
         return {};
+    }
     QImageReader reader(path);
     reader.setScaledSize(size);
     return QPixmap::fromImageReader(&reader);
@@ -159,6 +163,8 @@ QCursor getCursor(const QString& name)
 {
     const QString path =
         findFilePath(name, QDir::searchPaths(cursorsPrefix()), readableExtensions());
+    if (path.isEmpty())
+        reportMissing(name);
     const QPixmap pixmap(path);
     if (pixmap.isNull())
         return {};

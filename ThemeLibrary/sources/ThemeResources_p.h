@@ -11,4 +11,7 @@ QVariantMap themeVariables();
 QVariant findVariable(const QVariantMap& variables, const QString& path,
                       const QVariant& defaultValue);
 
+/// The file of the icon `name` in the first of the icon folders that has one; empty if none has.
+QString findIconPath(const QString& name);
+
 } // namespace BRELK::ThemeResources

@@ -1,10 +1,12 @@
 #include "ThemeSwitcher.h"
 
 #include "AppliedThemes.h"
+#include "DesktopFollower.h"
 #include "HeldPaints.h"
 #include "Kept.h"
 #include "Theme.h"
 #include "ThemeFactory.h"
+#include "ThemeFileIcons.h"
 #include "ThemeQApplication.h"
 #include "ThemeQApplication_p.h"
 #include "ThemeResources_p.h"
@@ -241,6 +243,7 @@ bool replaceThemeBy(Theme& theme)
         return false;
     }
     removePaths(paths);
+    ThemeFileIcons::lookAgain();
     Kept::forgetAll();
     QPixmapCache::clear();
     if (const QString all = renewed(sheet, librarySheet, applied.styleSheet);
@@ -284,6 +287,8 @@ bool ThemeSwitcher::switchTo(Theme& theme)
     switching = false;
     if (changed)
         Q_EMIT switched();
+    if (m_follower)
+        m_follower->obey();
     return changed;
 }
 
@@ -299,6 +304,18 @@ bool ThemeSwitcher::switchTo(const QString& name)
         return false;
     }
     return switchTo(*theme);
+}
+
+void ThemeSwitcher::followDesktop(const QString& light, const QString& dark)
+{
+    stopFollowingDesktop();
+    if (QCoreApplication::instance())
+        m_follower = std::make_unique<DesktopFollower>(light, dark);
+}
+
+void ThemeSwitcher::stopFollowingDesktop()
+{
+    m_follower.reset();
 }
 
 } // namespace BRELK

@@ -13,6 +13,7 @@
 #include <QtWidgets>
 
 #include <functional>
+#include <malloc.h>
 #include <memory>
 
 using namespace BRELK;
@@ -153,22 +154,112 @@ private:
     QHash<const QObject*, int> m_counts;
 };
 
-/// Does something at each key.
+QColor colorOf(const QIcon& icon)
+{
+    return icon.pixmap(16).toImage().pixelColor(8, 8);
+}
+
+/// Does something at each event of a type, which it is told at its installation.
 class Trigger : public QObject
 {
 public:
-    explicit Trigger(std::function<void()> action) : m_action(std::move(action)) { }
+    Trigger(QObject* watched, QEvent::Type type, std::function<void()> action)
+        : QObject(watched), m_type(type), m_action(std::move(action))
+    {
+        watched->installEventFilter(this);
+    }
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::KeyPress)
-            m_action();
+        const auto action = m_action; // which may delete this
+        if (event->type() == m_type)
+            action();
         return false;
     }
 
 private:
+    QEvent::Type m_type;
     std::function<void()> m_action;
 };
+
+using Action = std::function<void()>;
+
+/// What may be going on in a window when `change` is called.
+QVector<Action> moments(QMainWindow& window, const Action& change)
+{
+    const auto child = [&window](auto* type) {
+        return window.findChild<std::remove_pointer_t<decltype(type)>*>();
+    };
+    const auto after = [change](const Action& action) {
+        return [change, action] {
+            action();
+            change();
+        };
+    };
+    auto* combo = child(static_cast<QComboBox*>(nullptr));
+    auto* edit = child(static_cast<QLineEdit*>(nullptr));
+    auto* slider = child(static_cast<QSlider*>(nullptr));
+    auto* list = child(static_cast<QListView*>(nullptr));
+    auto* table = child(static_cast<QTableView*>(nullptr));
+    QMenu* menu = window.menuBar()->actions().first()->menu();
+    QPushButton* button = new QPushButton(&window);
+    QObject::connect(button, &QPushButton::clicked, button, change);
+    new Trigger(edit, QEvent::KeyPress, change);
+    const auto nested = [change, &window](const Action& run) {
+        return [change, &window, run] {
+            QTimer::singleShot(0, &window, change);
+            run();
+        };
+    };
+    return {
+        change,
+        [button] { button->click(); },
+        [edit] { QTest::keyClick(edit, Qt::Key_A); },
+        after([menu] {
+            menu->popup({10, 10});
+        }),
+        after([combo] { combo->showPopup(); }),
+        after([combo] { combo->hidePopup(); }),
+        after([slider] {
+            QTest::mousePress(slider, Qt::LeftButton, {}, {5, 5});
+        }),
+        after([slider] {
+            QTest::mouseMove(slider, {9, 9});
+        }),
+        after([list] { list->edit(list->model()->index(0, 0)); }),
+        after([table] { table->scrollToBottom(); }),
+        after([table] { table->verticalScrollBar()->triggerAction(QScrollBar::SliderToMinimum); }),
+        after([edit] {
+            QToolTip::showText({5, 5}, text("Tip"), edit);
+        }),
+        after([] { QTest::qWait(5); }),
+        after([&window] { (new QLabel(text("New"), &window))->show(); }),
+        nested([&window] {
+            QDialog dialog(&window);
+            QTimer::singleShot(5, &dialog, &QDialog::accept);
+            dialog.exec();
+        }),
+        nested([&window] {
+            auto* drag = new QDrag(&window);
+            drag->setMimeData(new QMimeData);
+            QTimer::singleShot(5, drag, &QDrag::cancel);
+            drag->exec();
+        }),
+        // Within a switch: another one, and widgets that go.
+        after([&window, change] { new Trigger(window.statusBar(), QEvent::StyleChange, change); }),
+        after([&window] {
+            auto* doomed = new QGroupBox(&window);
+            new QCheckBox(doomed);
+            new Trigger(doomed, QEvent::StyleChange,
+                        [doomed] { delete doomed->findChild<QCheckBox*>(); });
+        }),
+        after([&window] {
+            auto* doomed = new QLabel(&window);
+            new Trigger(window.centralWidget(), QEvent::StyleChange,
+                        [guard = QPointer<QLabel>(doomed)] { delete guard; });
+        }),
+    };
+}
 
 } // namespace
 
@@ -205,6 +296,12 @@ private Q_SLOTS:
         palette.setColor(QPalette::WindowText, Qt::red);
         label.setPalette(palette);
         label.ensurePolished();
+        QPushButton button;
+        button.setIcon(QIcon(text("own.png")));
+        const qint64 icon = button.icon().cacheKey();
+        QComboBox combo;
+        auto* delegate = new QStyledItemDelegate(&combo);
+        combo.setItemDelegate(delegate);
         const QStringList cursors = QDir::searchPaths(text("cursors"));
         const QString sheet = qApp->styleSheet();
 
@@ -212,6 +309,8 @@ private Q_SLOTS:
         QVERIFY(qApp->styleSheet().endsWith(own));
         QVERIFY(qApp->styleSheet() != sheet);
         QCOMPARE(label.palette().color(QPalette::WindowText), QColor(Qt::red));
+        QCOMPARE(button.icon().cacheKey(), icon);
+        QCOMPARE(combo.itemDelegate(), delegate);
         QCOMPARE(label.palette().color(QPalette::Window),
                  QApplication::palette().color(QPalette::Window));
         QCOMPARE(QDir::searchPaths(text("cursors")).first(), text("own"));
@@ -275,40 +374,105 @@ private Q_SLOTS:
         }
     }
 
+    void iconsOfThemesFollow()
+    {
+        const QString name = text("action.close");
+        const TemporaryRepository repository;
+        const auto theme = [&](const char* title, const char* color) {
+            repository.write(text("%1/Images/%1/scalable/%2.svg").arg(text(title), name),
+                             svgSquare(color));
+            return std::make_unique<BaseTheme>(repository.addTheme(text(title), title));
+        };
+        const auto red = theme("Red", "#ff0000");
+        const auto blue = theme("Blue", "#0000ff");
+        QVERIFY(ThemeSwitcher::getInstance().switchTo(*red));
+        const QIcon icon = ThemeResources::getIcon(name);
+        QIcon own = icon;
+        QPixmap green(16, 16);
+        green.fill(Qt::green);
+        own.addPixmap(green);
+        QByteArray bytes;
+        QDataStream out(&bytes, QIODevice::WriteOnly);
+        out << icon;
+        QCOMPARE(colorOf(icon), QColor(Qt::red));
+
+        QVERIFY(ThemeSwitcher::getInstance().switchTo(*blue));
+        QCOMPARE(colorOf(icon), QColor(Qt::blue));
+        QIcon read;
+        QDataStream in(bytes);
+        in >> read;
+        QCOMPARE(colorOf(read), QColor(Qt::red));
+        QVERIFY(colorOf(own) != QColor(Qt::blue));
+        switchTo("Dark");
+        QVERIFY(colorOf(icon) != QColor(Qt::blue) && !icon.isNull());
+    }
+
+    void whatIsMissingIsToldOnce()
+    {
+        MessageRecorder messages;
+        const auto ask = [&messages] {
+            for (int time = 0; time < 2; ++time) {
+                ThemeResources::getColor(text("NoColor"));
+                ThemeResources::getBrush(text("NoBrush"));
+                ThemeResources::getIcon(text("no.icon"));
+                ThemeResources::getPixmap(text("no.pixmap"), {});
+                QPushButton button;
+                button.setProperty("ButtonType", text("Odd"));
+                button.grab();
+            }
+            return messages.take().join(QLatin1Char('\n'));
+        };
+        QCOMPARE(ask(), QString());
+        QLoggingCategory::setFilterRules(text("varn.theme.debug=true"));
+        switchTo("Light");
+        const QString told = ask();
+        QLoggingCategory::setFilterRules({});
+        for (const char* name : {"NoColor", "NoBrush", "no.icon", "no.pixmap", "Odd"})
+            QVERIFY2(told.contains(text(name)), qPrintable(told));
+        QCOMPARE(told.count(text("no NoColor")), 1);
+        QCOMPARE(told.count(text("no no.icon")), 1);
+    }
+
+    void memoryStaysLevel()
+    {
+        constexpr size_t Tolerance = 1 << 20;
+        const auto window = everything();
+        const auto level = [](int switches) {
+            for (int i = 0; i < switches; ++i) {
+                switchTo(i % 2 ? "Dark" : "Light");
+                QTest::qWait(1);
+            }
+            return mallinfo2().uordblks;
+        };
+        const size_t first = level(10);
+        const size_t last = level(50);
+        qInfo() << "bytes after 10 and 60 switches:" << first << last;
+        QVERIFY(last < first + Tolerance);
+    }
+
     void atAnyMoment()
     {
-        constexpr int Rounds = 10;
+        constexpr int Few = 60;
+        const int most = qMax(Few, qEnvironmentVariableIntValue("VARN_SWITCHES"));
         const char* const themes[] = {"Dark", "Light", "HighContrast"};
         QRandomGenerator random(7);
-        const auto switchSomewhere = [&] { switchTo(themes[random.bounded(3)]); };
-        Trigger trigger(switchSomewhere);
-        for (int round = 0; round < Rounds; ++round) {
+        int switches = 0;
+        const auto change = [&] { switches += switchTo(themes[random.bounded(3)]); };
+        while (switches < most) {
             const auto window = everything();
             auto* busy = new QProgressBar(window.get());
             busy->setRange(0, 0);
             busy->show();
-            auto* combo = window->findChild<QComboBox*>();
-            auto* button = window->findChild<QPushButton*>();
-            QMenu menu;
-            menu.addAction(QIcon::fromTheme(text("action.close")), text("Close"));
-            QDialog dialog(window.get());
-            // A slot, an event filter, open popups, a modal dialog, and a dying window.
-            connect(button, &QPushButton::clicked, this, switchSomewhere);
-            window->findChild<QLineEdit*>()->installEventFilter(&trigger);
-            menu.popup({10, 10});
-            combo->showPopup();
-            button->click();
-            QTimer::singleShot(0, &dialog, [&] {
-                switchSomewhere();
-                dialog.accept();
-            });
-            dialog.exec();
-            QTest::mouseClick(window->findChild<QCheckBox*>(), Qt::LeftButton);
-            QTest::keyClick(window->findChild<QLineEdit*>(), Qt::Key_A);
-            QCoreApplication::processEvents();
-            if (round % 2 == 0)
-                connect(busy, &QObject::destroyed, this, switchSomewhere);
+            const QVector<Action> all = moments(*window, change);
+            for (int count = random.bounded(20); count >= 0; --count) {
+                all.at(random.bounded(all.size()))();
+                if (random.bounded(2) == 0)
+                    QCoreApplication::processEvents();
+            }
+            if (random.bounded(2) == 0)
+                connect(busy, &QObject::destroyed, this, change);
         }
+        qInfo() << switches << "switches";
         QVERIFY(switchTo("Dark"));
     }
 };

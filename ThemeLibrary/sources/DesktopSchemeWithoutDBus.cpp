@@ -1,0 +1,10 @@
+#include "DesktopScheme.h"
+
+namespace BRELK {
+
+QObject* listenToDesktop(QObject*, std::function<void(bool dark)>)
+{
+    return nullptr;
+}
+
+} // namespace BRELK
