@@ -151,6 +151,30 @@ private Q_SLOTS:
         QVERIFY(!(window.windowFlags() & Qt::NoDropShadowWindowHint));
     }
 
+    void whatTheApplicationSetStays()
+    {
+        QLCDNumber number;
+        number.setSegmentStyle(QLCDNumber::Outline);
+        QStatusBar bar;
+        bar.setMinimumHeight(90);
+        QToolBox box;
+        box.addItem(new QWidget, {});
+        auto* tab = box.findChild<QAbstractButton*>();
+        tab->setMinimumHeight(90);
+        const QPalette before = QApplication::palette();
+        QApplication::setPalette(Qt::gray);
+        QListView list;
+        list.setPalette(Qt::green);
+        for (QWidget* widget : {static_cast<QWidget*>(&number), static_cast<QWidget*>(&bar),
+                                static_cast<QWidget*>(tab), static_cast<QWidget*>(&list)})
+            QApplication::style()->polish(widget);
+        QApplication::setPalette(before);
+        QCOMPARE(number.segmentStyle(), QLCDNumber::Outline);
+        QCOMPARE(bar.minimumHeight(), 90);
+        QCOMPARE(tab->minimumHeight(), 90);
+        QCOMPARE(list.palette().base(), QPalette(Qt::green).base());
+    }
+
     void weekendsAreRead()
     {
         QCalendarWidget calendar;

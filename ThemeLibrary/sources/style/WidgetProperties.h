@@ -46,7 +46,6 @@ inline constexpr char SliderHighlighted[] = "slider_highlighted";
 inline constexpr char AppBaseTabSize[] = "appBaseTabSize";
 inline constexpr char AppCurrentTabHighlighted[] = "appCurrentTabHighlighted";
 inline constexpr char AppLargeTabSize[] = "appLargeTabSize";
-inline constexpr char AppMediumTabSize[] = "appMediumTabSize";
 inline constexpr char AppSmallTabSize[] = "appSmallTabSize";
 inline constexpr char BaseTabSize[] = "baseTabSize";
 inline constexpr char CurrentTabHighlighted[] = "currentTabHighlighted";

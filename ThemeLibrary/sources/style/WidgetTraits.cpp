@@ -2,7 +2,6 @@
 
 #include <QAbstractSpinBox>
 #include <QAction>
-#include <QColumnView>
 #include <QCommandLinkButton>
 #include <QDateTimeEdit>
 #include <QGroupBox>
@@ -53,11 +52,6 @@ bool isCascadingListPanel(const QWidget* widget)
 bool isColorWell(const QWidget* widget)
 {
     return inherits(widget, "QWellArray") || inherits(widget, "QColorShowLabel");
-}
-
-bool isColumnView(const QWidget* widget)
-{
-    return qobject_cast<const QColumnView*>(widget);
 }
 
 bool isComboBoxList(const QWidget* widget)

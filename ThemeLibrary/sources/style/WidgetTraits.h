@@ -13,7 +13,6 @@ bool isCalendarPopupEditor(const QWidget* widget); ///< a date edit that opens a
 bool isCardWidget(const QObject* object);
 bool isCascadingListPanel(const QWidget* widget);
 bool isColorWell(const QWidget* widget); ///< shows colors in the color dialog
-bool isColumnView(const QWidget* widget);
 bool isComboBoxList(const QWidget* widget); ///< the list view of a combo-box popup
 bool isComboBoxPopup(const QObject* object); ///< the container of a combo-box popup
 bool isCommandLink(const QWidget* widget);
