@@ -64,7 +64,8 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
     Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), context.borderBrush());
     if (leavesLabelToSheet(context)) {
         context.draw(QStyle::CE_ToolBoxTabLabel, tab);
-        // Deliberate: the button draws nothing after this but the sheet's label.
+        // Deliberate: the button draws nothing after this but the sheet's label, and asks no style
+        // whether it should. It happens under any application sheet, also the library's own.
         context.painter.setClipRect(QRect());
     }
 }

@@ -24,8 +24,9 @@ struct Answer
 /// The number of the property among those that the class declares, or -1.
 int declaredIndex(const QMetaObject* meta, const char* property)
 {
-    // Two share a place, and the newer stands first. Names are compared by their
-    // address.
+    // A push button asks some thirty times: asking its class takes 1,330 instructions each time, a
+    // QHash, which would not notice a class that is gone, 84, and this 59. Two share a place, and
+    // the newer stands first. Names are compared by their address.
     static std::array<std::pair<Answer, Answer>, 1024> sAnswers;
 
     const auto mixed =
