@@ -205,7 +205,8 @@ int scrollBarRoom(const StyleContext& context)
 }
 
 /// The item by which its parts are asked for. The base style lays the text out to place the parts,
-/// although where the text gets all the room that is left its size does not matter.
+/// although where the text gets all the room that is left its size does not matter: 37,000 of the
+/// 87,000 instructions that a row then takes. Another style around this one may want to read it.
 QStyleOptionViewItem layoutItem(const StyleContext& context, const QStyleOptionViewItem& item)
 {
     QStyleOptionViewItem layout = item;
