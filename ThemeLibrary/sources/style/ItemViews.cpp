@@ -101,11 +101,16 @@ QPalette::ColorGroup colorGroup(const StyleContext& context)
 }
 
 /// An application that colors the selection keeps its color.
-QBrush selectionBrush(const StyleContext& context)
+bool hasOwnSelection(const StyleContext& context)
 {
     const bool isSet =
         context.widget && context.widget->palette().resolve() & (1U << QPalette::Highlight);
-    if (isSet || OwnColors::has(context, QPalette::Highlight))
+    return isSet || OwnColors::has(context, QPalette::Highlight);
+}
+
+QBrush selectionBrush(const StyleContext& context)
+{
+    if (hasOwnSelection(context))
         return context.option.palette.brush(colorGroup(context), QPalette::Highlight);
     return context.brush(isInFront(context) ? ThemeNames::MainBrush
                                             : ThemeNames::MainSubLevel1Brush);
@@ -114,7 +119,10 @@ QBrush selectionBrush(const StyleContext& context)
 QBrush textBrush(const StyleContext& context)
 {
     const bool isSelected = context.has(QStyle::State_Selected);
-    const QPalette::ColorRole role = isSelected ? QPalette::HighlightedText : QPalette::Text;
+    // A disabled selection is a tint so faint that the words of other rows are read on it.
+    const bool isFaint = !context.enabled() && !hasOwnSelection(context);
+    const QPalette::ColorRole role =
+        isSelected && !isFaint ? QPalette::HighlightedText : QPalette::Text;
     const QBrush& given = context.option.palette.brush(colorGroup(context), role);
     const bool isOwn =
         OwnColors::has(context, role)
