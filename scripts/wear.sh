@@ -1,86 +1,62 @@
 #!/bin/sh
-# Runs Qt programs of Debian under the style plugin and under Fusion and takes pictures of them: the window at start, its
-# first menus, and the dialogs that common shortcuts open. Not a test: somebody has to look at them.
+# Runs Qt programs of Debian under the style plugin and beside it under other styles, leads each through its menus, its
+# dialogs with all their pages, and its sizes, and takes pictures: PICTURES/PROGRAM/STYLE-STATION.png, and a sheet of all
+# stations for each program. Not a test: somebody has to look at them.
 #
-#   scripts/wear.sh [-b BUILD] [-o PICTURES] [-t THEME] [-s SCALE] [PROGRAM...]
+#   scripts/wear.sh [-b BUILD] [-o PICTURES] [-s SCALE] [-t "STYLE..."] [PROGRAM[=PACKAGE]...]
 set -eu
 
 cd "$(dirname "$0")/.."
-build=build/release out=wear theme=varn-dark scale=1
-while getopts b:o:t:s: option; do
+build=build/release out=wear styles="varn-dark fusion breeze" scale=1
+while getopts b:o:s:t: option; do
     case $option in
     b) build=$OPTARG ;;
     o) out=$OPTARG ;;
-    t) theme=$OPTARG ;;
     s) scale=$OPTARG ;;
+    t) styles=$OPTARG ;;
     *) exit 2 ;;
     esac
 done
 shift $((OPTIND - 1))
-[ $# -gt 0 ] || set -- featherpad keepassxc mkvtoolnix-gui qpdfview qterminal smplayer speedcrunch sqlitebrowser
+[ $# -gt 0 ] || set -- featherpad keepassxc librecad mkvtoolnix-gui qbittorrent qpdfview qterminal smplayer speedcrunch \
+    sqlitebrowser wireshark
 
 packages=
-for program; do
-    command -v "$program" >/dev/null || packages="$packages $program"
+for needed in Xvfb=xvfb montage=imagemagick openbox dbus-run-session=dbus "$@"; do
+    command -v "${needed%%=*}" >/dev/null || packages="$packages ${needed#*=}"
 done
 # shellcheck disable=SC2086 # a list
-scripts/install-dependencies.sh xvfb xdotool imagemagick openbox $packages
+[ -z "$packages" ] || scripts/install-dependencies.sh $packages kde-style-breeze
 
 build=$(realpath "$build")
+! command -v cmake >/dev/null || cmake --build "$build" --target varn_wear varn_style >/dev/null
 home=$(mktemp -d)
-display=:97
-mkdir -p "$out"
-Xvfb $display -screen 0 1600x1200x24 -dpi 96 -nolisten tcp >/dev/null 2>&1 &
+display=:$((100 + $$ % 1000))
+Xvfb $display -screen 0 1280x960x24 -dpi 96 -nolisten tcp >/dev/null 2>&1 &
 server=$!
 trap 'kill $server; rm -rf "$home"' EXIT
 sleep 1
 export DISPLAY=$display
 openbox >/dev/null 2>&1 &
 
-picture() {
-    sleep 0.7
-    import -silent -window root "$out/$1.png"
-}
-
-press() {
-    xdotool key --clearmodifiers "$1" 2>/dev/null || true
-}
-
 wear() { # PROGRAM STYLE
-    name=$1-$2
-    mkdir -m 700 "$home/$name"
-    env HOME="$home/$name" XDG_CONFIG_HOME="$home/$name" XDG_RUNTIME_DIR="$home/$name" QT_QPA_PLATFORM=xcb \
+    mkdir -p "$out/$1"
+    mkdir -m 700 "$home/$1-$2"
+    env HOME="$home/$1-$2" XDG_CONFIG_HOME="$home/$1-$2" XDG_RUNTIME_DIR="$home/$1-$2" QT_QPA_PLATFORM=xcb \
         QT_FONT_DPI=96 QT_SCALE_FACTOR="$scale" QT_STYLE_OVERRIDE="$2" QT_PLUGIN_PATH="$build/plugins" \
-        XDG_DATA_DIRS="$build/share:/usr/share" "$1" >"$out/$name.log" 2>&1 &
-    process=$!
-    xdotool search --sync --onlyvisible --pid $process >/dev/null 2>&1 &
-    search=$!
-    for _ in 1 2 3 4 5 6 7 8 9 10; do
-        sleep 0.5
-        kill -0 $search 2>/dev/null || break
-    done
-    kill $search 2>/dev/null || true
-    picture "$name-start"
-    for menu in 1 2 3; do
-        press Alt_L
-        for _ in $(seq 2 $menu); do press Right; done
-        press Down
-        picture "$name-menu$menu"
-        press Escape
-        press Escape
-    done
-    for dialog in ctrl+o ctrl+comma ctrl+p F1; do
-        press $dialog
-        picture "$name-$dialog"
-        press Escape
-    done
-    kill $process 2>/dev/null || echo "$1 has ended by itself under $2" >&2
-    wait $process 2>/dev/null || true
+        XDG_DATA_DIRS="$build/share:/usr/local/share:/usr/share" LC_ALL=C.UTF-8 \
+        QT_QPA_GENERIC_PLUGINS=varn_wear WEAR_PICTURES="$out/$1/$2-" \
+        timeout -k 1 120 dbus-run-session -- "$1" >"$out/$1/$2.log" 2>&1 ||
+        echo "$1 did not come through under $2: $out/$1/$2.log" >&2
 }
 
+out=$(mkdir -p "$out" && realpath "$out")
 for program; do
-    for style in "$theme" fusion; do
+    program=${program%%=*}
+    for style in $styles; do
         wear "$program" "$style"
+        montage -label '%t' "$out/$program/$style"-*.png -trim +repage -tile 4x -geometry '640x560>+4+4' \
+            "$out/$program-$style.png" || true
     done
 done
 echo "The pictures are in $out."

@@ -60,7 +60,8 @@ QByteArray schemeOf(const QPalette& palette)
 
 void ColorScheme::offer(QApplication& app, const QPalette& palette)
 {
-    if (app.property(PathProperty).toString() != m_path)
+    const QString current = app.property(PathProperty).toString();
+    if (!current.isEmpty() && current != m_path)
         return;
     const QByteArray scheme = schemeOf(palette);
     const QByteArray hash = QCryptographicHash::hash(scheme, QCryptographicHash::Sha1).toHex();
@@ -77,6 +78,11 @@ void ColorScheme::offer(QApplication& app, const QPalette& palette)
     }
     m_path = path;
     app.setProperty(PathProperty, m_path);
+}
+
+bool ColorScheme::isDropped(const QApplication& app) const
+{
+    return !m_path.isEmpty() && app.property(PathProperty).toString().isEmpty();
 }
 
 void ColorScheme::takeBack(QApplication& app)

@@ -13,6 +13,9 @@ class ColorScheme
 {
 public:
     void offer(QApplication& app, const QPalette& palette);
+    /// Whether the program went back to the desktop's scheme, as those do that let the user choose
+    /// one and nobody has.
+    bool isDropped(const QApplication& app) const;
     void takeBack(QApplication& app);
 
 private:

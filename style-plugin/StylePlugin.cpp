@@ -104,8 +104,10 @@ private:
     {
         const QPalette palette = QApplication::palette();
         const bool isOfProgram = palette.resolve() != 0;
-        if (isOfProgram && palette != m_refused && !ProgramPalette::isWhole(palette, m_palette)) {
+        const bool isHalf = palette != m_refused && !ProgramPalette::isWhole(palette, m_palette);
+        if (isOfProgram && (isHalf || m_scheme.isDropped(app()))) {
             m_refused = palette;
+            m_scheme.offer(app(), m_palette);
             QApplication::setPalette({});
             return;
         }

@@ -47,10 +47,14 @@ void printLooks(const char* moment)
                         : kindOf({ground[0].toInt(), ground[1].toInt(), ground[2].toInt()}));
 }
 
-/// The palette that the program sets while it runs: white grounds of views, or of everything.
-void setPalette(bool isWhole)
+/// The palette that the program sets while it runs: white grounds of views, or of everything, as
+/// KDE's programs do when they go back to the desktop's scheme.
+void setPalette(const QString& kind)
 {
-    QPalette palette = isWhole ? QPalette(QColor(Qt::white)) : QApplication::palette();
+    const bool isHalf = kind == QLatin1String("half");
+    QPalette palette = isHalf ? QApplication::palette() : QPalette(QColor(Qt::white));
+    if (kind == QLatin1String("desktop"))
+        qApp->setProperty("KDE_COLOR_SCHEME_PATH", QString());
     palette.setColor(QPalette::Base, Qt::white);
     palette.setColor(QPalette::Text, Qt::black);
     QApplication::setPalette(palette);
@@ -78,7 +82,7 @@ int main(int argc, char** argv)
     label.ensurePolished();
     view.ensurePolished();
     if (qEnvironmentVariableIsSet("PLAIN_LATER"))
-        setPalette(qEnvironmentVariable("PLAIN_LATER") == QLatin1String("whole"));
+        setPalette(qEnvironmentVariable("PLAIN_LATER"));
     const auto pair = [](const QWidget& widget) {
         return QString(kindOf(widget.palette().color(widget.foregroundRole()))
                        % QLatin1String(" on ")

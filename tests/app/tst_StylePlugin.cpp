@@ -38,7 +38,7 @@ private Q_SLOTS:
         LookSheet::States starts;
         for (const char* settings :
              {"VARN_THEME=Light", "PLAIN_SHEET=QLabel{}", "PLAIN_PALETTE=#ff0000", "VARN_THEME=No",
-              "PLAIN_LATER=whole", "PLAIN_LATER=half", "PLAIN_ICONS=Mine"})
+              "PLAIN_LATER=whole", "PLAIN_LATER=half", "PLAIN_LATER=desktop", "PLAIN_ICONS=Mine"})
             starts.append({settings, start(QLatin1String("QT_STYLE_OVERRIDE=varn ")
                                            + QLatin1String(settings))});
         starts.append({"by its key", start(QStringLiteral("QT_STYLE_OVERRIDE=varn-highcontrast"))});

@@ -1,0 +1,242 @@
+#include "Tour.h"
+
+#include <QAbstractItemView>
+#include <QAction>
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QDialog>
+#include <QKeyEvent>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QStackedWidget>
+#include <QTabWidget>
+
+#include <algorithm>
+#include <unistd.h>
+
+namespace {
+
+constexpr int Pace = 500; // ms
+constexpr int Patience = 8; // steps, for a window to come and to settle
+constexpr int MostPages = 12;
+constexpr int Focused = 3; // times that the focus moves on
+const QSize Small(420, 320);
+const QSize Large(1200, 880);
+
+template <class Widget>
+QList<Widget*> visible(const QWidget* parent)
+{
+    QList<Widget*> found = parent ? parent->findChildren<Widget*>() : QList<Widget*>();
+    found.erase(std::remove_if(found.begin(), found.end(),
+                               [](const Widget* widget) { return !widget->isVisible(); }),
+                found.end());
+    return found;
+}
+
+QWidget* largestWindow()
+{
+    QWidget* largest = nullptr;
+    const auto weight = [](const QWidget* widget) {
+        const bool isMain = qobject_cast<const QMainWindow*>(widget);
+        return (isMain ? 10 : 1) * widget->width() * widget->height();
+    };
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->isVisible() && widget->windowType() != Qt::Popup
+            && (!largest || weight(widget) > weight(largest)))
+            largest = widget;
+    }
+    return largest;
+}
+
+/// The dialog on top, if any.
+QWidget* dialog(const QWidget* except)
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget != except && widget->isVisible()
+            && (widget->windowType() == Qt::Dialog || widget->windowType() == Qt::Window))
+            return widget;
+    }
+    return nullptr;
+}
+
+void closePopups()
+{
+    while (QWidget* popup = QApplication::activePopupWidget())
+        popup->close();
+}
+
+void closeDialogs(const QWidget* except)
+{
+    closePopups();
+    QWidget* widget = dialog(except);
+    if (auto* box = qobject_cast<QDialog*>(widget))
+        box->reject();
+    else if (widget)
+        widget->close();
+}
+
+QAction* findAction(const QWidget* window, const char* pattern, QAction::MenuRole role)
+{
+    const QRegularExpression name{QLatin1String(pattern)};
+    QAction* found = nullptr;
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->menu() || !action->isEnabled() || !action->isVisible())
+            continue;
+        if (role != QAction::NoRole && action->menuRole() == role)
+            return action;
+        if (!found && name.match(action->text().remove(QLatin1Char('&'))).hasMatch())
+            found = action;
+    }
+    return found;
+}
+
+QWidget* contextWidget(const QWidget* window)
+{
+    const auto views = visible<QAbstractItemView>(window);
+    if (!views.isEmpty())
+        return views.first()->viewport();
+    return QApplication::focusWidget();
+}
+
+} // namespace
+
+Tour::Tour(const QString& pictures) : m_pictures(pictures), m_patience(Patience)
+{
+    connect(&m_timer, &QTimer::timeout, this, &Tour::start);
+    m_timer.start(Pace);
+}
+
+void Tour::start()
+{
+    QWidget* window = qobject_cast<QApplication*>(qApp) ? largestWindow() : nullptr;
+    if (!window || --m_patience > 0)
+        return;
+    m_timer.disconnect();
+    connect(&m_timer, &QTimer::timeout, this, &Tour::advance);
+    m_window = window;
+    picture(QStringLiteral("start"));
+    for (int greeting = 0; greeting < 2; ++greeting)
+        m_steps.push_back([this] { closeDialogs(m_window); });
+    m_steps.push_back([this] { plan(); });
+}
+
+void Tour::plan()
+{
+    m_window = largestWindow();
+    if (!m_window)
+        _exit(1);
+    visitMenus();
+    visit(QStringLiteral("context"), [this] {
+        if (QWidget* widget = contextWidget(m_window)) {
+            const QPoint center = widget->rect().center();
+            QApplication::postEvent(widget, new QContextMenuEvent(QContextMenuEvent::Mouse, center,
+                                                                  widget->mapToGlobal(center)));
+        }
+    });
+    visit(QStringLiteral("focus"), [] {
+        closePopups();
+        for (int step = 0; step < Focused; ++step) {
+            if (QWidget* widget = QApplication::focusWidget())
+                QApplication::postEvent(
+                    widget, new QKeyEvent(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier));
+        }
+    });
+    visitDialog(QStringLiteral("open"), findAction(m_window, "^Open\\b.*", QAction::NoRole));
+    visitDialog(QStringLiteral("settings"),
+                findAction(m_window,
+                           "^(Preferences|Settings|Options|Configur|Program settings|Editor)",
+                           QAction::PreferencesRole));
+    visitDialog(QStringLiteral("about"), findAction(m_window, "^About(?! Qt)", QAction::AboutRole));
+    visit(QStringLiteral("small"), [this] { m_window->resize(Small); });
+    visit(QStringLiteral("large"), [this] { m_window->resize(Large); });
+    m_steps.push_back([] { _exit(0); });
+}
+
+void Tour::advance()
+{
+    if (!m_window)
+        m_window = largestWindow();
+    if (m_steps.empty() || !m_window)
+        _exit(1);
+    const Step step = m_steps.front();
+    m_steps.pop_front();
+    step();
+}
+
+void Tour::visit(const QString& name, const Step& step)
+{
+    m_steps.push_back(step);
+    m_steps.push_back([this, name] { picture(name); });
+}
+
+void Tour::visitMenus()
+{
+    const auto bars = visible<QMenuBar>(m_window);
+    QMenuBar* bar = bars.value(0);
+    for (QAction* action : bar ? bar->actions() : QList<QAction*>()) {
+        const QString name = action->text().remove(QRegularExpression(QStringLiteral("\\W")));
+        if (action->menu() && action->isVisible())
+            visit(QLatin1String("menu-") + name, [bar, action] {
+                closePopups();
+                bar->setActiveAction(action);
+            });
+    }
+    m_steps.push_back([] { closePopups(); });
+}
+
+void Tour::visitDialog(const QString& name, QAction* action)
+{
+    if (!action)
+        return;
+    // Queued, for it may not return before the dialog is closed.
+    visit(name, [action] {
+        closePopups();
+        QMetaObject::invokeMethod(action, "trigger", Qt::QueuedConnection);
+    });
+    m_steps.push_back([this, name] { visitPages(name); });
+    m_steps.push_back([this] { closeDialogs(m_window); });
+    m_steps.push_back([this] { closeDialogs(m_window); });
+}
+
+/// The pages of the dialog that is open: of its tabs, or of a list that leads through a stack.
+void Tour::visitPages(const QString& name)
+{
+    const std::deque<Step> after = std::move(m_steps);
+    m_steps.clear();
+    const QWidget* box = dialog(m_window);
+    const auto tabs = visible<QTabWidget>(box);
+    const auto stacks = visible<QStackedWidget>(box);
+    const bool hasPages =
+        std::any_of(stacks.begin(), stacks.end(),
+                    [](const QStackedWidget* stack) { return stack->count() > 1; });
+    const auto views = visible<QAbstractItemView>(box);
+    const auto page = [&name](int index) {
+        return QString(name + QLatin1Char('-') + QString::number(index));
+    };
+    if (!tabs.isEmpty()) {
+        const QPointer<QTabWidget> widget = tabs.first();
+        for (int index = 1; index < std::min(widget->count(), MostPages); ++index)
+            visit(page(index), [widget, index] {
+                if (widget)
+                    widget->setCurrentIndex(index);
+            });
+    } else if (hasPages && !views.isEmpty() && views.first()->model()) {
+        const QPointer<QAbstractItemView> view = views.first();
+        for (int row = 1; row < std::min(view->model()->rowCount(), MostPages); ++row)
+            visit(page(row), [view, row] {
+                if (view)
+                    view->setCurrentIndex(view->model()->index(row, 0));
+            });
+    }
+    m_steps.insert(m_steps.end(), after.begin(), after.end());
+}
+
+void Tour::picture(const QString& name) const
+{
+    QGuiApplication::primaryScreen()->grabWindow(0).save(m_pictures + name + QLatin1String(".png"));
+}
