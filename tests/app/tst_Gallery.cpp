@@ -52,23 +52,27 @@ private:
 
 private Q_SLOTS:
 
-    void rendersEveryPage()
+    void rendersEveryPageAndTheme()
     {
         run(QStringLiteral("--list-pages"));
         const QStringList pages = m_output;
         QVERIFY(!pages.isEmpty());
-        const QDir repository(QStringLiteral(VARN_THEME_REPOSITORY));
-        for (const QString& theme : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-            run(QStringLiteral("--render DIR --theme ") + theme);
+        const auto renders = [this](const QString& arguments, const QStringList& names) {
+            run(QStringLiteral("--render DIR ") + arguments);
             QCOMPARE(m_exitCode, 0);
             QCOMPARE(m_messages, QString());
-            QCOMPARE(m_output.size(), pages.size());
-            for (int index = 0; index < pages.size(); ++index) {
+            QCOMPARE(m_output.size(), names.size());
+            for (int index = 0; index < names.size(); ++index) {
                 const QString& path = m_output.at(index);
-                QCOMPARE(QFileInfo(path).completeBaseName(), pages.at(index));
+                QCOMPARE(QFileInfo(path).completeBaseName(), names.at(index));
                 QVERIFY2(QImage(path).width() >= PageWidth, qPrintable(path));
             }
-        }
+        };
+        renders({}, pages);
+        const QDir repository(QStringLiteral(VARN_THEME_REPOSITORY));
+        for (const QString& theme : repository.entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            renders(QStringLiteral("--page overview --theme ") + theme,
+                    {QStringLiteral("overview")});
     }
 
     void looksDoNotDependOnTheStyleSheet()
