@@ -2,6 +2,7 @@
 #include "ThemeColorHelper.h"
 #include "ThemeFactory.h"
 #include "ThemeResources.h"
+#include "ThemeSwitcher.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -13,6 +14,7 @@
 #include <QPushButton>
 #include <QSlider>
 #include <QSpinBox>
+#include <QStyle>
 #include <QTabBar>
 #include <QToolButton>
 
@@ -20,8 +22,9 @@
 #include <benchmark/benchmark.h>
 #include <memory>
 
-// What a theme costs: applying it to an application with many widgets, beside Qt's Fusion style
-// with a style sheet of the same rules; reading its variables; and putting icons into its brushes.
+// What a theme costs: applying it to an application with many widgets, and switching to another one
+// until that is painted, beside Qt's Fusion style with style sheets of the same rules; reading its
+// variables; and putting icons into its brushes.
 
 using namespace BRELK;
 
@@ -95,13 +98,70 @@ void apply(benchmark::State& state, void (*look)())
 
 void applying(const char* name, void (*look)())
 {
-    constexpr std::array<int, 3> Counts{0, 100, 5000};
+    constexpr std::array<int, 4> Counts{0, 100, 1000, 5000};
     for (const int count : Counts) {
         benchmark::RegisterBenchmark(name, apply, look)
             ->Arg(count)
             ->Unit(benchmark::kMillisecond)
             ->Iterations(count > 1000 ? 3 : 20);
     }
+}
+
+/// A theme without the library: a style sheet, a palette and a font.
+struct SheetTheme
+{
+    QString sheet;
+    QPalette palette;
+};
+
+SheetTheme s_sheets[2];
+
+void switchSheet(int round)
+{
+    const SheetTheme& theme = s_sheets[round % 2];
+    QApplication::setPalette(theme.palette);
+    qApp->setStyleSheet(theme.sheet);
+}
+
+void switchTheme(int round)
+{
+    ThemeSwitcher::getInstance().switchTo(QLatin1String(round % 2 ? "Light" : "Dark"));
+}
+
+void switching(benchmark::State& state, void (*start)(), void (*change)(int round))
+{
+    start();
+    const std::unique_ptr<QWidget> window = makeWindow(int(state.range(0)));
+    int round = 0;
+    for ([[maybe_unused]] const auto iteration : state) {
+        change(++round);
+        // Layouts and paints wait for timers.
+        for (int turn = 0; turn < 4; ++turn)
+            QApplication::processEvents();
+    }
+    reset();
+}
+
+void switching(const char* name, void (*start)(), void (*change)(int round))
+{
+    constexpr std::array<int, 3> Counts{100, 1000, 5000};
+    for (const int count : Counts) {
+        benchmark::RegisterBenchmark(
+            name, [=](benchmark::State& state) { switching(state, start, change); })
+            ->Arg(count)
+            ->Unit(benchmark::kMillisecond)
+            ->Iterations(count > 1000 ? 4 : 10);
+    }
+}
+
+/// Keeps what the two themes that are switched between look like without the library.
+void readSheets()
+{
+    for (int theme = 0; theme < 2; ++theme) {
+        switchTheme(theme);
+        s_sheets[theme] = {qApp->styleSheet(), QApplication::style()->standardPalette()};
+    }
+    switchTheme(0);
 }
 
 template <class Function>
@@ -168,10 +228,14 @@ int main(int argc, char** argv)
     s_sheet = QString(app.styleSheet());
     s_font = QApplication::font();
 
+    readSheets();
+
     lookups();
     recoloring();
     applying("apply/Dark", applyDark);
     applying("apply/Fusion and the same style sheet", applyFusion);
+    switching("switch/Dark and Light", applyDark, switchTheme);
+    switching("switch/Fusion and the same style sheets", applyFusion, switchSheet);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }

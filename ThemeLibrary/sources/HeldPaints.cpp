@@ -5,6 +5,12 @@
 
 namespace BRELK {
 
+namespace {
+
+QPointer<HeldPaints> s_paints; ///< while it holds any back
+
+} // namespace
+
 HeldPaints::HeldPaints() : QObject(QCoreApplication::instance())
 {
     QCoreApplication::instance()->installEventFilter(this);
@@ -12,11 +18,10 @@ HeldPaints::HeldPaints() : QObject(QCoreApplication::instance())
 
 void HeldPaints::start()
 {
-    static QPointer<HeldPaints> sPaints;
-    if (!sPaints)
-        sPaints = new HeldPaints;
-    sPaints->m_rounds = 0;
-    sPaints->m_allDue.start(0, sPaints);
+    if (!s_paints)
+        s_paints = new HeldPaints;
+    s_paints->m_rounds = 0;
+    s_paints->m_allDue.start(0, s_paints);
 }
 
 bool HeldPaints::eventFilter(QObject* watched, QEvent* event)
@@ -38,6 +43,7 @@ void HeldPaints::timerEvent(QTimerEvent*)
     if (++m_rounds < Rounds)
         return;
     m_allDue.stop();
+    s_paints.clear();
     QCoreApplication::instance()->removeEventFilter(this);
     deleteLater();
     setParent(nullptr);

@@ -435,6 +435,7 @@ private Q_SLOTS:
 
     void memoryStaysLevel()
     {
+        // The toolkit lets go of the names in its cache of pixmaps by a timer of half a minute.
         constexpr size_t Tolerance = 1 << 20;
         const auto window = everything();
         const auto level = [](int switches) {
