@@ -30,8 +30,7 @@ public:
     PortalListener(QObject* parent, std::function<void(bool)> tell)
         : QObject(parent)
         , m_tell(std::move(tell))
-        , m_name(QStringLiteral("varn-%1").arg(quintptr(this), 0, 16))
-        , m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, m_name))
+        , m_bus(QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("varn")))
     {
         if (!m_bus.isConnected())
             return;
@@ -43,8 +42,6 @@ public:
         connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &PortalListener::ask);
         ask();
     }
-
-    ~PortalListener() override { QDBusConnection::disconnectFromBus(m_name); }
 
     bool isConnected() const { return m_bus.isConnected(); }
 
@@ -89,8 +86,7 @@ private:
     }
 
     const std::function<void(bool)> m_tell;
-    const QString m_name;
-    QDBusConnection m_bus;
+    QDBusConnection m_bus; ///< stays for the next one: to close it under open questions is not safe
     bool m_isKnown = false;
 };
 
