@@ -4,6 +4,7 @@
 
 #include <QAccessible>
 #include <QApplication>
+#include <QFileDialog>
 #include <QStyleFactory>
 #include <QTest>
 
@@ -28,6 +29,8 @@ void describe(const QAccessibleInterface& thing, const QString& indent, QStringL
     lines.append(indent + QString::number(thing.role(), 16) + QLatin1Char(' ')
                  + QString::number(states, 16) + QLatin1Char(' ') + thing.text(QAccessible::Name)
                  + QLatin1String(hasPlace ? "" : " without place"));
+    if (qobject_cast<const QFileDialog*>(thing.object()))
+        return; // what can be opened is known some time later
     for (int i = 0; i < thing.childCount(); ++i) {
         if (const QAccessibleInterface* child = thing.child(i))
             describe(*child, indent + QLatin1Char(' '), lines);
