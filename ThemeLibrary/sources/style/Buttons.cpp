@@ -207,6 +207,7 @@ void paintSegment(const PaintContext& context, const BaseStyle::ButtonBrushes& b
     context.painter.setRenderHint(QPainter::Antialiasing);
     context.painter.setBrush(brushes.backgroundBrush);
     if (context.rightToLeft() && isInRow(context.widget)) {
+        // Deliberate: the layout has mirrored the row, so its first segment is round at the right.
         context.painter.translate(2 * context.option.rect.x() + context.option.rect.width(), 0);
         context.painter.scale(-1, 1);
     }

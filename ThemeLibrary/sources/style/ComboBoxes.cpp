@@ -182,7 +182,7 @@ QRect paintIcon(const PaintContext& context, const QStyleOptionComboBox& comboBo
     return context.rightToLeft() ? rect.adjusted(0, 0, -taken, 0) : rect.adjusted(taken, 0, 0, 0);
 }
 
-/// Who has the focus is seen without colors too: its border is two pixels wide.
+/// Deliberate: besides the mark inside, a border of two pixels tells the focus without colors.
 void paintFocusBorder(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);

@@ -11,6 +11,9 @@
 
 // The headers of tables and trees, and the button in a table's corner.
 //
+// Deliberate: the style paints and measures them itself, since applications take the style sheet
+// away that made the base style's headers look right.
+//
 // They look the same whether the application style sheet that comes with the library is in force or
 // not. Where a sheet gives sections a box, it paints them and adds its padding to what is measured
 // here.

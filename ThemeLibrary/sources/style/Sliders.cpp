@@ -263,7 +263,8 @@ void paintHandle(const SliderLook& look)
     painter.drawEllipse(ellipse);
 }
 
-/// Around the way of the handle, clear of the ticks.
+/// Around the way of the handle, clear of the ticks. Deliberate: nothing else on a slider tells
+/// that arrow keys move it.
 void paintFocus(const SliderLook& look)
 {
     const QRect& rect = look.slider.rect;

@@ -251,7 +251,8 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
     if (spinBox.frame && spinBox.subControls & QStyle::SC_SpinBoxFrame)
         Shapes::drawBox(context, frame, radius, ground, borderColor(context, hasError));
     paintStepButtons(context, spinBox, frame);
-    if (spinBox.frame && context.has(QStyle::State_HasFocus)) // who has it is seen without colors
+    // Deliberate: a second line, or a mark where there is no frame, tells the focus without colors.
+    if (spinBox.frame && context.has(QStyle::State_HasFocus))
         Shapes::drawInnerBorder(context, frame, radius, borderColor(context, hasError));
     if (!spinBox.frame && context.has(QStyle::State_HasFocus))
         context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(spinBox));

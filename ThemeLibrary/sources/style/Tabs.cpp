@@ -60,7 +60,7 @@ QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& fra
         rect.setHeight(context.widget->height());
     else
         rect.setWidth(context.widget->width());
-    if (context.rightToLeft())
+    if (context.rightToLeft()) // Deliberate: it grows to where the tabs go on.
         rect.moveRight(base.right());
     return rect;
 }
@@ -85,7 +85,7 @@ QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab, c
     switch (tab.shape) {
     case QTabBar::RoundedNorth:
     case QTabBar::RoundedSouth:
-        if (context.rightToLeft())
+        if (context.rightToLeft()) // Deliberate: the far edge is where the text ends.
             rect.moveLeft(tab.rect.left() + CloseButtonInset);
         else
             rect.moveRight(tab.rect.right() - CloseButtonInset);

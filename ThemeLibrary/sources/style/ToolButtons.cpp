@@ -100,6 +100,7 @@ void paintMenuPart(const PaintContext& context, const QStyleOptionToolButton& bu
                    const QRect& area, QStyle::State state)
 {
     QStyleOptionToolButton menu = button;
+    // Deliberate: it is mirrored with the button, whose border it shares.
     menu.rect = context.rightToLeft() ? area.adjusted(0, 0, 1, 0) : area.adjusted(-1, 0, 0, 0);
     menu.state = state;
     menu.subControls = QStyle::SC_ToolButtonMenu;
