@@ -102,7 +102,7 @@ IndicatorBrushes indicatorBrushes(const PaintContext& context)
                              pointed && checked};
     if (pointed || checked)
         brushes.border = brushes.mark;
-    if (context.has(QStyle::State_Selected)) // in a row of a view
+    if (context.has(QStyle::State_Selected) && context.enabled()) // in a row of a view
         brushes.border = context.option.palette.brush(QPalette::HighlightedText);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
         brushes.border = context.color(ThemeNames::StatusDangerColor);
