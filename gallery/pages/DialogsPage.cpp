@@ -16,6 +16,7 @@
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QSplitter>
 #include <QTimer>
 #include <QUrl>
 #include <QVBoxLayout>
@@ -112,6 +113,8 @@ QFileDialog* makeFileDialog()
     dialog->setDirectory(directory);
     dialog->setSidebarUrls({QUrl::fromLocalFile(directory)});
     dialog->setViewMode(QFileDialog::List);
+    // The toolkit would take the widths that this user's dialogs had last.
+    dialog->findChild<QSplitter*>()->setSizes({20 * Unit, 60 * Unit});
     return dialog;
 }
 
