@@ -120,7 +120,7 @@ QString cell(QVector<double> ratios)
     std::sort(ratios.begin(), ratios.end());
     const double median = quantile(ratios, 0.5);
     const double spread = (quantile(ratios, 0.75) - quantile(ratios, 0.25)) / 2;
-    return QString::number(median, 'f', 2) % QLatin1String(" ±")
+    return QString::number(median, 'f', 2) % QStringLiteral(" ±")
            % QString::number(median > 0 ? 100 * spread / median : 0, 'f', 0) % QLatin1Char('%');
 }
 
