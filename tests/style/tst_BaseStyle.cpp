@@ -71,14 +71,17 @@ private Q_SLOTS:
 
     void extensionIconsKeepTheirFirstColors()
     {
-        const auto color = [&] {
-            const auto extension = QStyle::SP_ToolBarHorizontalExtensionButton;
-            const QPixmap pixmap = m_style->standardIcon(extension, nullptr, nullptr).pixmap(8, 5);
-            return ProbeTheme::nameOf(pixmap.toImage().pixelColor(0, 0));
+        const auto colorOf = [&](QStyle::StandardPixmap extension, const QSize& size) {
+            const QIcon icon = m_style->standardIcon(extension, nullptr, nullptr);
+            return icon.availableSizes() == QList<QSize>{size}
+                       ? ProbeTheme::nameOf(icon.pixmap(size).toImage().pixelColor(0, 0))
+                       : "another";
         };
-        QCOMPARE(color(), "palette.Text");
-        m_style->setPalette(QPalette(Qt::red));
-        QCOMPARE(color(), "palette.Text");
+        for (const QPalette& next : {ProbeTheme::palette(), QPalette(Qt::red)}) {
+            m_style->setPalette(next);
+            QCOMPARE(colorOf(QStyle::SP_ToolBarHorizontalExtensionButton, {8, 5}), "palette.Text");
+            QCOMPARE(colorOf(QStyle::SP_ToolBarVerticalExtensionButton, {5, 8}), "palette.Text");
+        }
         m_style->setPalette(ProbeTheme::palette());
     }
 

@@ -67,9 +67,10 @@ private Q_SLOTS:
         QImage image(200, 40, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);
         for (const Element& element : StyleOptions::elements())
-            for (const QStyle::State state : {QStyle::State(), QStyle::State(~0)}) {
-                const Sample sample = StyleOptions::sampleNamed(element.name);
-                sample.option->state |= state;
+            for (const char* settings : {"", "arrowType=UpArrow"}) {
+                const Sample sample =
+                    StyleOptions::sampleNamed(element.name, StyleOptions::settingsOf(settings));
+                sample.option->state |= *settings ? QStyle::State(~0) : QStyle::State();
                 m_spy->calls.clear();
                 m_style->bypassed.clear();
                 element.use(*m_spy, sample, &painter);

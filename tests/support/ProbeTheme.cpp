@@ -11,6 +11,7 @@
 #include <QImage>
 #include <QMap>
 #include <QMetaEnum>
+#include <QPainter>
 
 #include <algorithm>
 #include <limits>
@@ -171,6 +172,15 @@ QPixmap pixmap(const QColor& color)
     return filled;
 }
 
+QPixmap pixmapOn()
+{
+    const QPixmap whole = pixmap();
+    QPixmap half(whole.size());
+    half.fill(Qt::transparent);
+    QPainter(&half).drawPixmap(0, 0, whole, 0, 0, whole.width(), whole.height() / 2);
+    return half;
+}
+
 QByteArray nameOf(const QColor& color)
 {
     QByteArray name = namesByColor().value(color.rgb() | 0xff000000);
@@ -218,8 +228,11 @@ QByteArray iconOf(const QImage& picture)
 {
     static QHash<QByteArray, QByteArray> sNames;
     const QByteArray shape = shapeOf(picture);
-    if (shape.count(shape.at(0)) == shape.size())
-        return "own";
+    const auto isEven = [](const QByteArray& part) {
+        return part.count(part.at(0)) == part.size();
+    };
+    if (isEven(shape.left(shape.size() / 2)) && isEven(shape.mid(shape.size() / 2)))
+        return isEven(shape) ? "own" : "own-on";
     QByteArray& name = sNames[shape];
     if (name.isEmpty()) {
         name = "unknown";

@@ -47,6 +47,9 @@ QPalette palette();
 /// from, or in another one.
 QPixmap pixmap(const QColor& color = QColor(0xE5, 0xEE, 0xF4));
 
+/// The upper half of it, for what is checked.
+QPixmap pixmapOn();
+
 /// The name of the theme brush, theme color or palette role that has this color. A translucent one
 /// is followed by its alpha ("MainColor@153"), an unknown one is "#rrggbb", a brush without color
 /// "none".
@@ -58,7 +61,7 @@ QByteArray nameOf(const QBrush& brush);
 QByteArray nameOf(const QImage& picture);
 
 /// The name of the library's icon that has this shape in whatever colors; "own" of what `pixmap()`
-/// gives, "unknown" of other pictures.
+/// gives, "own-on" of what `pixmapOn()` does, "unknown" of other pictures.
 QByteArray iconOf(const QImage& picture);
 
 /// "small", "base", "medium" or "large" with "bold" or "italic" after it, or the pixel size if no

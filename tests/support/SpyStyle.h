@@ -9,7 +9,7 @@
 #include <QStyleOption>
 
 /// `Base`, noting the names of the elements it is asked for before it answers:
-/// "PE_FrameFocusRect", "CC_SpinBox 1", "PM_IndicatorWidth".
+/// "PE_FrameFocusRect", "CC_SpinBox 1", "PM_IndicatorWidth", "text", "pixmap".
 template <class Base>
 class NotingStyle : public Base
 {
@@ -35,6 +35,20 @@ public:
     {
         if (note(StyleOptions::nameOf(control), option, widget))
             Base::drawComplexControl(control, option, painter, widget);
+    }
+
+    void drawItemText(QPainter* painter, const QRect& rect, int flags, const QPalette& palette,
+                      bool enabled, const QString& text, QPalette::ColorRole role) const override
+    {
+        if (note("text", nullptr, nullptr))
+            Base::drawItemText(painter, rect, flags, palette, enabled, text, role);
+    }
+
+    void drawItemPixmap(QPainter* painter, const QRect& rect, int alignment,
+                        const QPixmap& pixmap) const override
+    {
+        if (note("pixmap", nullptr, nullptr))
+            Base::drawItemPixmap(painter, rect, alignment, pixmap);
     }
 
     QRect subElementRect(QStyle::SubElement element, const QStyleOption* option,

@@ -34,9 +34,16 @@ void applyColors(const Settings& settings, QWidget& widget)
         widget.setPalette(palette);
 }
 
+QIcon probeIcon()
+{
+    QIcon icon(ProbeTheme::pixmap());
+    icon.addPixmap(ProbeTheme::pixmapOn(), QIcon::Normal, QIcon::On);
+    return icon;
+}
+
 QIcon iconOf(const Settings& settings)
 {
-    return settings.value("icon").toByteArray() == "none" ? QIcon() : QIcon(ProbeTheme::pixmap());
+    return settings.value("icon").toByteArray() == "none" ? QIcon() : probeIcon();
 }
 
 /// Gives a widget what it can show: those of these properties that it has, and then the settings.
@@ -79,6 +86,7 @@ void fill(QWidget& widget, const Settings& settings)
     if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
         auto* model = new QStandardItemModel(3, 2, view);
         model->setData(model->index(0, 0), QStringLiteral("Text"));
+        model->item(0)->appendRow(new QStandardItem);
         view->setModel(model);
     }
 }
@@ -176,9 +184,19 @@ void completeViewItem(const QAbstractItemView& view, QStyleOptionViewItem& optio
     option.features = QStyleOptionViewItem::HasDisplay | QStyleOptionViewItem::HasDecoration
                       | QStyleOptionViewItem::HasCheckIndicator | QStyleOptionViewItem::Alternate;
     option.text = QStringLiteral("Text");
-    option.icon = ProbeTheme::pixmap();
+    option.icon = probeIcon();
     option.decorationSize = QSize(16, 16);
     option.showDecorationSelected = true;
+}
+
+Sample popupItem(const Settings& settings)
+{
+    auto comboBox = std::make_shared<QComboBox>();
+    fill(*comboBox, settings);
+    const QRect rect(QPoint(), WidgetSize);
+    const Sample sample = partOf<QStyleOptionViewItem>(comboBox, comboBox->view(), rect);
+    completeViewItem(*comboBox->view(), static_cast<QStyleOptionViewItem&>(*sample.option));
+    return sample;
 }
 
 void completeToolBox(const QToolBox&, QStyleOptionToolBox& option)
@@ -189,7 +207,7 @@ void completeToolBox(const QToolBox&, QStyleOptionToolBox& option)
 void completeTitleBar(const QMdiSubWindow&, QStyleOptionTitleBar& option)
 {
     option.text = QStringLiteral("Window");
-    option.icon = ProbeTheme::pixmap();
+    option.icon = probeIcon();
     option.titleBarFlags = Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint
                            | Qt::WindowMinMaxButtonsHint | Qt::WindowContextHelpButtonHint
                            | Qt::WindowShadeButtonHint;
@@ -202,7 +220,7 @@ Sample header(const Settings& settings)
     Sample sample = partOf<QStyleOptionHeader>(view, view->header(), QRect(QPoint(), WidgetSize));
     auto& option = static_cast<QStyleOptionHeader&>(*sample.option);
     option.text = QStringLiteral("Name");
-    option.icon = ProbeTheme::pixmap();
+    option.icon = probeIcon();
     option.sortIndicator = QStyleOptionHeader::SortDown;
     return sample;
 }
@@ -271,7 +289,8 @@ const Row Rows[] = {
     {completed<QTreeView, QStyleOptionViewItem, completeViewItem>,
      "IndicatorViewItemCheck IndicatorItemViewItemCheck IndicatorColumnViewArrow PanelItemView* "
      "ViewItem* ItemViewItem* TreeViewDisclosureItem"},
-    {completed<QListView, QStyleOptionViewItem, completeViewItem>, "PanelItemView* ItemViewItem"},
+    {completed<QListView, QStyleOptionViewItem, completeViewItem>, "PanelItemView* ItemViewItem*"},
+    {popupItem, "ItemViewItem*"},
     {completed<QTableView, QStyleOptionViewItem, completeViewItem>, "PanelItemView* ItemViewItem"},
     {plain<QTreeView>, "IndicatorBranch IndicatorItemViewItemDrop"},
     {header, "IndicatorHeaderArrow Header HeaderSection HeaderLabel HeaderArrow"},
@@ -370,7 +389,10 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings, const St
     const auto states = QMetaEnum::fromType<QStyle::StateFlag>();
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting) {
         const QByteArray& key = setting.key();
-        if (key.startsWith("option."))
+        if (auto* item = qstyleoption_cast<QStyleOptionViewItem*>(sample.option.get());
+            item && key == "option.text")
+            item->text = setting.value().toString().replace(QLatin1Char('_'), QLatin1Char('\n'));
+        else if (key.startsWith("option."))
             setField(*sample.option, key.mid(7), setting.value().toInt());
         else if (key.startsWith("State_"))
             sample.option->state.setFlag(QStyle::StateFlag(states.keyToValue(key)),

@@ -33,6 +33,7 @@ struct Look
     bool antialiased = true;
 
     QIcon icon;
+    QString iconTheme;
     RecoloredIcons::Recoloring recoloring{QColor(Qt::red), QColor(Qt::green), false};
     QSize iconSize{16, 16};
     QIcon::Mode mode = QIcon::Normal;
@@ -51,27 +52,40 @@ QPixmap square(const QColor& color, int side = 32)
     return pixmap;
 }
 
-/// Draws a picture that nobody else has.
+/// Draws a picture that nobody else has; with a name, as if it came from a file of the icon theme.
 class FreshIconEngine : public QIconEngine
 {
 public:
-    explicit FreshIconEngine(const QColor& color) : m_color(color) { }
+    explicit FreshIconEngine(const QColor& color, const QString& name = {})
+        : m_color(color), m_name(name)
+    { }
 
     QIconEngine* clone() const override { return new FreshIconEngine(*this); }
 
-    QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State) override
+    QString iconName() const override { return m_name; }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode, QIcon::State state) override
     {
-        return square(m_color, size.width());
+        const QColor color = state == QIcon::On ? m_color.darker() : m_color;
+        const bool isOther = QIcon::themeName() == QLatin1String("other");
+        return square(isOther ? color.lighter() : color, size.width());
     }
 
     void paint(QPainter*, const QRect&, QIcon::Mode, QIcon::State) override { }
 
 private:
     QColor m_color;
+    QString m_name;
 };
+
+QIcon fileIcon(const QColor& color)
+{
+    return QIcon(new FreshIconEngine(color, QStringLiteral("from.file")));
+}
 
 QImage drawn(const Look& look)
 {
+    QIcon::setThemeName(look.iconTheme);
     QImage image(QSize(200, 120) * look.ratio, QImage::Format_RGB32);
     image.setDevicePixelRatio(look.ratio);
     image.setDotsPerMeterY(qRound(look.dotsPerInch / 0.0254));
@@ -183,9 +197,11 @@ private Q_SLOTS:
         row("antialiasing", [](Look& look) { look.antialiased = false; });
         row("icon", [](Look& look) { look.icon = square(Qt::blue); });
         row("fresh icon", [](Look& look) { look.icon = QIcon(new FreshIconEngine(Qt::blue)); });
+        row("icon from a file", [](Look& look) { look.icon = fileIcon(Qt::blue); });
         row("icon's size", [](Look& look) { look.iconSize = {15, 15}; });
         row("icon's mode", [](Look& look) { look.mode = QIcon::Disabled; });
         row("icon's state", [](Look& look) { look.state = QIcon::On; });
+        row("icon theme", [](Look& look) { look.iconTheme = QStringLiteral("other"); });
         row("reference", [](Look& look) { look.recoloring.reference = QColor(Qt::gray); });
         row("replacement", [](Look& look) { look.recoloring.replacement = QColor(Qt::cyan); });
         row("disabled", [](Look& look) { look.recoloring.disabled = true; });
@@ -200,20 +216,24 @@ private Q_SLOTS:
     void changesAreSeen()
     {
         QFETCH(Change, change);
-        Look look;
-        look.icon.addPixmap(square(Qt::gray), QIcon::Normal, QIcon::Off);
-        look.icon.addPixmap(square(Qt::magenta), QIcon::Normal, QIcon::On);
-        Look changed = look;
-        change(changed);
-        if (changed.icon.availableSizes().isEmpty())
-            look.icon = QIcon(new FreshIconEngine(Qt::gray));
-        Kept::forgetAll();
-        const QImage expected = drawn(changed);
-        Kept::forgetAll();
-        const QImage before = drawn(look);
-        QVERIFY(before != expected);
-        QCOMPARE(drawn(changed), expected);
-        QCOMPARE(drawn(look), before);
+        QIcon icon(square(Qt::gray));
+        icon.addPixmap(square(Qt::magenta), QIcon::Normal, QIcon::On);
+        for (const QIcon& first :
+             {icon, QIcon(new FreshIconEngine(Qt::gray)), fileIcon(Qt::gray)}) {
+            Look look;
+            look.icon = first;
+            Look changed = look;
+            change(changed);
+            if (!first.availableSizes().isEmpty() && changed.iconTheme != look.iconTheme)
+                continue;
+            Kept::forgetAll();
+            const QImage expected = drawn(changed);
+            Kept::forgetAll();
+            const QImage before = drawn(look);
+            QVERIFY(before != expected);
+            QCOMPARE(drawn(changed), expected);
+            QCOMPARE(drawn(look), before);
+        }
     }
 };
 
