@@ -61,49 +61,33 @@ struct IconKey
     }
 };
 
-/// Made from a picture that stays somewhere, or else from one with the same content.
+/// All that the picture of an icon depends on. What it is made from is told by one of the last: an
+/// icon from a file, with the icon theme, a picture that stays somewhere, or its content.
 struct PictureKey
 {
-    qint64 picture;
-    QImage content;
-    Recoloring recoloring;
-    qreal ratio;
-
-    friend bool operator==(const PictureKey& one, const PictureKey& other)
-    {
-        return one.picture == other.picture && one.recoloring == other.recoloring
-               && one.ratio == other.ratio && one.content == other.content;
-    }
-
-    friend uint qHash(const PictureKey& key, uint seed)
-    {
-        return ::qHash(key.picture, seed) ^ hashOf(key.recoloring)
-               ^ qHashBits(key.content.constBits(), size_t(key.content.sizeInBytes()));
-    }
-};
-
-/// All that the picture of an icon from a file depends on.
-struct AskedPicture
-{
-    qint64 icon; ///< 0 for other icons
-    QString iconTheme;
     Recoloring recoloring;
     QSize size;
     QIcon::Mode mode;
     QIcon::State state;
     qreal ratio;
+    qint64 icon = 0;
+    QString iconTheme = {};
+    qint64 source = 0;
+    QImage content = {};
 
-    friend bool operator==(const AskedPicture& one, const AskedPicture& other)
+    friend bool operator==(const PictureKey& one, const PictureKey& other)
     {
-        return one.icon == other.icon && one.iconTheme == other.iconTheme
-               && one.recoloring == other.recoloring && one.size == other.size
-               && one.mode == other.mode && one.state == other.state && one.ratio == other.ratio;
+        return one.icon == other.icon && one.source == other.source && one.size == other.size
+               && one.mode == other.mode && one.state == other.state && one.ratio == other.ratio
+               && one.recoloring == other.recoloring && one.iconTheme == other.iconTheme
+               && one.content == other.content;
     }
 
-    friend uint qHash(const AskedPicture& picture, uint seed)
+    friend uint qHash(const PictureKey& key, uint seed)
     {
-        return ::qHash(picture.icon, seed) ^ hashOf(picture.recoloring)
-               ^ uint(picture.size.width() << 4 ^ picture.size.height());
+        return ::qHash(key.icon ^ key.source, seed) ^ hashOf(key.recoloring)
+               ^ uint(key.size.width() << 4 ^ key.size.height())
+               ^ qHashBits(key.content.constBits(), size_t(key.content.sizeInBytes()));
     }
 };
 
@@ -157,28 +141,36 @@ private:
     QString m_name;
 };
 
-QPixmap made(const QPixmap& source, const Recoloring& recoloring, qreal ratio)
-{
-    const QImage image = source.toImage();
-    QPixmap result = QPixmap::fromImage(recoloredImage(
-        image, referenceColor(recoloring), recoloring.replacement, recoloring.disabled));
-    result.setDevicePixelRatio(ratio);
-    return result;
-}
-
-qint64 bytesOf(const QPixmap& picture)
-{
-    return qint64(picture.width()) * picture.height() * picture.depth() / 8;
-}
-
-QPixmap kept(const PictureKey& key, const QPixmap& source)
+Kept::Store<PictureKey, QPixmap>& pictures()
 {
     static Kept::Store<PictureKey, QPixmap> sPictures;
-    if (const QPixmap* known = sPictures.find(key))
+    return sPictures;
+}
+
+bool isRecolored(const Recoloring& recoloring)
+{
+    return referenceColor(recoloring) || recoloring.disabled;
+}
+
+QPixmap made(const PictureKey& key, const QPixmap& source)
+{
+    const Recoloring& recoloring = key.recoloring;
+    QPixmap picture = QPixmap::fromImage(recoloredImage(
+        source.toImage(), referenceColor(recoloring), recoloring.replacement, recoloring.disabled));
+    const QSize wanted = key.size * key.ratio;
+    const bool isFine = picture.width() >= wanted.width() || picture.height() >= wanted.height();
+    picture.setDevicePixelRatio(
+        isFine ? key.ratio : qMax(1.0, key.ratio * picture.width() / qMax(1, wanted.width())));
+    return picture;
+}
+
+QPixmap keptOrMade(const PictureKey& key, const QPixmap& source)
+{
+    if (const QPixmap* known = pictures().find(key))
         return *known;
-    auto picture = std::make_unique<QPixmap>(made(source, key.recoloring, key.ratio));
-    const qint64 bytes = bytesOf(*picture) + key.content.sizeInBytes();
-    return *sPictures.keep(key, std::move(picture), bytes);
+    auto picture = std::make_unique<QPixmap>(made(key, source));
+    const qint64 bytes = qint64(picture->width()) * picture->height() * picture->depth() / 8;
+    return *pictures().keep(key, std::move(picture), bytes + key.content.sizeInBytes());
 }
 
 /// Whether `icon` is drawn from files that the icon theme names, and so is the same as long as that
@@ -187,37 +179,6 @@ QPixmap kept(const PictureKey& key, const QPixmap& source)
 bool isFromFile(const QIcon& icon)
 {
     return icon.name().contains(QLatin1Char('.'));
-}
-
-QPixmap drawn(const QIcon& icon, const AskedPicture& picture)
-{
-    constexpr int MostContent = 64 * 64; ///< pixels
-    Recoloring recoloring = picture.recoloring;
-    recoloring.disabled = recoloring.disabled || picture.mode == QIcon::Disabled;
-    const QIcon::Mode mode = recoloring.disabled ? QIcon::Disabled : picture.mode;
-    const bool isOwn = hasOwn(icon, mode, picture.state);
-    if (isOwn)
-        recoloring = {};
-    const QSize wanted = picture.size * picture.ratio;
-    QPixmap source;
-    {
-        const AskedInDevicePixels inDevicePixels;
-        source = icon.pixmap(wanted, isOwn ? mode : QIcon::Normal, picture.state);
-    }
-    const bool isFine = source.width() >= wanted.width() || source.height() >= wanted.height();
-    const qreal ratio = isFine
-                            ? picture.ratio
-                            : qMax(1.0, picture.ratio * source.width() / qMax(1, wanted.width()));
-    if (source.isNull() || (!referenceColor(recoloring) && !recoloring.disabled && ratio == 1))
-        return source;
-    // What is kept by another key, and what nobody else has, is drawn anew.
-    if (picture.icon)
-        return made(source, recoloring, ratio);
-    if (!source.isDetached())
-        return kept({source.cacheKey(), {}, recoloring, ratio}, source);
-    if (source.width() * source.height() <= MostContent)
-        return kept({0, source.toImage(), recoloring, ratio}, source);
-    return made(source, recoloring, ratio);
 }
 
 } // namespace
@@ -254,24 +215,42 @@ bool hasOwn(const QIcon& icon, QIcon::Mode mode, QIcon::State state)
 QPixmap pixmap(const QIcon& icon, const Recoloring& recoloring, const QSize& size, QIcon::Mode mode,
                QIcon::State state, qreal ratio)
 {
-    if (!isFromFile(icon))
-        return drawn(icon, {0, {}, recoloring, size, mode, state, ratio});
-    static Kept::Store<AskedPicture, QPixmap> sPictures;
-    const AskedPicture asked{
-        icon.cacheKey(), QIcon::themeName(), recoloring, size, mode, state, ratio};
-    if (const QPixmap* known = sPictures.find(asked))
-        return *known;
-    const QPixmap picture = drawn(icon, asked);
-    return picture.isNull()
-               ? picture
-               : *sPictures.keep(asked, std::make_unique<QPixmap>(picture), bytesOf(picture));
+    constexpr int MostContent = 64 * 64; ///< pixels
+    const bool disabled = recoloring.disabled || mode == QIcon::Disabled;
+    const QIcon::Mode ownMode = disabled ? QIcon::Disabled : mode;
+    const bool isOwn = hasOwn(icon, ownMode, state);
+    PictureKey key{isOwn ? Recoloring() : recoloring, size, isOwn ? ownMode : QIcon::Normal, state,
+                   ratio};
+    key.recoloring.disabled = disabled && !isOwn;
+    if (isFromFile(icon)) {
+        key.icon = icon.cacheKey();
+        key.iconTheme = QIcon::themeName();
+        if (const QPixmap* known = pictures().find(key))
+            return *known;
+    }
+    QPixmap source;
+    {
+        const AskedInDevicePixels inDevicePixels;
+        source = icon.pixmap(size * ratio, key.mode, state);
+    }
+    if (source.isNull() || (!key.icon && !isRecolored(key.recoloring) && ratio == 1))
+        return source;
+    if (!key.icon && !source.isDetached())
+        key.source = source.cacheKey();
+    else if (!key.icon && source.width() * source.height() <= MostContent)
+        key.content = source.toImage();
+    else if (!key.icon)
+        return made(key, source);
+    return keptOrMade(key, source);
 }
 
 QPixmap pixmap(const QPixmap& source, const Recoloring& recoloring)
 {
     if (source.isNull())
         return source;
-    return kept({source.cacheKey(), {}, recoloring, source.devicePixelRatioF()}, source);
+    PictureKey key{recoloring, {}, QIcon::Normal, QIcon::Off, source.devicePixelRatioF()};
+    key.source = source.cacheKey();
+    return keptOrMade(key, source);
 }
 
 } // namespace BRELK::RecoloredIcons
