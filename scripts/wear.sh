@@ -3,7 +3,7 @@
 # dialogs with all their pages, and its sizes, and takes pictures: PICTURES/PROGRAM/STYLE-STATION.png, and a sheet of all
 # stations for each program. Not a test: somebody has to look at them.
 #
-#   scripts/wear.sh [-b BUILD] [-o PICTURES] [-s SCALE] [-t "STYLE..."] [PROGRAM[=PACKAGE]...]
+#   scripts/wear.sh [-b BUILD] [-o PICTURES] [-s SCALE] [-t "STYLE..."] [PROGRAM[=PACKAGE][:FILE...]...]
 set -eu
 
 cd "$(dirname "$0")/.."
@@ -23,6 +23,7 @@ shift $((OPTIND - 1))
 
 packages=
 for needed in Xvfb=xvfb montage=imagemagick openbox dbus-run-session=dbus "$@"; do
+    needed=${needed%%:*}
     command -v "${needed%%=*}" >/dev/null || packages="$packages ${needed#*=}"
 done
 # shellcheck disable=SC2086 # a list
@@ -39,22 +40,25 @@ sleep 1
 export DISPLAY=$display
 openbox >/dev/null 2>&1 &
 
-wear() { # PROGRAM STYLE
+wear() { # PROGRAM STYLE FILES, with ":" between them
+    files=$(echo "${3-}" | tr : ' ')
     mkdir -p "$out/$1"
     mkdir -m 700 "$home/$1-$2"
+    # shellcheck disable=SC2086 # a list
     env HOME="$home/$1-$2" XDG_CONFIG_HOME="$home/$1-$2" XDG_RUNTIME_DIR="$home/$1-$2" QT_QPA_PLATFORM=xcb \
         QT_FONT_DPI=96 QT_SCALE_FACTOR="$scale" QT_STYLE_OVERRIDE="$2" QT_PLUGIN_PATH="$build/plugins" \
         XDG_DATA_DIRS="$build/share:/usr/local/share:/usr/share" LC_ALL=C.UTF-8 \
         QT_QPA_GENERIC_PLUGINS=varn_wear WEAR_PICTURES="$out/$1/$2-" \
-        timeout -k 1 120 dbus-run-session -- "$1" >"$out/$1/$2.log" 2>&1 ||
+        timeout -k 1 120 dbus-run-session -- "$1" $files >"$out/$1/$2.log" 2>&1 ||
         echo "$1 did not come through under $2: $out/$1/$2.log" >&2
 }
 
 out=$(mkdir -p "$out" && realpath "$out")
-for program; do
-    program=${program%%=*}
+for argument; do
+    case $argument in *:*) files=${argument#*:} ;; *) files= ;; esac
+    program=${argument%%[=:]*}
     for style in $styles; do
-        wear "$program" "$style"
+        wear "$program" "$style" "$files"
         montage -label '%t' "$out/$program/$style"-*.png -trim +repage -tile 4x -geometry '640x560>+4+4' \
             "$out/$program-$style.png" || true
     done

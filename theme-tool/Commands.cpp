@@ -54,9 +54,8 @@ const QVector<Command>& commands()
          QStringLiteral(
              "Makes the theme directory NAME in the repository (that of this user unless "
              "given), with a theme that "
-             "extends another one and replaces the colors "
-             "that are given. Themes that it stands on are copied there if the "
-             "repository lacks them. Nothing is overwritten."),
+             "extends another one, there or installed, and replaces the colors that are given. "
+             "Nothing is overwritten."),
          {option("extends", "THEME", "the theme to stand on, Dark unless given"),
           option("background", "COLOR", "the color of windows"),
           option("foreground", "COLOR", "the color of words, at least 7:1 to the background"),

@@ -79,37 +79,6 @@ bool isReadable(const Request& request, const ReadTheme& base)
     return false;
 }
 
-bool copyFiles(const QString& from, const QString& to)
-{
-    QDir().mkpath(to);
-    const QDir source(from);
-    for (const QString& file : source.entryList(QDir::Files)) {
-        if (!QFile::copy(source.filePath(file), to + QLatin1Char('/') + file)) {
-            printError(QStringLiteral("%1 cannot be copied to %2").arg(source.filePath(file), to));
-            return false;
-        }
-    }
-    return true;
-}
-
-/// Copies `base` and what it stands on to `repository`, as far as they are not there.
-bool provideBase(const QString& directory, const QString& repository)
-{
-    const ThemeProblemRecorder silence;
-    const QString shipped = QFileInfo(directory).absolutePath();
-    for (const auto& document :
-         readThemeDocuments(directory + QLatin1String("/config.xml"), QStringLiteral("Config"))) {
-        const QString name = QFileInfo(QFileInfo(document->getPath()).absolutePath()).fileName();
-        const QString target = repository + QLatin1Char('/') + name;
-        if (QFileInfo::exists(target))
-            continue;
-        if (!copyFiles(shipped + QLatin1Char('/') + name, target))
-            return false;
-        print(QStringLiteral("copied %1, which it stands on, to %2\n").arg(name, target));
-    }
-    return true;
-}
-
 QString configuration(const Request& request, const QString& base)
 {
     QString colors;
@@ -161,7 +130,7 @@ int runNew(const Request& request)
 
     const QString header = QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n");
     const bool isWritten =
-        provideBase(baseDirectory, repository) && QDir().mkpath(directory)
+        QDir().mkpath(directory)
         && write(directory + QLatin1String("/theme.xml"),
                  header + QStringLiteral("<theme>\n  <name>%1</name>\n</theme>\n").arg(name))
         && write(directory + QLatin1String("/config.xml"), configuration(request, base))

@@ -9,7 +9,8 @@ namespace BRELK::ThemeRepositories {
 
 /// The theme repositories of this machine, those that exist: `../share/varn/themes` beside the
 /// application, `varn/themes` below `XDG_DATA_HOME` and below each of `XDG_DATA_DIRS`, and the one
-/// that was installed with the library. What comes first wins. Needs the application object.
+/// that was installed with the library. What comes first wins. Without an application object
+/// nothing is beside the application.
 VARN_COMMON_THEME_EXPORT QStringList all();
 
 /// The theme directories of `repositories`, by name; of those that differ in upper and lower case

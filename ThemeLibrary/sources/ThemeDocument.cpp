@@ -1,6 +1,7 @@
 #include "ThemeDocument.h"
 
 #include "NamePattern.h"
+#include "ThemeRepositories.h"
 
 #include <QDebug>
 #include <QDir>
@@ -238,22 +239,38 @@ bool isUsable(const ThemeDocument& document, const QString& rootTag)
     return false;
 }
 
-/// The file `name` of the theme that `root` extends; null, and reported, when it cannot be used.
-std::unique_ptr<ThemeDocument> readBase(const ThemeElement& root, const QDir& repository,
-                                        const QString& name, const QStringList& themes,
-                                        ThemeFileBudget& budget)
+/// The directory of the theme `base` in `repository`, or else in the first that is searched and has
+/// one: a theme of the user's may extend one of the system's.
+QString baseDirectory(const QString& base, const QDir& repository)
+{
+    const QString own = repository.filePath(base);
+    if (QFileInfo::exists(own))
+        return own;
+    for (const QString& other : ThemeRepositories::all()) {
+        const QString found = QDir(other).filePath(base);
+        if (QFileInfo::exists(found))
+            return found;
+    }
+    return own;
+}
+
+/// The file that the theme which `root` extends has in place of its own, at `file`; null, and
+/// reported, when it cannot be used.
+std::unique_ptr<ThemeDocument> readBase(const ThemeElement& root, const QFileInfo& file,
+                                        const QStringList& themes, ThemeFileBudget& budget)
 {
     const QString base = root.getAttribute(extendsAttribute());
     QString problem = problemOfBase(base, themes);
     std::unique_ptr<ThemeDocument> document;
     if (problem.isEmpty()) {
+        const QDir repository(QFileInfo(file.absolutePath()).absolutePath());
         document = std::make_unique<ThemeDocument>(
-            repository.filePath(base + QLatin1Char('/') + name), budget);
+            QDir(baseDirectory(base, repository)).filePath(file.fileName()), budget);
         document->reportFailure();
         if (isUsable(*document, root.getTag()))
             return document;
         problem = QLatin1String("extends ") + quoted(base)
-                  + QLatin1String(", which has no readable ") + name;
+                  + QLatin1String(", which has no readable ") + file.fileName();
     }
     root.report(problem, QStringLiteral("read without it"));
     return nullptr;
@@ -477,8 +494,7 @@ void ThemeDocument::report(int line, int column, const QString& what, const QStr
 
 ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag)
 {
-    const QFileInfo file(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
-    const QDir repository(QFileInfo(file.absolutePath()).absolutePath());
+    QFileInfo file(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
     QStringList themes{file.absoluteDir().dirName()};
     ThemeFileBudget budget;
     ThemeDocuments documents;
@@ -489,9 +505,10 @@ ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag)
 
     for (ThemeElement root = documents.front()->getRoot(); root.hasAttribute(extendsAttribute());
          root = documents.back()->getRoot()) {
-        auto base = readBase(root, repository, file.fileName(), themes, budget);
+        auto base = readBase(root, file, themes, budget);
         if (!base)
             break;
+        file.setFile(base->getPath());
         documents.push_back(std::move(base));
         themes += root.getAttribute(extendsAttribute());
     }

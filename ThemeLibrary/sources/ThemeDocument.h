@@ -183,7 +183,8 @@ private:
 using ThemeDocuments = std::vector<std::unique_ptr<ThemeDocument>>;
 
 /// Reads the theme file at `path` and, as its root's attribute "extends" says, the files of the
-/// same name in sibling theme directories. Only the first document's status can differ from
+/// same name in sibling theme directories or, where there is no such sibling, in the first of
+/// `ThemeRepositories::all()` that has one. Only the first document's status can differ from
 /// `NO_ERROR`; a base that cannot be read is reported and ends the list.
 ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag);
 

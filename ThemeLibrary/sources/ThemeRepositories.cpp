@@ -34,7 +34,8 @@ QStringList all()
         if (!directory.isEmpty())
             candidates.append(QDir::cleanPath(QDir(directory).absoluteFilePath(path)));
     };
-    beside(QCoreApplication::applicationDirPath(), QStringLiteral("../share/varn/themes"));
+    if (QCoreApplication::instance())
+        beside(QCoreApplication::applicationDirPath(), QStringLiteral("../share/varn/themes"));
     candidates +=
         QStandardPaths::locateAll(QStandardPaths::GenericDataLocation,
                                   QStringLiteral("varn/themes"), QStandardPaths::LocateDirectory);

@@ -139,6 +139,7 @@ private Q_SLOTS:
     /// process.
     void initTestCase()
     {
+        qputenv("XDG_DATA_DIRS", VARN_READINGS "/system");
         readConfiguration(reading("Factors/config.xml"));
         QCOMPARE(ThemeColorHelper::disabled(Qt::white, true), QColor(Qt::white).darker(200));
         QCOMPARE(ThemeColorHelper::disabled(Qt::white, false), QColor(Qt::white).darker(110));
@@ -149,8 +150,8 @@ private Q_SLOTS:
         QByteArray text;
         for (const char* theme :
              {"Factors", "Colors", "Base", "Derived", "BadEntries", "BadRoot", "ExtendsItself",
-              "ExtendsCircle", "ExtendsNothing", "ExtendsAPath", "Entities", "Derivations",
-              "NotClosed", "Empty", "None"})
+              "ExtendsCircle", "ExtendsNothing", "ExtendsAPath", "ExtendsInstalled", "Entities",
+              "Derivations", "NotClosed", "Empty", "None"})
             text += QByteArray("# ") + theme + '\n'
                     + readConfiguration(reading(theme) + QLatin1String("/config.xml"));
         COMPARE_TRANSCRIPT("Readers.configurations", text);

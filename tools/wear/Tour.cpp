@@ -1,14 +1,17 @@
 #include "Tour.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QDialog>
+#include <QDialogButtonBox>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QStackedWidget>
@@ -19,11 +22,15 @@
 
 namespace {
 
-constexpr int Pace = 500; // ms
+constexpr int Pace = 400; // ms
 constexpr int Patience = 8; // steps, for a window to come and to settle
 constexpr int MostPages = 12;
 constexpr int Focused = 3; // times that the focus moves on
+constexpr int Greetings = 3; // dialogs that come before a program is at work
+constexpr int Surroundings = 8; // of a popup
+constexpr int LeastWidth = 100; // of a dialog: smaller windows serve other ends
 const QSize Small(420, 320);
+const QSize Usual(960, 680);
 const QSize Large(1200, 880);
 
 template <class Widget>
@@ -56,8 +63,10 @@ QWidget* dialog(const QWidget* except)
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
-    for (QWidget* widget : QApplication::topLevelWidgets()) {
-        if (widget != except && widget->isVisible()
+    QList<QWidget*> windows = QApplication::topLevelWidgets();
+    windows.prepend(QApplication::activeWindow());
+    for (QWidget* widget : qAsConst(windows)) {
+        if (widget && widget != except && widget->isVisible() && widget->width() > LeastWidth
             && (widget->windowType() == Qt::Dialog || widget->windowType() == Qt::Window))
             return widget;
     }
@@ -78,6 +87,51 @@ void closeDialogs(const QWidget* except)
         box->reject();
     else if (widget)
         widget->close();
+}
+
+/// The button that agrees with a dialog: one that refuses its first dialog would end the program.
+QAbstractButton* agreeingButton(const QWidget* dialog)
+{
+    for (QPushButton* button : visible<QPushButton>(dialog)) {
+        if (button->isDefault() && button->isEnabled())
+            return button;
+    }
+    for (const QDialogButtonBox* box : visible<QDialogButtonBox>(dialog)) {
+        for (QAbstractButton* button : box->buttons()) {
+            const QDialogButtonBox::ButtonRole role = box->buttonRole(button);
+            if (role == QDialogButtonBox::AcceptRole || role == QDialogButtonBox::YesRole)
+                return button;
+        }
+    }
+    return nullptr;
+}
+
+void answerGreeting()
+{
+    closePopups();
+    QWidget* greeting = QApplication::activeModalWidget();
+    if (!greeting)
+        greeting = qobject_cast<QDialog*>(largestWindow());
+    if (QAbstractButton* button = agreeingButton(greeting))
+        button->click();
+    else if (greeting)
+        greeting->close();
+}
+
+void post(QObject* receiver, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = {})
+{
+    QApplication::postEvent(receiver, new QKeyEvent(type, key, modifiers));
+}
+
+void press(int key)
+{
+    QObject* receiver = QApplication::activePopupWidget();
+    if (!receiver)
+        receiver = QApplication::focusWidget();
+    if (!receiver)
+        return;
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
+        post(receiver, type, key);
 }
 
 QAction* findAction(const QWidget* window, const char* pattern, QAction::MenuRole role)
@@ -120,8 +174,12 @@ void Tour::start()
     connect(&m_timer, &QTimer::timeout, this, &Tour::advance);
     m_window = window;
     picture(QStringLiteral("start"));
-    for (int greeting = 0; greeting < 2; ++greeting)
-        m_steps.push_back([this] { closeDialogs(m_window); });
+    for (int greeting = 0; greeting < Greetings; ++greeting)
+        m_steps.push_back([] { QTimer::singleShot(0, qApp, answerGreeting); });
+    m_steps.push_back([this] {
+        m_window = largestWindow();
+        closeDialogs(m_window);
+    });
     m_steps.push_back([this] { plan(); });
 }
 
@@ -130,6 +188,7 @@ void Tour::plan()
     m_window = largestWindow();
     if (!m_window)
         _exit(1);
+    visit(QStringLiteral("window"), [this] { m_window->resize(Usual); });
     visitMenus();
     visit(QStringLiteral("context"), [this] {
         if (QWidget* widget = contextWidget(m_window)) {
@@ -138,14 +197,7 @@ void Tour::plan()
                                                                   widget->mapToGlobal(center)));
         }
     });
-    visit(QStringLiteral("focus"), [] {
-        closePopups();
-        for (int step = 0; step < Focused; ++step) {
-            if (QWidget* widget = QApplication::focusWidget())
-                QApplication::postEvent(
-                    widget, new QKeyEvent(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier));
-        }
-    });
+    visitByKeys(QStringLiteral("keys"));
     visitDialog(QStringLiteral("open"), findAction(m_window, "^Open\\b.*", QAction::NoRole));
     visitDialog(QStringLiteral("settings"),
                 findAction(m_window,
@@ -172,6 +224,23 @@ void Tour::visit(const QString& name, const Step& step)
 {
     m_steps.push_back(step);
     m_steps.push_back([this, name] { picture(name); });
+}
+
+/// What shows without a mouse: the focus as it moves on, the bar of menus, a menu.
+void Tour::visitByKeys(const QString& name)
+{
+    m_steps.push_back([] { closePopups(); });
+    for (int step = 1; step <= Focused; ++step)
+        visit(name + QLatin1Char('-') + QString::number(step), [] { press(Qt::Key_Tab); });
+    visit(name + QLatin1String("-bar"), [this] {
+        post(m_window, QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+        post(m_window, QEvent::KeyRelease, Qt::Key_Alt);
+    });
+    visit(name + QLatin1String("-menu"), [] {
+        press(Qt::Key_Down);
+        press(Qt::Key_Down);
+    });
+    m_steps.push_back([] { closePopups(); });
 }
 
 void Tour::visitMenus()
@@ -233,10 +302,20 @@ void Tour::visitPages(const QString& name)
                     view->setCurrentIndex(view->model()->index(row, 0));
             });
     }
+    if (box)
+        visit(name + QLatin1String("-keys"), [] { press(Qt::Key_Tab); });
     m_steps.insert(m_steps.end(), after.begin(), after.end());
 }
 
 void Tour::picture(const QString& name) const
 {
-    QGuiApplication::primaryScreen()->grabWindow(0).save(m_pictures + name + QLatin1String(".png"));
+    QWidget* shown = QApplication::activePopupWidget();
+    const int margin = shown ? Surroundings : 0;
+    if (!shown)
+        shown = dialog(m_window);
+    const QRect area = (shown ? shown : m_window.data())->frameGeometry();
+    QGuiApplication::primaryScreen()
+        ->grabWindow(0, area.x() - margin, area.y() - margin, area.width() + 2 * margin,
+                     area.height() + 2 * margin)
+        .save(m_pictures + name + QLatin1String(".png"));
 }

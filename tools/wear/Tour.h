@@ -10,7 +10,7 @@
 class QAction;
 
 /// Leads the program that it is part of through its menus, dialogs and sizes, takes a picture of
-/// the screen at each station, and ends the program.
+/// what is on top at each station, and ends the program.
 class Tour : public QObject
 {
 public:
@@ -24,6 +24,7 @@ private:
     void advance();
     /// Has `step` done, and what is then seen pictured.
     void visit(const QString& name, const Step& step);
+    void visitByKeys(const QString& name);
     void visitMenus();
     void visitDialog(const QString& name, QAction* action);
     void visitPages(const QString& name);
