@@ -112,14 +112,11 @@ template void FrozenGroup<QFont>::freeze(const QString&);
 template void FrozenGroup<double>::freeze(const QString&);
 template void FrozenGroup<int>::freeze(const QString&);
 
-const QBrush& FrozenPair::value(bool enabled)
+void FrozenPair::freeze()
 {
-    if (!m_known) {
-        m_known = true;
-        m_enabled = themeValues().brushes.value(m_name, true);
-        m_disabled = themeValues().brushes.value(m_name, false);
-    }
-    return enabled ? m_enabled : m_disabled;
+    m_known = true;
+    m_enabled = themeValues().brushes.value(m_name, true);
+    m_disabled = themeValues().brushes.value(m_name, false);
 }
 
 QIcon FrozenIcon::icon()

@@ -79,9 +79,16 @@ class FrozenPair
 public:
     explicit FrozenPair(ThemeNames::BrushName name) : m_name(name) { }
 
-    const QBrush& value(bool enabled);
+    const QBrush& value(bool enabled)
+    {
+        if (!m_known)
+            freeze();
+        return enabled ? m_enabled : m_disabled;
+    }
 
 private:
+    void freeze();
+
     ThemeNames::BrushName m_name;
     bool m_known = false;
     QBrush m_enabled;

@@ -10,8 +10,8 @@
 namespace BRELK {
 
 using Painter = void (*)(const PaintContext&);
-using RectRule = QRect (*)(const StyleContext&, const QRect& base);
-using PartRule = QRect (*)(const StyleContext&, QStyle::SubControl, const BasePart& base);
+using RectRule = std::optional<QRect> (*)(const StyleContext&, QStyle::SubElement);
+using PartRule = std::optional<QRect> (*)(const StyleContext&, QStyle::SubControl);
 using SizeRule = std::optional<QSize> (*)(const MeasureContext&, const QSize& contents);
 
 template <auto Function>
@@ -33,43 +33,41 @@ struct Adapter<Paint>
     }
 };
 
-template <QRect (*Rule)(const StyleContext&, const QRect&)>
+template <QRect (*Rule)(const StyleContext&, QStyle::SubElement)>
 struct Adapter<Rule>
 {
-    static QRect call(const StyleContext& context, const QRect& base)
+    static std::optional<QRect> call(const StyleContext& context, QStyle::SubElement element)
     {
-        return Rule(context, base);
+        return Rule(context, element);
     }
 };
 
-template <class Option, QRect (*Rule)(const StyleContext&, const Option&, const QRect&)>
+template <class Option, QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubElement)>
 struct Adapter<Rule>
 {
-    static QRect call(const StyleContext& context, const QRect& base)
+    static std::optional<QRect> call(const StyleContext& context, QStyle::SubElement element)
     {
         const auto* option = qstyleoption_cast<const Option*>(&context.option);
-        return option ? Rule(context, *option, base) : base;
+        return option ? std::optional(Rule(context, *option, element)) : std::nullopt;
     }
 };
 
-template <class Option,
-          QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubControl, const BasePart&)>
+template <class Option, QRect (*Rule)(const StyleContext&, const Option&, QStyle::SubControl)>
 struct Adapter<Rule>
 {
     /// Rules place the parts of a control at the origin, where widgets paint; that of a delegate
     /// stands anywhere, and its parts with it.
-    static QRect call(const StyleContext& context, QStyle::SubControl part, const BasePart& base)
+    static std::optional<QRect> call(const StyleContext& context, QStyle::SubControl part)
     {
         const auto* option = qstyleoption_cast<const Option*>(&context.option);
         if (!option)
-            return base.rect();
+            return std::nullopt;
         const QPoint place = option->rect.topLeft();
         if (place.isNull())
-            return Rule(context, *option, part, base);
+            return Rule(context, *option, part);
         Option atOrigin = *option;
         atOrigin.rect.moveTo(0, 0);
-        const StyleContext moved{context.style, atOrigin, context.widget};
-        const QRect rect = Rule(moved, atOrigin, part, base.of(atOrigin));
+        const QRect rect = Rule({context.style, atOrigin, context.widget}, atOrigin, part);
         return rect.isNull() ? rect : rect.translated(place);
     }
 };

@@ -60,7 +60,8 @@ QSize radioButtonSize(const MeasureContext& context, const QStyleOptionButton&,
                         context.metric(QStyle::PM_RadioButtonLabelSpacing));
 }
 
-QRect indicatorRect(const StyleContext& context, const QStyleOptionButton& button, const QRect&)
+QRect indicatorRect(const StyleContext& context, const QStyleOptionButton& button,
+                    QStyle::SubElement)
 {
     const int height = context.metric(QStyle::PM_IndicatorHeight);
     const int width = context.metric(QStyle::PM_IndicatorWidth);
@@ -68,7 +69,8 @@ QRect indicatorRect(const StyleContext& context, const QStyleOptionButton& butto
     return context.visual({button.rect.x(), top, width, height});
 }
 
-QRect contentsRect(const StyleContext& context, const QStyleOptionButton& button, const QRect&)
+QRect contentsRect(const StyleContext& context, const QStyleOptionButton& button,
+                   QStyle::SubElement)
 {
     const QRect& rect = button.rect;
     const QRect indicator = context.visual(

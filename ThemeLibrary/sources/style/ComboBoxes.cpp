@@ -84,11 +84,12 @@ QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& co
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,
-               QStyle::SubControl part, const BasePart& base)
+               QStyle::SubControl part)
 {
     // Deliberate: nothing is mirrored, combo boxes keep their sides in right-to-left layouts.
     const QRect& box = comboBox.rect;
-    QRect rect = context.visual(base.rect()); // the base style has mirrored it
+    const QRect base = context.baseRect(QStyle::CC_ComboBox, comboBox, part);
+    QRect rect = context.visual(base); // the base style has mirrored it
     switch (part) {
     case QStyle::SC_ComboBoxEditField:
         if (comboBox.editable) {
@@ -100,8 +101,8 @@ QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox
     case QStyle::SC_ComboBoxArrow:
         rect.setLeft(box.width() + 4 - arrowExtent(context, box));
         return rect;
-    case QStyle::SC_ComboBoxListBoxPopup: return popupRect(context, base.rect());
-    default: return base.rect();
+    case QStyle::SC_ComboBoxListBoxPopup: return popupRect(context, base);
+    default: return base;
     }
 }
 

@@ -201,17 +201,17 @@ QRect BaseStyle::subElementRect(SubElement element, const QStyleOption* option,
     // Qt asks the tab bar that it takes for granted.
     if (!widget && (element == SE_TabBarScrollLeftButton || element == SE_TabBarScrollRightButton))
         return {};
-    const QRect base = QProxyStyle::subElementRect(element, option, widget);
     const RectRule rule = option ? ruleOf(element) : nullptr;
-    return rule ? rule({*this, *option, widget}, base) : base;
+    const std::optional<QRect> rect = rule ? rule({*this, *option, widget}, element) : std::nullopt;
+    return rect ? *rect : QProxyStyle::subElementRect(element, option, widget);
 }
 
 QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                 SubControl part, const QWidget* widget) const
 {
-    const BasePart base(*this, control, option, part, widget);
     const PartRule rule = option ? ruleOf(control) : nullptr;
-    return rule ? rule({*this, *option, widget}, part, base) : base.rect();
+    const std::optional<QRect> rect = rule ? rule({*this, *option, widget}, part) : std::nullopt;
+    return rect ? *rect : QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,

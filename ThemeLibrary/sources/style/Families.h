@@ -27,7 +27,6 @@ class QStyleOptionViewItem;
 /// its painting. Families meet only through the proxy.
 namespace BRELK {
 
-class BasePart;
 class BaseStyle;
 struct MeasureContext;
 struct PaintContext;
@@ -63,9 +62,9 @@ QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton& butt
 QSize radioButtonSize(const MeasureContext& context, const QStyleOptionButton& button,
                       const QSize& contents);
 QRect indicatorRect(const StyleContext& context, const QStyleOptionButton& button,
-                    const QRect& base);
+                    QStyle::SubElement element);
 QRect contentsRect(const StyleContext& context, const QStyleOptionButton& button,
-                   const QRect& base);
+                   QStyle::SubElement element);
 void paintIndicator(const PaintContext& context);
 void paintRadioIndicator(const PaintContext& context);
 void paintCheckBox(const PaintContext& context, const QStyleOptionButton& button);
@@ -76,7 +75,7 @@ namespace ComboBoxes {
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
                    const QSize& contents);
 QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,
-               QStyle::SubControl part, const BasePart& base);
+               QStyle::SubControl part);
 void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBox);
 void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox);
 } // namespace ComboBoxes
@@ -84,7 +83,8 @@ void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comb
 namespace Frames {
 int frameWidth(const MeasureContext& context);
 int focusMargin(const MeasureContext& context);
-QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base);
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame,
+                   QStyle::SubElement element);
 void paintFocusRect(const PaintContext& context);
 void paintToolTip(const PaintContext& context);
 void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& frame);
@@ -92,7 +92,7 @@ void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& fram
 
 namespace GroupBoxes {
 QRect partRect(const StyleContext& context, const QStyleOptionGroupBox& groupBox,
-               QStyle::SubControl part, const BasePart& base);
+               QStyle::SubControl part);
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
 void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& groupBox);
 } // namespace GroupBoxes
@@ -100,8 +100,8 @@ void paintGroupBox(const PaintContext& context, const QStyleOptionGroupBox& grou
 namespace Headers {
 QSize sectionSize(const MeasureContext& context, const QStyleOptionHeader& header,
                   const QSize& contents);
-QRect labelRect(const StyleContext& context, const QRect& base);
-QRect markRect(const StyleContext& context, const QRect& base);
+QRect labelRect(const StyleContext& context, QStyle::SubElement element);
+QRect markRect(const StyleContext& context, QStyle::SubElement element);
 void paintHeader(const PaintContext& context, const QStyleOptionHeader& header);
 void paintSection(const PaintContext& context);
 void paintEmptyArea(const PaintContext& context);
@@ -112,8 +112,8 @@ namespace ItemViews {
 QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
                const QSize& contents);
 /// Of an item's check box or icon.
-QRect markRect(const StyleContext& context, const QRect& base);
-QRect textRect(const StyleContext& context, const QRect& base);
+QRect markRect(const StyleContext& context, QStyle::SubElement element);
+QRect textRect(const StyleContext& context, QStyle::SubElement element);
 void paintPanel(const PaintContext& context, const QStyleOptionViewItem& item);
 void paintRow(const PaintContext& context, const QStyleOptionViewItem& item);
 void paintBranch(const PaintContext& context);
@@ -126,7 +126,8 @@ namespace LineEdits {
 int iconSize(const MeasureContext& context);
 QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame,
                    const QSize& contents);
-QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base);
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame,
+                   QStyle::SubElement element);
 void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame);
 void paintPanel(const PaintContext& context, const QStyleOptionFrame& frame);
 } // namespace LineEdits
@@ -155,8 +156,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionProgressBar& bar)
 } // namespace ProgressBars
 
 namespace ScrollBars {
-QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
-               const BasePart& base);
+QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part);
 void paintCorner(const PaintContext& context);
 void paintAddLine(const PaintContext& context, const QStyleOptionSlider& bar);
 void paintSubLine(const PaintContext& context, const QStyleOptionSlider& bar);
@@ -169,7 +169,7 @@ int spaceAvailable(const MeasureContext& context);
 QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider,
                  const QSize& contents);
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
-               QStyle::SubControl part, const BasePart& base);
+               QStyle::SubControl part);
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial);
 void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider);
 } // namespace Sliders
@@ -178,7 +178,7 @@ namespace SpinBoxes {
 QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spinBox,
                   const QSize& contents);
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
-               QStyle::SubControl part, const BasePart& base);
+               QStyle::SubControl part);
 void paintDown(const PaintContext& context);
 void paintMinus(const PaintContext& context);
 void paintPlus(const PaintContext& context);
@@ -188,9 +188,10 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
 
 namespace Tabs {
 QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& frame,
-              const QRect& base);
-QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect& base);
-QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect& base);
+              QStyle::SubElement element);
+QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, QStyle::SubElement element);
+QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab,
+                      QStyle::SubElement element);
 void paintFrame(const PaintContext& context);
 void paintBarBase(const PaintContext& context, const QStyleOptionTabBarBase& bar);
 void paintCloseButton(const PaintContext& context);
@@ -201,7 +202,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionTab& tab);
 namespace TitleBars {
 /// Of the buttons of a maximized sub-window.
 QRect controlRect(const StyleContext& context, const QStyleOptionComplex& controls,
-                  QStyle::SubControl part, const BasePart& base);
+                  QStyle::SubControl part);
 void paintWindowFrame(const PaintContext& context);
 void paintDockTitle(const PaintContext& context, const QStyleOptionDockWidget& dock);
 void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& titleBar);

@@ -52,10 +52,11 @@ int focusMargin(const MeasureContext& context)
                                                      : InputMetrics::PopupTextMargin);
 }
 
-QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base)
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame,
+                   QStyle::SubElement element)
 {
     if (!WidgetTraits::isComboBoxPopup(context.widget))
-        return base;
+        return context.baseRect(element);
     const int lines = hasInnerLine(frame) ? 2 : 1;
     return frame.rect.adjusted(lines, lines, -lines, -lines);
 }

@@ -8,7 +8,7 @@
 namespace BRELK::GroupBoxes {
 
 QRect partRect(const StyleContext& context, const QStyleOptionGroupBox& groupBox,
-               QStyle::SubControl part, const BasePart&)
+               QStyle::SubControl part)
 {
     const QRect rect = context.style.QCommonStyle::subControlRect(QStyle::CC_GroupBox, &groupBox,
                                                                   part, context.widget);

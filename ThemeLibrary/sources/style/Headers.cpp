@@ -71,19 +71,20 @@ QSize sectionSize(const MeasureContext& context, const QStyleOptionHeader& heade
     return isBoxedBySheet(context) ? size : size.grownBy(box(context));
 }
 
-QRect labelRect(const StyleContext& context, const QRect&)
+QRect labelRect(const StyleContext& context, QStyle::SubElement)
 {
     const QRect& section = context.option.rect;
     return section.isEmpty() ? section : section.marginsRemoved(box(context.measure()));
 }
 
-QRect markRect(const StyleContext& context, const QRect&)
+QRect markRect(const StyleContext& context, QStyle::SubElement)
 {
     const int size = context.metric(QStyle::PM_HeaderMarkSize);
     const Qt::Alignment end = context.has(QStyle::State_Horizontal)
                                   ? Qt::AlignRight | Qt::AlignVCenter
                                   : Qt::AlignBottom | Qt::AlignHCenter;
-    return QStyle::alignedRect(context.option.direction, end, {size, size}, labelRect(context, {}));
+    return QStyle::alignedRect(context.option.direction, end, {size, size},
+                               labelRect(context, QStyle::SE_HeaderLabel));
 }
 
 namespace {

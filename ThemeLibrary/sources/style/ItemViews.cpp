@@ -58,16 +58,18 @@ QSize itemSize(const MeasureContext& context, const QStyleOptionViewItem& item,
             qMax(base.height(), context.metric(QStyle::PM_HeaderDefaultSectionSizeVertical))};
 }
 
-QRect markRect(const StyleContext& context, const QRect& base)
+QRect markRect(const StyleContext& context, QStyle::SubElement element)
 {
+    const QRect base = context.baseRect(element);
     if (!base.isValid() || !isInListMode(context.widget)
         || !WidgetTraits::isCascadingListPanel(context.widget))
         return base;
     return base.translated(listViewPadding(context.style), 0);
 }
 
-QRect textRect(const StyleContext& context, const QRect& base)
+QRect textRect(const StyleContext& context, QStyle::SubElement element)
 {
+    const QRect base = context.baseRect(element);
     if (!base.isValid() || !isInListMode(context.widget))
         return base;
     if (WidgetTraits::isComboBoxList(context.widget))

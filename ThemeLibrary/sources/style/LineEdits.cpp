@@ -54,9 +54,11 @@ QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame
 }
 
 /// The text of an editor that is a part of another input begins where that of a line edit does.
-QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame, const QRect& base)
+QRect contentsRect(const StyleContext& context, const QStyleOptionFrame& frame,
+                   QStyle::SubElement element)
 {
     using namespace InputMetrics;
+    const QRect base = context.baseRect(element);
     const int padding = context.measure().dpiScaled(TextPadding);
     const int inComboBox = padding - EditorInComboBox;
     const int inSpinBox = padding - EditorInSpinBox;

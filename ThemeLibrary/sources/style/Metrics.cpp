@@ -194,9 +194,9 @@ int BaseStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
                            const QWidget* widget) const
 {
     const unsigned place = placeOf(unsigned(metric));
-    if (place >= Places || ByPlace.at(place).unit == Unit::BaseStyle)
+    if (place >= Places || ByPlace[place].unit == Unit::BaseStyle)
         return QProxyStyle::pixelMetric(metric, option, widget);
-    return valueOf(ByPlace.at(place), {*this, option, widget});
+    return valueOf(ByPlace[place], {*this, option, widget});
 }
 
 } // namespace BRELK

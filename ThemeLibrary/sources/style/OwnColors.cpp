@@ -44,12 +44,16 @@ bool isOfState(const StyleContext& context, QPalette::ColorRole role)
 
 bool has(const StyleContext& context, QPalette::ColorRole role)
 {
-    const QBrush& brush = brushOf(context, role);
+    const QPalette& palette = context.option.palette;
+    const QPalette application = QApplication::palette();
+    const bool isApplications = palette.isCopyOf(application); // as of most: found at once
+    if (isApplications && !isOfAll(application, role))
+        return false;
+    const QPalette::ColorGroup group = palette.currentColorGroup();
+    const QBrush& brush = palette.brush(group, role);
     if (brush.style() == Qt::NoBrush)
         return false;
-    const QPalette application = QApplication::palette();
-    const QPalette::ColorGroup group = context.option.palette.currentColorGroup();
-    if (brush != application.brush(group, role))
+    if (!isApplications && brush != application.brush(group, role))
         return role != QPalette::Base || !isOfViews(brush);
     return isOfAll(application, role) && brush != context.style.getPalette().brush(group, role);
 }

@@ -40,19 +40,19 @@ QRect minimizedSliderRect(const StyleContext& context, const QStyleOptionSlider&
 
 } // namespace
 
-QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part,
-               const BasePart& base)
+QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part)
 {
+    const auto base = [&] { return context.baseRect(QStyle::CC_ScrollBar, bar, part); };
     if (!context.flag(WidgetProperties::Minimized))
-        return base.rect();
+        return base();
     switch (part) {
     case QStyle::SC_ScrollBarAddLine:
     case QStyle::SC_ScrollBarSubLine:
     case QStyle::SC_ScrollBarAddPage:
     case QStyle::SC_ScrollBarSubPage: return {};
     case QStyle::SC_ScrollBarGroove: return bar.rect;
-    case QStyle::SC_ScrollBarSlider: return minimizedSliderRect(context, bar, base.rect());
-    default: return base.rect();
+    case QStyle::SC_ScrollBarSlider: return minimizedSliderRect(context, bar, base());
+    default: return base();
     }
 }
 

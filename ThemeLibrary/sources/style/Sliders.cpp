@@ -81,12 +81,13 @@ QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
-               QStyle::SubControl part, const BasePart& base)
+               QStyle::SubControl part)
 {
+    const auto base = [&] { return context.baseRect(QStyle::CC_Slider, slider, part); };
     switch (part) {
-    case QStyle::SC_SliderHandle: return context.visual(handleRect(context, slider, base.rect()));
+    case QStyle::SC_SliderHandle: return context.visual(handleRect(context, slider, base()));
     case QStyle::SC_SliderGroove: return context.visual(grooveRect(context, slider));
-    default: return context.visual(base.rect());
+    default: return context.visual(base());
     }
 }
 

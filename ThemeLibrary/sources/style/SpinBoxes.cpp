@@ -37,7 +37,7 @@ QSize spinBoxSize(const MeasureContext& context, const QStyleOptionSpinBox& spin
 }
 
 QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
-               QStyle::SubControl part, const BasePart& base)
+               QStyle::SubControl part)
 {
     const QRect& box = spinBox.rect;
     const int buttonLeft = box.width() - ButtonWidth - ButtonMargin;
@@ -54,7 +54,7 @@ QRect partRect(const StyleContext& context, const QStyleOptionSpinBox& spinBox,
         const int width = hasButtons(spinBox) ? buttonLeft - 1 : box.width();
         return context.visual({1, 1, width, box.height() - 2});
     }
-    default: return context.visual(base.rect());
+    default: return context.visual(context.baseRect(QStyle::CC_SpinBox, spinBox, part));
     }
 }
 

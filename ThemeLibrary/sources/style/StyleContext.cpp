@@ -11,6 +11,18 @@ namespace {
 /// Heights of controls and rows are multiples of this.
 constexpr int Rhythm = 4;
 
+/// What the font that the control is drawn in says: copying its metrics takes as long as asking.
+template <class Ask>
+auto askFont(const MeasureContext& context, Ask ask)
+{
+    return context.option ? ask(context.option->fontMetrics) : ask(context.fontMetrics());
+}
+
+int fontHeight(const MeasureContext& context)
+{
+    return askFont(context, [](const QFontMetrics& metrics) { return metrics.height(); });
+}
+
 } // namespace
 
 QFontMetrics MeasureContext::fontMetrics() const
@@ -23,14 +35,15 @@ QFontMetrics MeasureContext::fontMetrics() const
 int MeasureContext::dpiScaled(int pixels) const
 {
     constexpr int ReferenceDpi = 96;
-    if (QApplication::testAttribute(Qt::AA_Use96Dpi))
-        return pixels;
-    return int(pixels * fontMetrics().fontDpi() / ReferenceDpi);
+    const qreal dpi = askFont(*this, [](const QFontMetrics& metrics) { return metrics.fontDpi(); });
+    return dpi == ReferenceDpi || QApplication::testAttribute(Qt::AA_Use96Dpi)
+               ? pixels
+               : int(pixels * dpi / ReferenceDpi);
 }
 
 int MeasureContext::rowHeight(int padding) const
 {
-    const int height = fontMetrics().height() + 2 * dpiScaled(padding);
+    const int height = fontHeight(*this) + 2 * dpiScaled(padding);
     return (height + Rhythm - 1) / Rhythm * Rhythm;
 }
 
@@ -38,7 +51,7 @@ int MeasureContext::indicatorSize() const
 {
     constexpr int SmallestSize = 16;
     constexpr int LessThanText = 3;
-    return qMax(dpiScaled(SmallestSize), (fontMetrics().height() - LessThanText) / Rhythm * Rhythm);
+    return qMax(dpiScaled(SmallestSize), (fontHeight(*this) - LessThanText) / Rhythm * Rhythm);
 }
 
 int MeasureContext::controlHeight() const

@@ -101,6 +101,18 @@ struct StyleContext
         return proxy().subControlRect(control, &complex, part, widget);
     }
 
+    /// What the base style would answer: finding it takes longer than most rules do.
+    QRect baseRect(QStyle::SubElement element) const
+    {
+        return style.QProxyStyle::subElementRect(element, &option, widget);
+    }
+
+    QRect baseRect(QStyle::ComplexControl control, const QStyleOptionComplex& complex,
+                   QStyle::SubControl part) const
+    {
+        return style.QProxyStyle::subControlRect(control, &complex, part, widget);
+    }
+
     /// `rect` mirrored in a right-to-left layout.
     QRect visual(const QRect& rect) const
     {
@@ -118,35 +130,6 @@ Option optionFrom(const QStyleOption& source)
     option.QStyleOption::operator=(source);
     return option;
 }
-
-/// The base style's rectangle of a part, for the rules that start from it: finding it takes longer
-/// than most rules do.
-class BasePart
-{
-public:
-    BasePart(const BaseStyle& style, QStyle::ComplexControl control,
-             const QStyleOptionComplex* option, QStyle::SubControl part, const QWidget* widget)
-        : m_style(style), m_control(control), m_option(option), m_part(part), m_widget(widget)
-    { }
-
-    /// The same part of another option.
-    BasePart of(const QStyleOptionComplex& option) const
-    {
-        return {m_style, m_control, &option, m_part, m_widget};
-    }
-
-    QRect rect() const
-    {
-        return m_style.QProxyStyle::subControlRect(m_control, m_option, m_part, m_widget);
-    }
-
-private:
-    const BaseStyle& m_style;
-    QStyle::ComplexControl m_control;
-    const QStyleOptionComplex* m_option;
-    QStyle::SubControl m_part;
-    const QWidget* m_widget;
-};
 
 /// What a painting function needs. Whatever it draws by an element, it asks of the proxy.
 struct PaintContext : StyleContext

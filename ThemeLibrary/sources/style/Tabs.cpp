@@ -50,8 +50,9 @@ bool isCurrentTabHighlighted(const StyleContext& context)
 } // namespace
 
 QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& frame,
-              const QRect& base)
+              QStyle::SubElement element)
 {
+    const QRect base = context.baseRect(element);
     if (!context.flag(WidgetProperties::Stretched))
         return base;
     const Side side = sideOf(frame.shape);
@@ -65,10 +66,9 @@ QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& fra
     return rect;
 }
 
-QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect&)
+QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, QStyle::SubElement element)
 {
-    const QRect rect =
-        context.style.QCommonStyle::subElementRect(QStyle::SE_TabBarTabText, &tab, context.widget);
+    const QRect rect = context.style.QCommonStyle::subElementRect(element, &tab, context.widget);
     if (!context.widget || isCurrentTabHighlighted(context)
         || context.style.getTabBackgroundState(tab) != BaseStyle::TabBackground_Selected)
         return rect;
@@ -79,9 +79,10 @@ QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, const QR
     }
 }
 
-QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab, const QRect& base)
+QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab,
+                      QStyle::SubElement element)
 {
-    QRect rect = base;
+    QRect rect = context.baseRect(element);
     switch (tab.shape) {
     case QTabBar::RoundedNorth:
     case QTabBar::RoundedSouth:

@@ -11,10 +11,10 @@
 
 namespace BRELK::TitleBars {
 
-QRect controlRect(const StyleContext&, const QStyleOptionComplex&, QStyle::SubControl,
-                  const BasePart& base)
+QRect controlRect(const StyleContext& context, const QStyleOptionComplex& controls,
+                  QStyle::SubControl part)
 {
-    return base.rect();
+    return context.baseRect(QStyle::CC_MdiControls, controls, part);
 }
 
 namespace {
