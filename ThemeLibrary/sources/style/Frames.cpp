@@ -93,20 +93,26 @@ void paintLine(const PaintContext& context, const QStyleOptionFrame& frame)
     context.painter.fillRect(line, context.borderBrush());
 }
 
+/// As much of the lines as the frame has room for.
+int fittingWidth(const QStyleOptionFrame& frame, int width)
+{
+    return qBound(0, width, (qMin(frame.rect.width(), frame.rect.height()) + 1) / 2);
+}
+
 void paintBox(const PaintContext& context, const QStyleOptionFrame& frame)
 {
+    const int width = fittingWidth(frame, frame.lineWidth);
     if (isPlain(frame)) {
-        qDrawPlainRect(&context.painter, frame.rect, context.borderBrush().color(),
-                       frame.lineWidth);
+        qDrawPlainRect(&context.painter, frame.rect, context.borderBrush().color(), width);
         return;
     }
     const QPalette palette = context.style.generateShadeBorderPalette(frame.palette);
     const bool sunken = BaseStyle::isPressed(frame);
     if (frame.frameShape == QFrame::Box)
-        qDrawShadeRect(&context.painter, frame.rect, palette, sunken, frame.lineWidth,
-                       frame.midLineWidth);
+        qDrawShadeRect(&context.painter, frame.rect, palette, sunken, width,
+                       fittingWidth(frame, frame.midLineWidth));
     else
-        qDrawShadePanel(&context.painter, frame.rect, palette, sunken, frame.lineWidth);
+        qDrawShadePanel(&context.painter, frame.rect, palette, sunken, width);
 }
 
 } // namespace
@@ -143,6 +149,8 @@ void paintToolTip(const PaintContext& context)
 
 void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& frame)
 {
+    if (frame.rect.isEmpty())
+        return;
     if (WidgetTraits::isComboBoxPopup(context.widget)) {
         paintPopupFrame(context, frame);
         return;
