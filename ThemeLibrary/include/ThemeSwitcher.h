@@ -28,7 +28,8 @@ public:
 
     /// Applies `theme`, which must outlive the application. Returns false, and leaves everything as
     /// it is, when there is no application object, the theme cannot be read, or another switch is
-    /// going on.
+    /// going on. The theme that is applied already is read and applied anew, at the same cost, so
+    /// that its author sees what has changed.
     ///
     /// For the GUI thread, at any time but inside painting or a function of the style. Each widget
     /// is polished once, and nothing is painted before control returns to the event loop.
