@@ -6,6 +6,9 @@
 #include <QtTest>
 #include <QtWidgets>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 using namespace BRELK;
 
 /// The settings portal of a desktop.
@@ -58,6 +61,13 @@ protected:
     }
 };
 
+/// Ends with the test, however that ends.
+class Daemon : public QProcess
+{
+protected:
+    void setupChildProcess() override { ::prctl(PR_SET_PDEATHSIG, SIGKILL); }
+};
+
 /// Themes by the preference of a desktop, on a bus of its own.
 class tst_DesktopScheme : public QObject
 {
@@ -68,7 +78,7 @@ private:
 
     inline static const QString BusName = QStringLiteral("desktop");
 
-    QProcess m_daemon;
+    Daemon m_daemon;
     std::unique_ptr<Portal> m_portal;
     QStringList m_themes; ///< as they were switched to
 

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "StyleOptions.h"
+
+#include <QPainter>
+#include <QRandomGenerator>
+
+#include <functional>
+
+/// Calls of a style as no widget of the toolkit makes them, drawn by lot: the same ones from the
+/// same seed.
+class OddCases
+{
+public:
+    /// Without `far`, rectangles and sizes stay such as Qt's own painting can bear.
+    OddCases(quint32 seed, bool far) : m_random(seed), m_far(far) { }
+
+    /// Changes one or a few things of `sample`, whose element is called `name`. What was in it
+    /// before has to live as long as it does.
+    void spoil(const QByteArray& name, StyleOptions::Sample& sample);
+
+    /// Lets `paint` paint on a device of any kind, transformed and clipped in any way.
+    void paintAnywhere(const std::function<void(QPainter&)>& paint);
+
+private:
+    template <class Number>
+    Number oneOf(std::initializer_list<Number> numbers)
+    {
+        return numbers.begin()[m_random.bounded(int(numbers.size()))];
+    }
+
+    bool rarely() { return m_random.bounded(4) == 0; }
+
+    int number();
+    QRect rect();
+    QString text();
+    QIcon icon();
+    QBrush brush();
+    QPalette palette();
+    QVariant variant();
+
+    void set(int& field) { field = number(); }
+
+    void set(bool& field) { field = rarely(); }
+
+    void set(QRect& field) { field = rect(); }
+
+    void set(QSize& field) { field = rect().size(); }
+
+    void set(QString& field) { field = text(); }
+
+    void set(QIcon& field) { field = icon(); }
+
+    void set(QBrush& field) { field = brush(); }
+
+    template <class Flag>
+    void set(QFlags<Flag>& field)
+    {
+        field = QFlags<Flag>(QFlag(int(m_random.generate())));
+    }
+
+    template <class Option, class... Fields>
+    void setFields(QStyleOption& option, Fields Option::*... fields);
+    template <class Option, class Enum>
+    void setEnum(QStyleOption& option, Enum Option::*field, int count);
+
+    void spoilFields(QStyleOption& option);
+    void spoilWidget(StyleOptions::Sample& sample);
+    void spoilType(const QByteArray& name, StyleOptions::Sample& sample);
+    void setUp(QPainter& painter);
+
+    QRandomGenerator m_random;
+    bool m_far;
+};
