@@ -1,8 +1,12 @@
 #include "ProgramLooks.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QIcon>
 #include <QToolTip>
+
+#include <algorithm>
 
 namespace BRELK {
 
@@ -19,11 +23,30 @@ QString chosenIconTheme()
     return name;
 }
 
+bool isInstalled(const QString& iconTheme)
+{
+    const QStringList paths = QIcon::themeSearchPaths();
+    return std::any_of(paths.begin(), paths.end(), [&iconTheme](const QString& path) {
+        return QFileInfo::exists(QDir(path).filePath(iconTheme + QLatin1String("/index.theme")));
+    });
+}
+
 } // namespace
 
 ProgramLooks ProgramLooks::current()
 {
-    return {QApplication::font(), QToolTip::palette(), chosenIconTheme()};
+    return {QApplication::font(), QToolTip::palette(), chosenIconTheme(),
+            QIcon::fallbackThemeName()};
+}
+
+void ProgramLooks::matchIcons(const QPalette& palette)
+{
+    const QString fallback = QIcon::fallbackThemeName();
+    const QString dark = fallback + QLatin1String("-dark");
+    const bool isDark = palette.color(QPalette::Window).lightness()
+                        < palette.color(QPalette::WindowText).lightness();
+    if (!fallback.isEmpty() && isDark && isInstalled(dark))
+        QIcon::setFallbackThemeName(dark);
 }
 
 void ProgramLooks::replace(const ProgramLooks& others) const
@@ -35,6 +58,8 @@ void ProgramLooks::replace(const ProgramLooks& others) const
         QToolTip::setPalette(toolTips);
     if (now.iconTheme == others.iconTheme)
         QIcon::setThemeName(iconTheme);
+    if (now.fallbackIconTheme == others.fallbackIconTheme)
+        QIcon::setFallbackThemeName(fallbackIconTheme);
 }
 
 } // namespace BRELK

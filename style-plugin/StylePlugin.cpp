@@ -84,8 +84,9 @@ private:
         app().setProperty(CustomActionIcons, true);
         if (!m_before.iconTheme.isEmpty())
             QIcon::setThemeName(m_before.iconTheme);
-        m_themed = ProgramLooks::current();
         m_palette = style->standardPalette();
+        ProgramLooks::matchIcons(m_palette);
+        m_themed = ProgramLooks::current();
         m_worn = m_palette;
         judgePalette();
         app().installEventFilter(this);

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDir>
 #include <QIcon>
 #include <QLabel>
 #include <QListView>
@@ -8,6 +9,7 @@
 #include <QStringBuilder>
 #include <QStyle>
 #include <QStyleFactory>
+#include <QTemporaryDir>
 #include <QToolTip>
 
 #include <cstdio>
@@ -36,7 +38,7 @@ void printLooks(const char* moment)
     print("window", kindOf(QApplication::palette().color(QPalette::Window)));
     print("tool tip", kindOf(QToolTip::palette().color(QPalette::ToolTipBase)));
     print("font", QString::number(QApplication::font().pointSizeF()));
-    print("icon theme", QIcon::themeName());
+    print("icon theme", QIcon::themeName() % QLatin1String(" or ") % QIcon::fallbackThemeName());
     print("sheet", qApp->styleSheet());
     const QSettings scheme(qApp->property("KDE_COLOR_SCHEME_PATH").toString(),
                            QSettings::IniFormat);
@@ -71,6 +73,11 @@ int main(int argc, char** argv)
                                                                   : QStringLiteral("none"));
     if (qEnvironmentVariableIsSet("PLAIN_PALETTE"))
         QApplication::setPalette(QPalette(QColor(qEnvironmentVariable("PLAIN_PALETTE"))));
+    const QTemporaryDir icons;
+    QDir(icons.path()).mkdir(QStringLiteral("Some-dark"));
+    QFile(icons.filePath(QStringLiteral("Some-dark/index.theme"))).open(QIODevice::WriteOnly);
+    QIcon::setThemeSearchPaths({icons.path()});
+    QIcon::setFallbackThemeName(QStringLiteral("Some"));
     QIcon::setThemeName(qEnvironmentVariable("PLAIN_ICONS"));
     const QApplication app(argc, argv);
     if (qEnvironmentVariableIsSet("PLAIN_SHEET"))

@@ -8,6 +8,7 @@
 #include <QAbstractScrollArea>
 #include <QLineEdit>
 #include <QToolTip>
+#include <QWidget>
 #include <qdrawutil.h>
 
 // Focus marks, tool tips and the frames of QFrame.
@@ -78,6 +79,14 @@ bool isPlain(const QStyleOptionFrame& frame)
     const bool isFlat =
         frame.palette.color(QPalette::Light) == frame.palette.color(QPalette::Window);
     return isFlat || !(frame.state & (QStyle::State_Sunken | QStyle::State_Raised));
+}
+
+/// A program that wants no line moves it out of the widget, where round corners would stay seen.
+bool isOutside(const PaintContext& context)
+{
+    return context.widget
+           && context.option.rect.adjusted(FrameWidth, FrameWidth, -FrameWidth, -FrameWidth)
+                  .contains(context.widget->rect());
 }
 
 /// A line across the middle of the frame; sunken and raised ones are as plain as the rest.
@@ -156,7 +165,10 @@ void paintShapedFrame(const PaintContext& context, const QStyleOptionFrame& fram
         return;
     }
     switch (frame.frameShape) {
-    case QFrame::StyledPanel: context.draw(QStyle::PE_Frame, frame); break;
+    case QFrame::StyledPanel:
+        if (!isOutside(context))
+            context.draw(QStyle::PE_Frame, frame);
+        break;
     case QFrame::HLine:
     case QFrame::VLine: paintLine(context, frame); break;
     case QFrame::Box:
