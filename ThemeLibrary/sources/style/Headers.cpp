@@ -24,6 +24,7 @@ namespace {
 
 constexpr int Spacing = 4; ///< between icon, text and sort mark
 constexpr int Line = 1; ///< at the right and lower edge of a section
+constexpr int Leading = 1; ///< above and below the text
 
 /// Whether a style sheet lays sections out: it then finds a place for the label even in an empty
 /// one, where this style finds none.
@@ -36,10 +37,11 @@ bool isBoxedBySheet(const MeasureContext& context)
            != empty.rect;
 }
 
-/// What surrounds the contents of a section: as much as the letter x is high, and the lines.
-QMargins box(const MeasureContext& context)
+/// What surrounds the contents of a section: as much as the letter x is high, and the lines. A
+/// style sheet takes that letter from the application's font, whatever the header's is.
+QMargins box()
 {
-    const int padding = context.fontMetrics().xHeight();
+    const int padding = QApplication::fontMetrics().xHeight();
     return {padding, padding, padding + Line, padding + Line};
 }
 
@@ -63,18 +65,19 @@ QSize sectionSize(const MeasureContext& context, const QStyleOptionHeader& heade
     const int icon = iconExtent({context.style, header, context.widget}, header);
     const int gap = icon > 0 && !header.text.isEmpty() ? context.dpiScaled(Spacing) : 0;
     const QSize text = header.fontMetrics.size(0, header.text);
-    QSize size(icon + gap + text.width(), qMax(icon, text.height()));
+    QSize size(icon + gap + text.width(),
+               qMax(icon, text.height() + 2 * context.dpiScaled(Leading)));
     if (header.orientation == Qt::Horizontal)
         size.rwidth() += markRoom(context, header);
     else
         size.rheight() += markRoom(context, header);
-    return isBoxedBySheet(context) ? size : size.grownBy(box(context));
+    return isBoxedBySheet(context) ? size : size.grownBy(box());
 }
 
 QRect labelRect(const StyleContext& context, QStyle::SubElement)
 {
     const QRect& section = context.option.rect;
-    return section.isEmpty() ? section : section.marginsRemoved(box(context.measure()));
+    return section.isEmpty() ? section : section.marginsRemoved(box());
 }
 
 QRect markRect(const StyleContext& context, QStyle::SubElement)
