@@ -47,6 +47,12 @@ bool isCurrentTabHighlighted(const StyleContext& context)
            || WidgetProperties::flag(qApp, WidgetProperties::AppCurrentTabHighlighted);
 }
 
+bool hasWiderText(const StyleContext& context, const QStyleOptionTab& tab)
+{
+    return context.widget && !isCurrentTabHighlighted(context)
+           && context.style.getTabBackgroundState(tab) == BaseStyle::TabBackground_Selected;
+}
+
 } // namespace
 
 QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& frame,
@@ -69,8 +75,7 @@ QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& fra
 QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, QStyle::SubElement element)
 {
     const QRect rect = context.style.QCommonStyle::subElementRect(element, &tab, context.widget);
-    if (!context.widget || isCurrentTabHighlighted(context)
-        || context.style.getTabBackgroundState(tab) != BaseStyle::TabBackground_Selected)
+    if (!hasWiderText(context, tab))
         return rect;
     switch (sideOf(tab.shape)) {
     case Side::West: return rect.adjusted(0, -SelectedTextGain, 0, 0);
@@ -380,6 +385,14 @@ void paintIcon(const PaintContext& context, const QStyleOptionTab& tab, const QB
     Shapes::drawIcon(context, tab.icon, brush, rect, size, state);
 }
 
+/// Deliberate: where the text gains room on one side in both directions, it stands mirrored.
+QRect labelRect(const PaintContext& context, const QStyleOptionTab& tab)
+{
+    const QRect rect = context.part(QStyle::SE_TabBarTabText);
+    const bool isMirrored = context.rightToLeft() && !isUpright(sideOf(tab.shape));
+    return isMirrored && hasWiderText(context, tab) ? rect.translated(-SelectedTextGain, 0) : rect;
+}
+
 /// `rect` without what lies, along the tab, from `button` to the tab's end.
 QRect beside(QRect rect, const QRect& button, bool upright)
 {
@@ -440,8 +453,8 @@ void paintLabel(const PaintContext& context, const QStyleOptionTab& tab)
             turn(context.painter, tab.rect, side);
         if (!tab.icon.isNull())
             paintIcon(context, tab, foreground);
-        Shapes::drawText(context, context.part(QStyle::SE_TabBarTabText),
-                         Qt::AlignCenter | Qt::TextShowMnemonic, tab.text, foreground);
+        Shapes::drawText(context, labelRect(context, tab), Qt::AlignCenter | Qt::TextShowMnemonic,
+                         tab.text, foreground);
     }
     if (context.has(QStyle::State_HasFocus))
         paintFocus(context, tab);
