@@ -183,8 +183,13 @@ void drawTextIn(const PaintContext& context, const QRect& clip, const QRect& rec
         return;
     const PainterSaver saver(context.painter);
     context.painter.setClipRect(clip, Qt::IntersectClip);
-    QBrush brush = context.option.palette.brush(role);
-    if (OwnColors::has(context, role)) { // which need not be made for this ground
+    // The filled part is as bright in windows in the back, and a tint where nothing is enabled.
+    QBrush brush = context.option.palette.brush(
+        context.enabled() ? QPalette::Active : QPalette::Disabled, role);
+    if (!OwnColors::has(context, role)) {
+        if (!context.enabled())
+            brush = context.brush(ThemeNames::ForegroundBrush);
+    } else { // which need not be made for this ground
         const QBrush ground = role == QPalette::Text
                                   ? context.style.grooveBackgroundBrush(context.enabled())
                                   : fillBrush(context);
