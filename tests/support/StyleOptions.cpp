@@ -21,17 +21,17 @@ void apply(const Settings& settings, const QByteArray& prefix, QObject& object)
             object.setProperty(name, setting.value());
 }
 
-/// Colors that the application sets, before the style sees the widget.
-void applyColors(const Settings& settings, QWidget& widget)
+/// Colors that the application sets: of the widget, before the style sees it, or, as a style sheet
+/// does for a state, of the option alone.
+QPalette withColors(QPalette palette, const Settings& settings, const QByteArray& prefix)
 {
     const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
-    QPalette palette = widget.palette();
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting)
-        if (setting.key().startsWith("palette."))
-            palette.setColor(QPalette::ColorRole(roles.keyToValue(setting.key().mid(8))),
-                             setting.value().toString());
-    if (palette != widget.palette())
-        widget.setPalette(palette);
+        if (setting.key().startsWith(prefix))
+            palette.setColor(
+                QPalette::ColorRole(roles.keyToValue(setting.key().mid(prefix.size()))),
+                setting.value().toString());
+    return palette;
 }
 
 QIcon probeIcon()
@@ -67,7 +67,9 @@ void fill(QWidget& widget, const Settings& settings)
         if (widget.metaObject()->indexOfProperty(name) >= 0)
             widget.setProperty(name, value);
     apply(settings, {}, widget);
-    applyColors(settings, widget);
+    if (const QPalette own = withColors(widget.palette(), settings, "palette.");
+        own != widget.palette())
+        widget.setPalette(own);
     const bool upright = widget.property("orientation").toInt() == Qt::Vertical;
     widget.ensurePolished();
     apply(settings, {}, widget); // again, as polishing sets some
@@ -398,6 +400,7 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings, const St
             sample.option->state.setFlag(QStyle::StateFlag(states.keyToValue(key)),
                                          setting.value().toBool());
     }
+    sample.option->palette = withColors(sample.option->palette, settings, "option.palette.");
     const auto ofParent = settings.lowerBound("parent.");
     if (ofParent != settings.cend() && ofParent.key().startsWith("parent.")) {
         sample.parent = std::make_shared<BRELK::Components::ButtonGroupWidget>();
