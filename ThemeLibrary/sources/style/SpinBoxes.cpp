@@ -63,15 +63,25 @@ namespace {
 constexpr int BarLength = 6;
 constexpr int BarThickness = 2;
 
+/// By how much arrows and signs of large texts reach, on both sides, into the margins that those of
+/// other texts leave in their buttons.
+int growth(const PaintContext& context)
+{
+    constexpr int UsualIndicator = 16;
+    constexpr int Largest = 2;
+    return qBound(0, (context.measure().indicatorSize() - UsualIndicator) / 2, Largest);
+}
+
 QRect centredBar(const QRect& rect, int width, int height)
 {
     return {rect.x() + (rect.width() - width) / 2, rect.y() + (rect.height() - height) / 2, width,
             height};
 }
 
-int barLength(const QRect& rect)
+int barLength(const PaintContext& context)
 {
-    return qMin(BarLength, qMin(rect.width(), rect.height()) - 2);
+    const QRect& rect = context.option.rect;
+    return qMin(BarLength + 2 * growth(context), qMin(rect.width(), rect.height()) - 2);
 }
 
 /// One of the two buttons: what tells the upper from the lower.
@@ -174,10 +184,15 @@ void paintStepButtons(const PaintContext& context, const QStyleOptionSpinBox& sp
 /// The base style draws the arrows, as polygons.
 void paintArrow(const PaintContext& context, QStyle::PrimitiveElement arrow, Pictures::Kind kind)
 {
-    Pictures::draw(context.painter, kind, context.option.rect,
-                   context.option.palette.brush(QPalette::ButtonText), [&](QPainter& onto) {
-                       PaintContext{context, onto}.drawByBase(arrow);
-                   });
+    const int wider = growth(context);
+    const QRect rect = context.option.rect.adjusted(-wider, 0, wider, 0);
+    Pictures::draw(
+        context.painter, kind, rect, context.option.palette.brush(QPalette::ButtonText),
+        [&](QPainter& onto) {
+            QStyleOption option = context.option;
+            option.rect = rect;
+            PaintContext{{context.style, option, context.widget}, onto}.drawByBase(arrow);
+        });
 }
 
 /// In the usual corner, or in the one that the buttons leave free.
@@ -214,15 +229,15 @@ void paintMinus(const PaintContext& context)
 {
     const QRect& rect = context.option.rect;
     const QBrush brush = context.option.palette.brush(QPalette::ButtonText);
-    context.painter.fillRect(centredBar(rect, barLength(rect), BarThickness), brush);
+    context.painter.fillRect(centredBar(rect, barLength(context), BarThickness), brush);
 }
 
 void paintPlus(const PaintContext& context)
 {
     const QRect& rect = context.option.rect;
     const QBrush brush = context.option.palette.brush(QPalette::ButtonText);
-    const QRect horizontal = centredBar(rect, barLength(rect), BarThickness);
-    const QRect vertical = centredBar(rect, BarThickness, barLength(rect));
+    const QRect horizontal = centredBar(rect, barLength(context), BarThickness);
+    const QRect vertical = centredBar(rect, BarThickness, barLength(context));
     context.painter.fillRect(horizontal, brush);
     // Above and below the horizontal bar, so that a translucent brush does not show the crossing.
     context.painter.fillRect(
