@@ -168,6 +168,10 @@ private Q_SLOTS:
             return ColorArithmetic::toOklab(theme.getColor(QLatin1String(name))).lightness;
         };
         QVERIFY(std::abs(lightness("StatusSuccessColor") - lightness("StatusDangerColor")) > 0.08);
+        const QColor field =
+            theme.getColor(QStringLiteral("InputUncheckedBackgroundBrushDisabled"));
+        const QColor placeholder = theme.getColor(QStringLiteral("Disabled.PlaceholderText"));
+        QVERIFY(ColorArithmetic::contrast(placeholder, field) > 2);
     }
 
     /// Whatever background, foreground and accent a theme chooses, the rest follows.

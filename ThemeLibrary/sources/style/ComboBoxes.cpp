@@ -142,7 +142,8 @@ void paintQuietBackground(const PaintContext& context, const QStyleOptionComboBo
 QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
     if (showsPlaceholder(context.widget))
-        return comboBox.palette.brush(QPalette::PlaceholderText);
+        return context.enabled() ? comboBox.palette.brush(QPalette::PlaceholderText)
+                                 : context.brush(ThemeNames::ForegroundDisabledBrush);
     const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&comboBox, context.widget);
     const QBrush themed =
         comboBox.frame ? brushes.foregroundBrush : context.brush(ThemeNames::ForegroundBrush);
