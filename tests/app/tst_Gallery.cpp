@@ -52,6 +52,9 @@ private:
 
 private Q_SLOTS:
 
+    /// What file dialogs remember is not shared with tests that run at the same time.
+    void initTestCase() { qputenv("XDG_CONFIG_HOME", QFile::encodeName(m_directory.path())); }
+
     void rendersEveryPageAndTheme()
     {
         run(QStringLiteral("--list-pages"));
