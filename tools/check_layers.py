@@ -20,14 +20,14 @@ LAYERS = (
     (6, "theme application", [LIBRARY + name for name in ("AppliedThemes.*", "BaseTheme.*", "Desktop*", "HeldPaints.*",
                                                             "ThemeFactory.*", "ThemeQApplication.*",
                                                             "ThemeSwitcher.*")]),
-    (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h"] + [STYLE + name for name in (
+    (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h", LIBRARY + "ComboBoxDefaultItemDelegate.*"]
+        + [STYLE + name for name in (
         "ArrowIcons.*", "Foregrounds.*", "InputMetrics.*", "Opacities.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
         "WidgetProperties.*", "WidgetTraits.*")]),
-    (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*", "StyleHints.*")]),
-    (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ComboBoxDefaultItemDelegate.*",
-                                                     "ProxyStyle_p.*")]
+    (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*")]),
+    (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ProxyStyle_p.*")]
         + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "HandOuts.*", "Metrics.*", "Polishing.*",
-                                "Revocable.*")]),
+                                "Revocable.*", "StyleHints.*")]),
     (4, FAMILIES, [STYLE + "*"]),
     (1, "theme data", [LIBRARY + "*"]),
     (7, "programs and tests", ["*"]),

@@ -11,7 +11,7 @@ QVariantMap fillQVariantMap(const QMap<QString, T>& source)
 {
     QVariantMap map;
     for (auto entry = source.begin(); entry != source.end(); ++entry)
-        map.insert(entry.key(), QVariant::fromValue(entry.value()));
+        map.insert(map.constEnd(), entry.key(), QVariant::fromValue(entry.value()));
     return map;
 }
 

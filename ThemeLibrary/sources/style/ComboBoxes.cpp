@@ -1,4 +1,5 @@
 #include "ArrowIcons.h"
+#include "ComboBoxDefaultItemDelegate.h"
 #include "Families.h"
 #include "Foregrounds.h"
 #include "InputMetrics.h"
@@ -6,10 +7,13 @@
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
+#include "WidgetTraits.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QScrollBar>
+
+#include <algorithm>
 
 // Combo boxes and calendar-popup date editors.
 
@@ -51,6 +55,13 @@ int longestItem(const QComboBox& comboBox, const QAbstractItemView& view)
     return width;
 }
 
+/// Whether the list of the popup was made already, which the toolkit does when it is asked for.
+bool hasList(const QComboBox& comboBox)
+{
+    const QObjectList& children = comboBox.children();
+    return std::any_of(children.begin(), children.end(), WidgetTraits::isComboBoxPopup);
+}
+
 /// As wide as the longest item at least; the combo box keeps it on the screen.
 QRect popupRect(const StyleContext& context, const QRect& box)
 {
@@ -71,6 +82,16 @@ QRect popupRect(const StyleContext& context, const QRect& box)
 }
 
 } // namespace
+
+void replaceDelegate(QComboBox& comboBox)
+{
+    // The combo box owns the delegate: owned by the style it would leak with every combo box that
+    // goes, and be missed by every one that outlives the style.
+    if (!hasList(comboBox) || !WidgetTraits::isDefaultComboBoxDelegate(comboBox.itemDelegate()))
+        return;
+    comboBox.setItemDelegate(new ComboBoxDefaultItemDelegate(&comboBox, &comboBox));
+    comboBox.view()->parentWidget()->ensurePolished();
+}
 
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
                    const QSize& contents)

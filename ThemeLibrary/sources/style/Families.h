@@ -2,6 +2,7 @@
 
 #include <QStyle>
 
+class QComboBox;
 class QStyleOptionButton;
 class QStyleOptionComboBox;
 class QStyleOptionComplex;
@@ -72,6 +73,9 @@ void paintLabel(const PaintContext& context, const QStyleOptionButton& button);
 } // namespace CheckBoxes
 
 namespace ComboBoxes {
+/// Gives the list of a combo box, when it is made, the library's delegate in the place of the
+/// toolkit's.
+void replaceDelegate(QComboBox& comboBox);
 QSize comboBoxSize(const MeasureContext& context, const QStyleOptionComboBox& comboBox,
                    const QSize& contents);
 QRect partRect(const StyleContext& context, const QStyleOptionComboBox& comboBox,

@@ -1,5 +1,4 @@
 #include "BaseStyle.h"
-#include "ComboBoxDefaultItemDelegate.h"
 #include "Families.h"
 #include "HandOuts.h"
 #include "OwnColors.h"
@@ -11,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QComboBox>
 #include <QCommandLinkButton>
 #include <QDockWidget>
 #include <QLCDNumber>
@@ -19,6 +19,7 @@
 #include <QPixmap>
 #include <QProgressBar>
 #include <QScrollArea>
+#include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -211,11 +212,7 @@ void dressComboBoxList(BaseStyle&, QWidget& widget)
 
 void replaceDelegate(BaseStyle&, QWidget& widget)
 {
-    auto& comboBox = as<QComboBox>(widget);
-    // The combo box owns the delegate: owned by the style it would leak with every combo box that
-    // goes, and be missed by every one that outlives the style.
-    if (WidgetTraits::isDefaultComboBoxDelegate(comboBox.itemDelegate()))
-        comboBox.setItemDelegate(new ComboBoxDefaultItemDelegate(&comboBox, &comboBox));
+    ComboBoxes::replaceDelegate(as<QComboBox>(widget));
 }
 
 bool isCard(const QWidget* widget)
@@ -329,13 +326,22 @@ constexpr UnpolishRule UnpolishRules[] = {
     {WidgetTraits::isStatusBar, Revocable::lowerStatusBar},
 };
 
+/// The base style has these painted again whenever the mouse comes or goes.
+bool looksTheSameUnderMouse(const QWidget* widget)
+{
+    return is<QProgressBar>(widget) || is<QSplitterHandle>(widget);
+}
+
 } // namespace
 
 void BaseStyle::polish(QWidget* widget)
 {
     if (!widget)
         return;
+    const bool hovers = widget->testAttribute(Qt::WA_Hover);
     QProxyStyle::polish(widget);
+    if (!hovers && looksTheSameUnderMouse(widget))
+        widget->setAttribute(Qt::WA_Hover, false);
     for (const PolishRule& rule : Rules) {
         if (rule.applies(widget))
             rule.action(*this, *widget);

@@ -1,5 +1,7 @@
 #include "BaseStyle.h"
+#include "Families.h"
 
+#include <QComboBox>
 #include <QFrame>
 
 namespace BRELK {
@@ -8,6 +10,13 @@ int BaseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
                          QStyleHintReturn* returnData) const
 {
     switch (hint) {
+    case SH_ComboBox_LayoutDirection:
+        // Deliberate: the toolkit asks for this when it has made the list of a box, and nothing
+        // else tells of that. To make each list early takes as long as half of all polishing.
+        if (const auto* comboBox = qobject_cast<const QComboBox*>(widget);
+            comboBox && comboBox->testAttribute(Qt::WA_WState_Polished))
+            ComboBoxes::replaceDelegate(const_cast<QComboBox&>(*comboBox));
+        break;
     case SH_ComboBox_Popup: return false; // a list below the box, painted by its delegate
     case SH_ComboBox_PopupFrameStyle: return int(QFrame::StyledPanel) | int(QFrame::Plain);
     case SH_DialogButtonBox_ButtonsHaveIcons:
