@@ -17,7 +17,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFontDatabase>
-#include <QImageReader>
 #include <QResource>
 #include <QStyle>
 #include <QToolTip>
@@ -124,7 +123,13 @@ void useIcons(const QString& root, const QString& themeName)
 {
     addIconThemePath(root);
     QIcon::setThemeName(themeName);
-    if (!QImageReader::supportedImageFormats().contains(QByteArrayLiteral("svg")))
+}
+
+/// Asks for a mark of the style, which does not draw it; which formats there are takes longer, as
+/// the toolkit then loads all plugins for pictures.
+void checkIconEngine(const QString& themeName)
+{
+    if (!themeName.isEmpty() && QIcon::fromTheme(QStringLiteral("chevron.down")).isNull())
         log(QStringLiteral("Icons need Qt's SVG plugins, which are not installed"));
 }
 
@@ -257,6 +262,7 @@ void BaseTheme::apply(QApplication* app, const UseStyle& useStyle)
     registerBundles(scalablePath);
     EmbeddedIcons::offerToIconTheme(name, foreground);
     addSearchPaths(imagesPath, scalablePath);
+    checkIconEngine(name);
 }
 
 } // namespace BRELK
