@@ -9,6 +9,7 @@
 #include <QPainter>
 
 #include <cmath>
+#include <optional>
 
 namespace BRELK::RecoloredIcons {
 
@@ -73,7 +74,7 @@ struct PictureKey
     qint64 icon = 0;
     QString iconTheme = {};
     qint64 source = 0;
-    QImage content = {};
+    std::optional<QImage> content = {};
 
     friend bool operator==(const PictureKey& one, const PictureKey& other)
     {
@@ -85,9 +86,11 @@ struct PictureKey
 
     friend uint qHash(const PictureKey& key, uint seed)
     {
-        return ::qHash(key.icon ^ key.source, seed) ^ hashOf(key.recoloring)
-               ^ uint(key.size.width() << 4 ^ key.size.height())
-               ^ qHashBits(key.content.constBits(), size_t(key.content.sizeInBytes()));
+        const uint hash = ::qHash(key.icon ^ key.source, seed) ^ hashOf(key.recoloring)
+                          ^ uint(key.size.width() << 4 ^ key.size.height());
+        return key.content
+                   ? hash ^ qHashBits(key.content->constBits(), size_t(key.content->sizeInBytes()))
+                   : hash;
     }
 };
 
@@ -170,7 +173,8 @@ QPixmap keptOrMade(const PictureKey& key, const QPixmap& source)
         return *known;
     auto picture = std::make_unique<QPixmap>(made(key, source));
     const qint64 bytes = qint64(picture->width()) * picture->height() * picture->depth() / 8;
-    return *pictures().keep(key, std::move(picture), bytes + key.content.sizeInBytes());
+    const qint64 content = key.content ? key.content->sizeInBytes() : 0;
+    return *pictures().keep(key, std::move(picture), bytes + content);
 }
 
 /// Whether `icon` is drawn from files that the icon theme names, and so is the same as long as that

@@ -94,10 +94,6 @@ QBrush LinearGradientBrushReader::readBrush(const ThemeElement& element, const T
     }
     QLinearGradient gradient(start, end);
     gradient.setCoordinateMode(QGradient::ObjectBoundingMode);
-    const auto isBefore = [](const QGradientStop& a, const QGradientStop& b) {
-        return a.first < b.first;
-    };
-    std::sort(stops.begin(), stops.end(), isBefore);
     gradient.setStops(stops);
     return gradient;
 }

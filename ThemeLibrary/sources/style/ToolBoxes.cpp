@@ -65,7 +65,8 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
     if (leavesLabelToSheet(context)) {
         context.draw(QStyle::CE_ToolBoxTabLabel, tab);
         // Deliberate: the button draws nothing after this but the sheet's label, and asks no style
-        // whether it should. It happens under any application sheet, also the library's own.
+        // whether it should. It happens under any application sheet, also the library's own, and
+        // leaves icons the color they are drawn in: 1.16:1 on the tabs of a light theme.
         context.painter.setClipRect(QRect());
     }
 }
