@@ -110,8 +110,9 @@ void RangeSlider::paintEvent(QPaintEvent* event)
 {
     Q_UNUSED(event)
     QPainter painter(this);
-    painter.setPen(Qt::NoPen);
-    const auto draw = [&painter](const QRectF& shape, const QBrush& fill) {
+    const auto draw = [&painter](const QRectF& shape, const QBrush& fill,
+                                 const QPen& border = QPen(Qt::NoPen)) {
+        painter.setPen(border);
         painter.setBrush(fill);
         Helpers::drawRoundedRectShape(shape, static_cast<int>(shape.height() / 2), Helpers::None,
                                       &painter);
@@ -125,7 +126,8 @@ void RangeSlider::paintEvent(QPaintEvent* event)
     const double right = qMax(place(m_lower), place(m_upper));
     const double grooveTop = (height() - GrooveHeight) / 2.0;
     const double handleTop = (height() - HandleSize) / 2.0;
-    draw({0, grooveTop, double(width()), GrooveHeight}, brush("BackgroundBrush"));
+    draw(QRectF(0, grooveTop, width(), GrooveHeight).adjusted(0.5, 0.5, -0.5, -0.5),
+         brush("BackgroundBrush"), QPen(brush("BorderBrush"), 1));
     draw({left, grooveTop, right - left + HandleSize, GrooveHeight}, brush("RangeBrush"));
     for (const double x : {left, right})
         draw({x, handleTop, HandleSize, HandleSize}, brush("DefaultBrush"));
