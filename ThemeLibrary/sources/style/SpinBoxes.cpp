@@ -69,6 +69,8 @@ int growth(const PaintContext& context)
 {
     constexpr int UsualIndicator = 16;
     constexpr int Largest = 2;
+    if (context.option.rect.height() <= UsualIndicator) // quicker than measuring the font
+        return 0;
     return qBound(0, (context.measure().indicatorSize() - UsualIndicator) / 2, Largest);
 }
 
