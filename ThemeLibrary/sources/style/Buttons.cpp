@@ -251,7 +251,7 @@ void paintDefaultFrame(const PaintContext& context)
     if (!BaseStyle::isFlatButton(&context.option))
         return;
     const QRect& rect = context.option.rect;
-    Shapes::drawBox(context, rect, panelRadius(context, rect), Qt::NoBrush,
+    Shapes::drawBox(context, rect, panelRadius(context, rect), QBrush(),
                     BaseStyle::buttonBrushes(&context.option, context.widget).borderBrush);
 }
 
@@ -277,7 +277,7 @@ void paintPanel(const PaintContext& context)
     else if (isFocused)
         brushes.borderBrush = context.brush(ThemeNames::MainBrush);
     else if (context.flag(WidgetProperties::Frameless))
-        brushes.borderBrush = Qt::NoBrush;
+        brushes.borderBrush = QBrush();
 
     const QRect rect = panelRect(context);
     const int radius = panelRadius(context, rect);

@@ -213,7 +213,7 @@ void paintFocusBorder(const PaintContext& context, const QStyleOptionComboBox& c
                                    : context.brush(ThemeNames::MainBrush);
     const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
     if (!hasError && !comboBox.editable)
-        Shapes::drawBox(context, comboBox.rect, radius, Qt::NoBrush, border);
+        Shapes::drawBox(context, comboBox.rect, radius, QBrush(), border);
     Shapes::drawInnerBorder(context, comboBox.rect, radius, border);
 }
 
@@ -243,8 +243,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionComboBox& comboBo
 
 void paintComboBox(const PaintContext& context, const QStyleOptionComboBox& comboBox)
 {
-    const QRect arrowRect = context.proxy().subControlRect(
-        QStyle::CC_ComboBox, &comboBox, QStyle::SC_ComboBoxArrow, context.widget);
+    const QRect arrowRect = context.part(QStyle::CC_ComboBox, comboBox, QStyle::SC_ComboBoxArrow);
     const bool hasArrow = comboBox.subControls & QStyle::SC_ComboBoxArrow;
 
     if (comboBox.editable) {

@@ -134,10 +134,12 @@ void paintFocusRect(const PaintContext& context)
         || !context.has(QStyle::State_KeyboardFocusChange))
         return;
     const QColor color = context.option.palette.color(QPalette::Text);
-    QPen pen(color, 0, Qt::SolidLine, Qt::SquareCap, Qt::BevelJoin);
-    pen.setDashPattern({Dash, Dash});
-    const Shapes::Border border = Shapes::borderInside(context.painter, context.option.rect, color);
-    Helpers::drawRoundedBox(border.line, Radius, Helpers::None, pen, Qt::NoBrush, &context.painter);
+    Shapes::Border border = Shapes::borderInside(context.painter, context.option.rect, color);
+    border.pen.setWidth(0);
+    border.pen.setJoinStyle(Qt::BevelJoin);
+    border.pen.setDashPattern({Dash, Dash});
+    Helpers::drawRoundedBox(border.line, Radius, Helpers::None, border.pen, QBrush(),
+                            &context.painter);
 }
 
 void paintToolTip(const PaintContext& context)

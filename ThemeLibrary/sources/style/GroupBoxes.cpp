@@ -23,7 +23,7 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
     if (frame.features & QStyleOptionFrame::Flat)
         Shapes::drawLine(context, rect.topLeft(), rect.topRight(), context.borderBrush());
     else
-        Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::MediumSize), Qt::NoBrush,
+        Shapes::drawBox(context, rect, Shapes::cornerRadius(ThemeNames::MediumSize), QBrush(),
                         context.borderBrush());
 }
 

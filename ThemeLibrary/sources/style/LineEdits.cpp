@@ -159,7 +159,7 @@ void paintFrame(const PaintContext& context, const QStyleOptionFrame& frame)
 {
     if (WidgetTraits::isInComboBoxPopup(context.widget)
         || WidgetTraits::isComboBoxPopup(context.widget)) {
-        Shapes::drawBox(context, frame.rect, 0, Qt::NoBrush, context.borderBrush());
+        Shapes::drawBox(context, frame.rect, 0, QBrush(), context.borderBrush());
         return;
     }
     BaseStyle::ButtonBrushes brushes;

@@ -114,7 +114,7 @@ void paintMarkBorder(const PaintContext& context, const QRect& rect, int radius,
 {
     const qreal opacity = context.painter.opacity();
     context.painter.setOpacity(isSelected(context) ? opacity : opacity * Opacities::MenuMarkBorder);
-    Shapes::drawBox(context, rect, radius, Qt::NoBrush, brush);
+    Shapes::drawBox(context, rect, radius, QBrush(), brush);
     context.painter.setOpacity(opacity);
 }
 
@@ -195,10 +195,6 @@ QBrush itemBrush(const PaintContext& context, const QStyleOptionMenuItem& item)
     return OwnColors::words(context, QPalette::Text, QPalette::Base,
                             context.brush(ThemeNames::BackgroundSubLevel1Brush));
 }
-
-} // namespace
-
-namespace {
 
 /// What lies behind a whole menu bar: one surface, with or without disabled items. The toolkit asks
 /// for the empty area without a state.

@@ -92,7 +92,7 @@ QBrush controlGround(const StyleContext& context)
     if (!has(context, role)) {
         role = input ? QPalette::Button : QPalette::Base;
         if (!(input || comboBox) || !has(context, role))
-            return Qt::NoBrush;
+            return {};
     }
     const QBrush& brush = brushOf(context, role);
     if (isOfState(context, role))

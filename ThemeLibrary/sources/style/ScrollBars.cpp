@@ -114,7 +114,7 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& bar)
     const int inset = int(SliderInset * (horizontal ? bar.rect.height() : bar.rect.width()));
     const QRect slider = horizontal ? bar.rect.adjusted(0, inset, 0, -inset)
                                     : bar.rect.adjusted(inset, 0, -inset, 0);
-    Shapes::drawBox(context, slider, qMin(slider.width(), slider.height()), brush, Qt::NoBrush);
+    Shapes::drawBox(context, slider, qMin(slider.width(), slider.height()), brush, QBrush());
 }
 
 void paintScrollBar(const PaintContext& context, const QStyleOptionSlider& bar)

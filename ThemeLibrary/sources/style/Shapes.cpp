@@ -84,7 +84,7 @@ void drawInnerBorder(const PaintContext& context, const QRect& rect, int radius,
         return;
     const PlacedBox box = placed(context.painter, rect); // no gap between the two
     const QPen pen(border, box.border, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
-    Helpers::drawRoundedBox(box.inside(1.5), qMax(0, radius - 1), straightCorners, pen, Qt::NoBrush,
+    Helpers::drawRoundedBox(box.inside(1.5), qMax(0, radius - 1), straightCorners, pen, QBrush(),
                             &context.painter);
 }
 

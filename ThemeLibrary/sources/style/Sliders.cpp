@@ -282,14 +282,10 @@ void paintFocus(const SliderLook& look)
 
 void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
 {
-    const auto part = [&](QStyle::SubControl subControl) {
-        return context.proxy().subControlRect(QStyle::CC_Slider, &slider, subControl,
-                                              context.widget);
-    };
     const SliderLook look{context,
                           slider,
-                          part(QStyle::SC_SliderGroove),
-                          part(QStyle::SC_SliderHandle),
+                          context.part(QStyle::CC_Slider, slider, QStyle::SC_SliderGroove),
+                          context.part(QStyle::CC_Slider, slider, QStyle::SC_SliderHandle),
                           context.brush(ThemeNames::MainBrush),
                           Shapes::cornerRadius(ThemeNames::BaseSize),
                           slider.orientation == Qt::Horizontal,

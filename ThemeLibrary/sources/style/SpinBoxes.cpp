@@ -129,9 +129,7 @@ void setUpStep(const PaintContext& context, const QStyleOptionSpinBox& spinBox,
     }
     if (!isActive && context.has(QStyle::State_MouseOver))
         copy.state &= ~QStyle::State_MouseOver;
-    copy.rect = context.proxy()
-                    .subControlRect(QStyle::CC_SpinBox, &spinBox, button.part, context.widget)
-                    .translated(0, button.shift);
+    copy.rect = context.part(QStyle::CC_SpinBox, spinBox, button.part).translated(0, button.shift);
 }
 
 void paintStepButton(const PaintContext& context, const StepButton& button,
@@ -258,8 +256,7 @@ void paintSpinBox(const PaintContext& context, const QStyleOptionSpinBox& spinBo
         paintSpinBox({{context.style, atOrigin, context.widget}, context.painter}, atOrigin);
         return;
     }
-    const QRect frame = context.proxy().subControlRect(QStyle::CC_SpinBox, &spinBox,
-                                                       QStyle::SC_SpinBoxFrame, context.widget);
+    const QRect frame = context.part(QStyle::CC_SpinBox, spinBox, QStyle::SC_SpinBoxFrame);
     const bool hasError = context.flag(WidgetProperties::DrawErrorIndicator);
     const int radius = Shapes::cornerRadius(ThemeNames::BaseSize);
     const QBrush own = OwnColors::controlGround(context);

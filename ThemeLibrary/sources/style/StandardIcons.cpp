@@ -94,7 +94,6 @@ QPixmap tinted(QImage image, const QColor& color)
 /// The icon that a widget names in its property "highlightedIcon", in the theme's main color.
 QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
 {
-    static const QStringList sSpecificIcons{QStringLiteral("status.checked.circular.colored")};
     const QString name =
         WidgetProperties::value(widget, WidgetProperties::HighlightedIcon).toString();
     if (name.isEmpty())
@@ -102,7 +101,7 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
     const bool enabled = !option || option->state & QStyle::State_Enabled;
     const QBrush mainBrush = themeValues().brushes.value(ThemeNames::MainBrush, enabled);
     const QIcon icon = EmbeddedIcons::StyleIcon(name);
-    if (!sSpecificIcons.contains(name))
+    if (name != QLatin1String("status.checked.circular.colored"))
         return ThemeIcons::colored(icon, mainBrush);
     const QColor reference(0xF6, 0xB4, 0x36);
     return Helpers::getModifiedIconWithForegroundBrush(icon, reference, mainBrush, false);

@@ -354,7 +354,7 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
         context.painter.fillRect(along(opposite(side), outerEdges(line), width, width), fill);
     if (selected)
         Shapes::drawBox(context, along(side, rect, AccentInset, AccentThickness), 0,
-                        context.brush(ThemeNames::MainBrush), Qt::NoBrush);
+                        context.brush(ThemeNames::MainBrush), QBrush());
 }
 
 namespace {

@@ -75,7 +75,7 @@ constexpr TitleButton TitleButtons[] = {
 QRect partRect(const PaintContext& context, const QStyleOptionTitleBar& bar,
                QStyle::SubControl part)
 {
-    return context.proxy().subControlRect(QStyle::CC_TitleBar, &bar, part, context.widget);
+    return context.part(QStyle::CC_TitleBar, bar, part);
 }
 
 /// Whether the title bar of the active window is told from others by its ground, on which its

@@ -134,7 +134,7 @@ void paintIcon(const PaintContext& context, const QStyleOptionToolButton& button
     }
     const QIcon::State state = BaseStyle::isChecked(button) ? QIcon::On : QIcon::Off;
     const QSize size = button.icon.actualSize(button.iconSize.boundedTo(rect.size()));
-    Shapes::drawIcon(context, button.icon, Qt::NoBrush, rect, size, state); // has its color
+    Shapes::drawIcon(context, button.icon, QBrush(), rect, size, state); // has its color
 }
 
 QSize textSize(const QStyleOptionToolButton& button)
@@ -213,8 +213,7 @@ void paintLabel(const PaintContext& context, const QStyleOptionToolButton& butto
 void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& button)
 {
     const auto part = [&](QStyle::SubControl subControl) {
-        return context.proxy().subControlRect(QStyle::CC_ToolButton, &button, subControl,
-                                              context.widget);
+        return context.part(QStyle::CC_ToolButton, button, subControl);
     };
     const QRect buttonRect = part(QStyle::SC_ToolButton);
     const QRect menuArea = part(QStyle::SC_ToolButtonMenu);
