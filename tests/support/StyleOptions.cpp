@@ -394,6 +394,10 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings, const St
         if (auto* item = qstyleoption_cast<QStyleOptionViewItem*>(sample.option.get());
             item && key == "option.text")
             item->text = setting.value().toString().replace(QLatin1Char('_'), QLatin1Char('\n'));
+        else if (item && key == "option.backgroundBrush")
+            item->backgroundBrush = QColor(setting.value().toString());
+        else if (key == "option.outset")
+            sample.option->rect += QMargins() + setting.value().toInt();
         else if (key.startsWith("option."))
             setField(*sample.option, key.mid(7), setting.value().toInt());
         else if (key.startsWith("State_"))

@@ -118,6 +118,14 @@ QBrush selectionBrush(const StyleContext& context)
                                             : ThemeNames::MainSubLevel1Brush);
 }
 
+/// What the model fills the item with; none when a selection covers it.
+QBrush modelGround(const StyleContext& context)
+{
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(&context.option);
+    const bool isSeen = item && !context.has(QStyle::State_Selected);
+    return isSeen && item->backgroundBrush.isOpaque() ? item->backgroundBrush : Qt::NoBrush;
+}
+
 QBrush textBrush(const StyleContext& context)
 {
     const bool isSelected = context.has(QStyle::State_Selected);
@@ -126,16 +134,21 @@ QBrush textBrush(const StyleContext& context)
     const QPalette::ColorRole role =
         isSelected && !isFaint ? QPalette::HighlightedText : QPalette::Text;
     const QBrush& given = context.option.palette.brush(colorGroup(context), role);
+    const QBrush rowGround = modelGround(context);
     const bool isOwn =
-        OwnColors::has(context, role)
+        rowGround.style() != Qt::NoBrush || OwnColors::has(context, role)
         || OwnColors::has(context, isSelected ? QPalette::Highlight : QPalette::Base);
     if (!isOwn || OwnColors::isForThis(context, role))
         return given;
-    const QBrush ground =
-        isSelected ? selectionBrush(context)
-                   : OwnColors::ground(context, QPalette::Base,
-                                       context.brush(ThemeNames::ItemViewBackgroundBrush));
-    return OwnColors::readable(ground, {given, context.style.getPalette().brush(role)});
+    QBrush ground = rowGround;
+    if (isSelected)
+        ground = selectionBrush(context);
+    else if (ground.style() == Qt::NoBrush)
+        ground = OwnColors::ground(context, QPalette::Base,
+                                   context.brush(ThemeNames::ItemViewBackgroundBrush));
+    // Who colors a row alone has not seen the theme's words on it.
+    const double least = rowGround.style() == Qt::NoBrush ? OwnColors::Readable : 3;
+    return OwnColors::readable(ground, {given, context.style.getPalette().brush(role)}, least);
 }
 
 /// In a table that selects rows, the toolkit repaints the whole row under the mouse, but tells it

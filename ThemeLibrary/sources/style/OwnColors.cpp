@@ -113,14 +113,13 @@ QBrush words(const StyleContext& context, QPalette::ColorRole role, QPalette::Co
     return readable(ground(context, groundRole, themed), {given, palette.brush(group, role)});
 }
 
-QBrush readable(const QBrush& ground, std::initializer_list<QBrush> brushes)
+QBrush readable(const QBrush& ground, std::initializer_list<QBrush> brushes, double least)
 {
-    constexpr double Least = 2; // applications choose for themselves what more they want
     if (ground.style() != Qt::SolidPattern)
         return *brushes.begin();
     const auto isRead = [&](const QBrush& brush) {
         return brush.style() == Qt::SolidPattern
-               && ColorArithmetic::contrast(brush.color(), ground.color()) >= Least;
+               && ColorArithmetic::contrast(brush.color(), ground.color()) >= least;
     };
     const auto* const found = std::find_if(brushes.begin(), brushes.end(), isRead);
     if (found != brushes.end())

@@ -31,8 +31,12 @@ QBrush controlGround(const StyleContext& context);
 QBrush words(const StyleContext& context, QPalette::ColorRole role, QPalette::ColorRole groundRole,
              const QBrush& themed);
 
-/// The first of these brushes that is read on `ground`, else black or white.
-QBrush readable(const QBrush& ground, std::initializer_list<QBrush> brushes);
+/// The contrast to its ground that is left to an application which chose a color for words.
+constexpr double Readable = 2;
+
+/// The first of these brushes that has the contrast `least` to `ground`, else black or white.
+QBrush readable(const QBrush& ground, std::initializer_list<QBrush> brushes,
+                double least = Readable);
 
 /// `ground` deeper by `percent` of its lightness: lighter if it is dark, darker if it is light.
 QBrush deeper(const QBrush& ground, int percent);
