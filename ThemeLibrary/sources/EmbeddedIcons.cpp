@@ -1,8 +1,8 @@
 #include "EmbeddedIcons.h"
 
+#include "Kept.h"
 #include "ThemeValues.h"
 
-#include <QCache>
 #include <QFile>
 #include <QResource>
 
@@ -110,19 +110,18 @@ QColor offeredColor()
 
 StyleIcon::operator QIcon() const
 {
-    constexpr int MostIcons = 64;
+    constexpr int BytesOfIcon = 1024;
     if (!m_themed.isNull())
         return m_themed;
     // One icon for all calls: what is kept of it elsewhere is found by its key.
-    static QCache<QString, QIcon> sIcons(MostIcons);
-    if (const QIcon* known = sIcons.object(m_name))
+    static Kept::Store<QString, QIcon> sIcons;
+    if (const QIcon* known = sIcons.find(m_name))
         return *known;
     const QString path = QLatin1String(":/Icons/") + m_name + QLatin1String(".svg");
     const QIcon own = QResource(path).isValid() ? QIcon(path) : QIcon();
     if (own.isNull())
         reportMissing(m_name);
-    sIcons.insert(m_name, new QIcon(own));
-    return own;
+    return *sIcons.keep(m_name, std::make_unique<QIcon>(own), BytesOfIcon);
 }
 
 } // namespace BRELK::EmbeddedIcons

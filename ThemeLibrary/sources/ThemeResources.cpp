@@ -102,22 +102,16 @@ QVariant getThemeVar(const QString& path, const QVariant& defaultValue)
 
 QColor getColor(const QString& name)
 {
-    if (!QCoreApplication::instance())
-        return {};
     return themeValues().colors.value(name);
 }
 
 QBrush getBrush(const QString& name)
 {
-    if (!QCoreApplication::instance())
-        return {};
     return themeValues().brushes.value(name);
 }
 
 QFont getFont(const QString& name)
 {
-    if (!QCoreApplication::instance())
-        return {};
     return themeValues().fonts.value(name);
 }
 
@@ -131,8 +125,6 @@ double getOpacity(const QString& name)
 
 double getCornerRadius(const QString& name)
 {
-    if (!QCoreApplication::instance())
-        return 0.0;
     return themeValues().radii.value(name);
 }
 

@@ -259,6 +259,7 @@ const Row Rows[] = {
     {filled<QToolButton, QStyleOptionToolButton>,
      "FrameButtonTool PanelButtonTool IndicatorArrow* IndicatorButtonDropDown ToolButton*"},
     {filled<QComboBox, QStyleOptionComboBox>, "ComboBox*"},
+    {plain<QDateEdit>, "IndicatorArrow*"},
     {filled<QLineEdit, QStyleOptionFrame>, "FrameLineEdit PanelLineEdit LineEdit*"},
     {filled<QSpinBox, QStyleOptionSpinBox>, "IndicatorSpin* SpinBox* DateTimeEditLayoutItem"},
     {filled<QScrollBar, QStyleOptionSlider>, "ScrollBar*"},
