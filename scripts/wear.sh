@@ -33,7 +33,8 @@ build=$(realpath "$build")
 ! command -v cmake >/dev/null || cmake --build "$build" --target varn_wear varn_style >/dev/null
 home=$(mktemp -d)
 display=:$((100 + $$ % 1000))
-Xvfb $display -screen 0 1280x960x24 -dpi 96 -nolisten tcp >/dev/null 2>&1 &
+size=$(awk "BEGIN { printf \"%dx%d\", 1280 * $scale, 960 * $scale }")
+Xvfb $display -screen 0 "${size}x24" -dpi 96 -nolisten tcp >/dev/null 2>&1 &
 server=$!
 trap 'kill $server; rm -rf "$home"' EXIT
 sleep 1

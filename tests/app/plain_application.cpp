@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QIcon>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QPointer>
 #include <QPushButton>
@@ -10,6 +11,7 @@
 #include <QStyle>
 #include <QStyleFactory>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QToolTip>
 
 #include <cstdio>
@@ -108,6 +110,14 @@ int main(int argc, char** argv)
     button.ensurePolished();
     print("own", button.palette().color(QPalette::Button).name() + QLatin1Char(' ')
                      + QString::number(button.font().pointSize()));
+
+    QLineEdit lineEdit;
+    QPixmap square(16, 16);
+    square.fill(Qt::red);
+    lineEdit.addAction(square, QLineEdit::LeadingPosition);
+    lineEdit.grab();
+    const QIcon shown = lineEdit.findChild<QToolButton*>()->icon();
+    print("line edit", kindOf(shown.pixmap(16).toImage().pixelColor(0, 0)));
 
     const QPointer<QStyle> second = QStyleFactory::create(QStringLiteral("varn"));
     print("second", second ? second->objectName() + QLatin1Char(' ')
