@@ -190,7 +190,13 @@ QRect contentsRect(const PaintContext& context, const QStyleOptionToolButton& bu
 void paintLabel(const PaintContext& context, const QStyleOptionToolButton& button)
 {
     const bool hasIcon = !button.icon.isNull() || button.features & QStyleOptionToolButton::Arrow;
+    const bool isWithoutText =
+        button.text.isEmpty() || button.toolButtonStyle == Qt::ToolButtonIconOnly;
     const QRect rect = contentsRect(context, button);
+    if (hasIcon && isWithoutText && button.toolButtonStyle != Qt::ToolButtonTextOnly) {
+        paintIcon(context, button, rect);
+        return;
+    }
     const PainterSaver saver(context.painter);
     context.painter.setFont(button.font);
     if (!hasIcon || button.toolButtonStyle == Qt::ToolButtonTextOnly) {
@@ -201,8 +207,6 @@ void paintLabel(const PaintContext& context, const QStyleOptionToolButton& butto
                                                    isConnector ? Qt::AlignLeft : Qt::AlignHCenter);
         Shapes::drawText(context, rect, int(flags) | Qt::AlignVCenter | Qt::TextShowMnemonic,
                          button.text, textBrush(button));
-    } else if (button.text.isEmpty() || button.toolButtonStyle == Qt::ToolButtonIconOnly) {
-        paintIcon(context, button, rect);
     } else if (button.toolButtonStyle == Qt::ToolButtonTextUnderIcon) {
         paintUnder(context, button, rect);
     } else {
