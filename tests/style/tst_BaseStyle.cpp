@@ -83,6 +83,14 @@ private Q_SLOTS:
             QCOMPARE(colorOf(QStyle::SP_ToolBarVerticalExtensionButton, {5, 8}), "palette.Text");
         }
         m_style->setPalette(ProbeTheme::palette());
+        const auto imageOf = [&](const QStyleOption* option) {
+            return m_style->standardIcon(QStyle::SP_ToolBarHorizontalExtensionButton, option)
+                .pixmap(8, 5)
+                .toImage();
+        };
+        QStyleOption leftwards;
+        leftwards.direction = Qt::RightToLeft;
+        QCOMPARE(imageOf(&leftwards), imageOf(nullptr).mirrored(true, false));
     }
 
     void disabledPixmapsAreRecoloredForLabelsOnly()

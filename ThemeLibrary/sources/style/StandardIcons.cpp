@@ -91,6 +91,19 @@ QPixmap tinted(QImage image, const QColor& color)
     return QPixmap::fromImage(image);
 }
 
+/// Deliberate: where the rest of a tool bar lies to the left, its button points there.
+QIcon pointingOn(const QIcon& icon, const QStyleOption* option)
+{
+    if (!option || option->direction != Qt::RightToLeft)
+        return icon;
+    QIcon mirrored;
+    for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Selected})
+        for (const QSize& size : icon.availableSizes(mode))
+            mirrored.addPixmap(
+                QPixmap::fromImage(icon.pixmap(size, mode).toImage().mirrored(true, false)), mode);
+    return mirrored;
+}
+
 /// The icon that a widget names in its property "highlightedIcon", in the theme's main color.
 QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
 {
@@ -122,7 +135,8 @@ QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
         return EmbeddedIcons::StyleIcon(name);
     switch (pixmap) {
     case SP_ToolBarHorizontalExtensionButton:
-        return extensionIcon(themeValues().horizontalExtension, toolbarHorizontal);
+        return pointingOn(extensionIcon(themeValues().horizontalExtension, toolbarHorizontal),
+                          option);
     case SP_ToolBarVerticalExtensionButton:
         return extensionIcon(themeValues().verticalExtension, toolbarVertical);
     case SP_CustomBase: return highlightedIcon(option, widget);
