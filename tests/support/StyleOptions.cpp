@@ -332,6 +332,16 @@ void setField(QStyleOption& option, const QByteArray& name, int value)
     set("titleBarState", &QStyleOptionTitleBar::titleBarState);
 }
 
+/// In which "_" ends a line.
+void setText(QStyleOption& option, QString text)
+{
+    text.replace(QLatin1Char('_'), QLatin1Char('\n'));
+    if (auto* item = qstyleoption_cast<QStyleOptionViewItem*>(&option))
+        item->text = text;
+    if (auto* comboBox = qstyleoption_cast<QStyleOptionComboBox*>(&option))
+        comboBox->currentText = text;
+}
+
 void setState(const Sample& sample, const State& state)
 {
     QStyleOption& option = *sample.option;
@@ -392,9 +402,9 @@ Sample sampleNamed(const QByteArray& element, const Settings& settings, const St
     const auto states = QMetaEnum::fromType<QStyle::StateFlag>();
     for (auto setting = settings.cbegin(); setting != settings.cend(); ++setting) {
         const QByteArray& key = setting.key();
-        if (auto* item = qstyleoption_cast<QStyleOptionViewItem*>(sample.option.get());
-            item && key == "option.text")
-            item->text = setting.value().toString().replace(QLatin1Char('_'), QLatin1Char('\n'));
+        auto* item = qstyleoption_cast<QStyleOptionViewItem*>(sample.option.get());
+        if (key == "option.text")
+            setText(*sample.option, setting.value().toString());
         else if (item && key == "option.backgroundBrush")
             item->backgroundBrush = QColor(setting.value().toString());
         else if (key == "option.outset")
