@@ -115,9 +115,9 @@ int main(int argc, char** argv)
     QPixmap square(16, 16);
     square.fill(Qt::red);
     lineEdit.addAction(square, QLineEdit::LeadingPosition);
-    lineEdit.grab();
-    const QIcon shown = lineEdit.findChild<QToolButton*>()->icon();
-    print("line edit", kindOf(shown.pixmap(16).toImage().pixelColor(0, 0)));
+    auto* action = lineEdit.findChild<QToolButton*>();
+    action->grab();
+    print("line edit", kindOf(action->icon().pixmap(16).toImage().pixelColor(0, 0)));
 
     const QPointer<QStyle> second = QStyleFactory::create(QStringLiteral("varn"));
     print("second", second ? second->objectName() + QLatin1Char(' ')
