@@ -350,6 +350,8 @@ void setState(const Sample& sample, const State& state)
     sample.widget->setEnabled(enabled);
     if (!enabled)
         option.palette.setCurrentColorGroup(QPalette::Disabled);
+    else if (!(option.state & QStyle::State_Active))
+        option.palette.setCurrentColorGroup(QPalette::Inactive);
     if (state.direction == Qt::RightToLeft) {
         sample.widget->setLayoutDirection(state.direction);
         option.direction = state.direction;
