@@ -156,14 +156,15 @@ struct Word
 
 #define VARN_THEME_PLACE(name) name,
 #define VARN_THEME_WORD_PLACE(group, name, text) name,
-#define VARN_THEME_TEXT(name) QLatin1String(#name),
-#define VARN_THEME_WORD(group, name, text) Word{Group::group, QLatin1String(text)},
+#define VARN_THEME_LITERAL(text) QLatin1String(text, int(sizeof(text)) - 1)
+#define VARN_THEME_TEXT(name) VARN_THEME_LITERAL(#name),
+#define VARN_THEME_WORD(group, name, text) Word{Group::group, VARN_THEME_LITERAL(text)},
 #define VARN_THEME_COLOR_NAME(name)                                                                \
     inline constexpr ColorName name{Colors[int(ColorPlace::name)], int(ColorPlace::name)};
 #define VARN_THEME_BRUSH_NAME(name)                                                                \
     inline constexpr BrushName name{Brushes[int(BrushPlace::name)], int(BrushPlace::name)};
 #define VARN_THEME_WORD_NAME(group, name, text)                                                    \
-    inline constexpr Name<Group::group> name{QLatin1String(text), int(WordPlace::name)};
+    inline constexpr Name<Group::group> name{VARN_THEME_LITERAL(text), int(WordPlace::name)};
 
 enum class ColorPlace { VARN_THEME_COLORS(VARN_THEME_PLACE) };
 enum class BrushPlace { VARN_THEME_BRUSHES(VARN_THEME_PLACE) };
@@ -179,6 +180,7 @@ VARN_THEME_WORDS(VARN_THEME_WORD_NAME)
 
 #undef VARN_THEME_PLACE
 #undef VARN_THEME_WORD_PLACE
+#undef VARN_THEME_LITERAL
 #undef VARN_THEME_TEXT
 #undef VARN_THEME_WORD
 #undef VARN_THEME_COLOR_NAME
