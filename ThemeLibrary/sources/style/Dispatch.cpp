@@ -160,12 +160,21 @@ SizeRule ruleOf(QStyle::ContentsType type)
 
 // clang-format on
 
+/// Nothing is farther from the origin than a few of the largest widgets. Of what is said to be, the
+/// places and sizes could not be counted in an int.
+bool isCountable(const QRect& rect)
+{
+    constexpr int Farthest = 4 * QWIDGETSIZE_MAX;
+    return rect.left() >= -Farthest && rect.top() >= -Farthest && rect.right() <= Farthest
+           && rect.bottom() <= Farthest;
+}
+
 } // namespace
 
 void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                               QPainter* painter, const QWidget* widget) const
 {
-    if (!option || !painter)
+    if (!option || !painter || !isCountable(option->rect))
         return;
     if (const Painter paint = painterOf(element))
         paint({{*this, *option, widget}, *painter});
@@ -176,7 +185,7 @@ void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 void BaseStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const
 {
-    if (!option || !painter)
+    if (!option || !painter || !isCountable(option->rect))
         return;
     if (const Painter paint = painterOf(element))
         paint({{*this, *option, widget}, *painter});
@@ -187,7 +196,7 @@ void BaseStyle::drawControl(ControlElement element, const QStyleOption* option, 
 void BaseStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                    QPainter* painter, const QWidget* widget) const
 {
-    if (!option || !painter)
+    if (!option || !painter || !isCountable(option->rect))
         return;
     if (const Painter paint = painterOf(control))
         paint({{*this, *option, widget}, *painter});
@@ -201,6 +210,8 @@ QRect BaseStyle::subElementRect(SubElement element, const QStyleOption* option,
     // Qt asks the tab bar that it takes for granted.
     if (!widget && (element == SE_TabBarScrollLeftButton || element == SE_TabBarScrollRightButton))
         return {};
+    if (option && !isCountable(option->rect))
+        return {};
     const RectRule rule = option ? ruleOf(element) : nullptr;
     const std::optional<QRect> rect = rule ? rule({*this, *option, widget}, element) : std::nullopt;
     return rect ? *rect : QProxyStyle::subElementRect(element, option, widget);
@@ -209,14 +220,18 @@ QRect BaseStyle::subElementRect(SubElement element, const QStyleOption* option,
 QRect BaseStyle::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
                                 SubControl part, const QWidget* widget) const
 {
+    if (option && !isCountable(option->rect))
+        return {};
     const PartRule rule = option ? ruleOf(control) : nullptr;
     const std::optional<QRect> rect = rule ? rule({*this, *option, widget}, part) : std::nullopt;
     return rect ? *rect : QProxyStyle::subControlRect(control, option, part, widget);
 }
 
-QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
-                                  const QSize& contents, const QWidget* widget) const
+QSize BaseStyle::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& given,
+                                  const QWidget* widget) const
 {
+    constexpr QSize Largest(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    const QSize contents = given.boundedTo(Largest).expandedTo(QSize());
     const SizeRule rule = option ? ruleOf(type) : nullptr;
     const std::optional<QSize> size = rule ? rule({*this, option, widget}, contents) : std::nullopt;
     return size ? *size : QProxyStyle::sizeFromContents(type, option, contents, widget);

@@ -38,10 +38,14 @@ PlacedBox placed(const QPainter& painter, const QRectF& rect)
     const QTransform& transform = painter.deviceTransform();
     if (transform.type() > QTransform::TxScale)
         return {rect, 1};
-    const QRectF covered = transform.mapRect(rect);
-    const QRectF whole(QPointF(qRound(covered.left()), qRound(covered.top())),
-                       QPointF(qRound(covered.right()), qRound(covered.bottom())));
+    constexpr qreal Smallest = 1e-3; // pens of less are too wide for the toolkit
     const qreal scale = qAbs(transform.m11());
+    if (scale < Smallest)
+        return {rect, 1};
+    const auto rounded = [](qreal pixels) { return std::floor(pixels + 0.5); }; // to any number
+    const QRectF covered = transform.mapRect(rect);
+    const QRectF whole(QPointF(rounded(covered.left()), rounded(covered.top())),
+                       QPointF(rounded(covered.right()), rounded(covered.bottom())));
     return {transform.inverted().mapRect(whole), qMax(1.0, std::floor(scale)) / scale};
 }
 
