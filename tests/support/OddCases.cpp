@@ -46,16 +46,18 @@ int OddCases::number()
                   -(1 << 20), 1 << 24, 1 << 25, int(m_random.generate())});
 }
 
+/// One whose size is a number too.
 QRect OddCases::rect()
 {
     QRect rect;
-    const int left = number();
-    const int top = number();
-    const auto end = [](int start, int size) { // such that both are numbers
-        return int(
-            qBound<qint64>(Least, qint64(start) + qMin(size, Most - qMax(0, -start)) - 1, Most));
-    };
-    rect.setCoords(left, top, end(left, number()), end(top, number()));
+    for (int tries = 0; tries == 0 || qint64(rect.right()) - rect.left() >= Most
+                        || qint64(rect.bottom()) - rect.top() >= Most;
+         ++tries) {
+        const int left = number();
+        const int top = number();
+        const auto sum = [](qint64 a, qint64 b) { return int(qBound<qint64>(Least, a + b, Most)); };
+        rect.setCoords(left, top, sum(left, number()), sum(top, number()));
+    }
     return rect;
 }
 

@@ -45,7 +45,7 @@ private:
 
     void set(QRect& field) { field = rect(); }
 
-    void set(QSize& field) { field = rect().size(); }
+    void set(QSize& field) { field = {number(), number()}; }
 
     void set(QString& field) { field = text(); }
 
