@@ -60,7 +60,7 @@ private:
     QString faultIn(int number) const
     {
         constexpr int Uses = 10;
-        constexpr std::clock_t Long = 2 * CLOCKS_PER_SEC;
+        constexpr std::clock_t Long = 10 * CLOCKS_PER_SEC;
         const int index = number % StyleOptions::elements().size();
         const Element& element = StyleOptions::elements().at(index);
         // Of those that are left to the base style only a crash is a fault; it paints some of them
