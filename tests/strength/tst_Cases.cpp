@@ -101,7 +101,7 @@ private Q_SLOTS:
     void nothingBreaksTheStyle_data()
     {
         constexpr int UsesOfCase = 10;
-        constexpr int Few = 500;
+        constexpr int Few = 100;
         const int first = qMax(1, qEnvironmentVariableIntValue("VARN_CASE"));
         const int asked = qEnvironmentVariableIntValue("VARN_CASES") / UsesOfCase;
         QTest::addColumn<int>("number");

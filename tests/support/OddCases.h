@@ -45,7 +45,10 @@ private:
 
     void set(QRect& field) { field = rect(); }
 
-    void set(QSize& field) { field = {number(), number()}; }
+    void set(QSize& field) // there are pictures of these sizes
+    {
+        field = {m_random.bounded(-10, 300), m_random.bounded(-10, 300)};
+    }
 
     void set(QString& field) { field = text(); }
 
