@@ -67,7 +67,7 @@ private Q_SLOTS:
         QImage image(200, 40, QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&image);
         for (const Element& element : StyleOptions::elements())
-            for (const char* settings : {"", "arrowType=UpArrow"}) {
+            for (const char* settings : {"", "arrowType=UpArrow option.text=Two_lines"}) {
                 const Sample sample =
                     StyleOptions::sampleNamed(element.name, StyleOptions::settingsOf(settings));
                 sample.option->state |= *settings ? QStyle::State(~0) : QStyle::State();
