@@ -2,6 +2,7 @@
 #include "Tasks.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 #include <QFile>
 #include <QRegularExpression>
 #include <QTemporaryFile>
@@ -50,6 +51,10 @@ Call readArguments(const QStringList& arguments)
         std::exit(2);
     }
     if (parser.isSet(QStringLiteral("help"))) {
+        char program[] = "varn-peers";
+        char* names[] = {program, nullptr};
+        int count = 1;
+        const QCoreApplication application(count, names); // the help names its program
         QTextStream(stdout) << parser.helpText();
         std::exit(0);
     }
