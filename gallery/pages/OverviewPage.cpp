@@ -119,7 +119,8 @@ QTableView* makeTable()
     table->verticalHeader()->hide();
     table->horizontalHeader()->setStretchLastSection(true);
     table->setColumnWidth(0, 20 * Unit);
-    table->selectRow(2);
+    // From right to left, a row cannot be selected as such before it is laid out.
+    table->setCurrentIndex(table->model()->index(2, 0));
     return table;
 }
 
