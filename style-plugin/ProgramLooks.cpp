@@ -31,6 +31,13 @@ bool isInstalled(const QString& iconTheme)
     });
 }
 
+void setFallbackIconTheme(const QString& name)
+{
+    QIcon::setFallbackThemeName(name);
+    // Icon themes that were read already would keep the one that they were read with.
+    QIcon::setThemeSearchPaths(QIcon::themeSearchPaths());
+}
+
 } // namespace
 
 ProgramLooks ProgramLooks::current()
@@ -46,7 +53,7 @@ void ProgramLooks::matchIcons(const QPalette& palette)
     const bool isDark = palette.color(QPalette::Window).lightness()
                         < palette.color(QPalette::WindowText).lightness();
     if (!fallback.isEmpty() && isDark && isInstalled(dark))
-        QIcon::setFallbackThemeName(dark);
+        setFallbackIconTheme(dark);
 }
 
 void ProgramLooks::replace(const ProgramLooks& others) const
@@ -59,7 +66,7 @@ void ProgramLooks::replace(const ProgramLooks& others) const
     if (now.iconTheme == others.iconTheme)
         QIcon::setThemeName(iconTheme);
     if (now.fallbackIconTheme == others.fallbackIconTheme)
-        QIcon::setFallbackThemeName(fallbackIconTheme);
+        setFallbackIconTheme(fallbackIconTheme);
 }
 
 } // namespace BRELK
