@@ -165,8 +165,9 @@ SizeRule ruleOf(QStyle::ContentsType type)
 bool isCountable(const QRect& rect)
 {
     constexpr int Farthest = 4 * QWIDGETSIZE_MAX;
-    return rect.left() >= -Farthest && rect.top() >= -Farthest && rect.right() <= Farthest
-           && rect.bottom() <= Farthest;
+    const auto isNear = [](int place) { return place >= -Farthest && place <= Farthest; };
+    return isNear(rect.left()) && isNear(rect.top()) && isNear(rect.right())
+           && isNear(rect.bottom());
 }
 
 } // namespace
