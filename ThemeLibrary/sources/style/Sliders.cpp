@@ -9,6 +9,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <limits>
 
 // Sliders and dials.
 //
@@ -314,8 +315,9 @@ qreal handAngle(const QStyleOptionSlider& dial)
     const qreal range = qreal(dial.maximum) - dial.minimum;
     if (range <= 0)
         return Turn / 4;
-    const int position = dial.upsideDown ? dial.sliderPosition : dial.maximum - dial.sliderPosition;
-    const qreal done = (qreal(position) - dial.minimum) / range;
+    const qreal position =
+        dial.upsideDown ? dial.sliderPosition : qreal(dial.maximum) - dial.sliderPosition;
+    const qreal done = (position - dial.minimum) / range;
     return dial.dialWrapping ? Turn * 3 / 4 - done * Turn : Start - done * Way;
 }
 
@@ -344,6 +346,14 @@ void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
                                 DotInFace * radius, DotInFace * radius);
 }
 
+/// The base style counts notches in an int, and crashes where that is too small or they are
+/// negative.
+bool hasCountableNotches(const QStyleOptionSlider& dial)
+{
+    const qint64 end = qint64(dial.maximum) - dial.minimum + dial.tickInterval;
+    return dial.tickInterval >= 0 && end <= std::numeric_limits<int>::max();
+}
+
 } // namespace
 
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
@@ -355,6 +365,8 @@ void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
     copy.palette.setBrush(copy.palette.currentColorGroup(), QPalette::Dark,
                           dial.palette.brush(QPalette::WindowText));
     copy.state &= ~QStyle::State(QStyle::State_Enabled | QStyle::State_HasFocus);
+    if (!hasCountableNotches(dial))
+        copy.tickInterval = 0;
     context.drawByBase(QStyle::CC_Dial, copy);
     paintDialFace(context, dial);
     if (context.has(QStyle::State_HasFocus))
