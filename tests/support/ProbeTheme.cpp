@@ -94,8 +94,10 @@ QByteArray shapeOf(const QImage& picture)
 
 int difference(const QByteArray& shape, const QByteArray& other)
 {
-    int sum = shape.size() == other.size() ? 0 : std::numeric_limits<int>::max();
-    for (int i = 0; i < qMin(shape.size(), other.size()); ++i)
+    if (shape.size() != other.size())
+        return std::numeric_limits<int>::max();
+    int sum = 0;
+    for (int i = 0; i < shape.size(); ++i)
         sum += std::abs(shape.at(i) - other.at(i));
     return sum;
 }
