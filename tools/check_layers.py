@@ -22,8 +22,8 @@ LAYERS = (
                                                             "ThemeSwitcher.*")]),
     (2, "style vocabulary", ["ThemeLibrary/include/BaseStyle.h", LIBRARY + "ComboBoxDefaultItemDelegate.*"]
         + [STYLE + name for name in (
-        "ArrowIcons.*", "Foregrounds.*", "InputMetrics.*", "Opacities.*", "OwnColors.*", "Shapes.*", "StyleContext.*",
-        "WidgetProperties.*", "WidgetTraits.*")]),
+        "ArrowIcons.*", "Foregrounds.*", "InputMetrics.*", "ItemColors.*", "Opacities.*", "OwnColors.*", "Shapes.*",
+        "StyleContext.*", "TabSides.*", "WidgetProperties.*", "WidgetTraits.*")]),
     (3, "style resolution", [STYLE + name for name in ("ButtonBrushes.*", "StandardIcons.*")]),
     (5, "style tables", [LIBRARY + name for name in ("BaseStyle.cpp", "BaseStyle_p.*", "ProxyStyle_p.*")]
         + [STYLE + name for name in ("Adapters.*", "Dispatch.*", "EventFilter.*", "HandOuts.*", "Metrics.*", "Polishing.*",

@@ -1,6 +1,7 @@
 #include "ArrowIcons.h"
 #include "Families.h"
 #include "Foregrounds.h"
+#include "ItemColors.h"
 #include "Opacities.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
@@ -84,73 +85,6 @@ namespace {
 
 constexpr int TextMargin = 1; ///< beside the focus margin, between text and rectangle
 
-/// Whether the keyboard moves in this view. The rows of a popup have it while they are seen.
-bool isInFront(const StyleContext& context)
-{
-    return context.widget
-               ? context.widget->hasFocus() || WidgetTraits::isComboBoxList(context.widget)
-               : context.has(QStyle::State_Active);
-}
-
-/// Words on a selection are those that the palette has for the one that is painted.
-QPalette::ColorGroup colorGroup(const StyleContext& context)
-{
-    if (!context.enabled())
-        return QPalette::Disabled;
-    const bool isActive = context.has(QStyle::State_Selected) ? isInFront(context)
-                                                              : context.has(QStyle::State_Active);
-    return isActive ? QPalette::Active : QPalette::Inactive;
-}
-
-/// An application that colors the selection keeps its color.
-bool hasOwnSelection(const StyleContext& context)
-{
-    const bool isSet =
-        context.widget && context.widget->palette().resolve() & (1U << QPalette::Highlight);
-    return isSet || OwnColors::has(context, QPalette::Highlight);
-}
-
-QBrush selectionBrush(const StyleContext& context)
-{
-    if (hasOwnSelection(context))
-        return context.option.palette.brush(colorGroup(context), QPalette::Highlight);
-    return context.brush(isInFront(context) ? ThemeNames::MainBrush
-                                            : ThemeNames::MainSubLevel1Brush);
-}
-
-/// What the model fills the item with; none when a selection covers it.
-QBrush modelGround(const StyleContext& context)
-{
-    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(&context.option);
-    const bool isSeen = item && !context.has(QStyle::State_Selected);
-    return isSeen && item->backgroundBrush.isOpaque() ? item->backgroundBrush : Qt::NoBrush;
-}
-
-QBrush textBrush(const StyleContext& context)
-{
-    const bool isSelected = context.has(QStyle::State_Selected);
-    // A disabled selection is a tint so faint that the words of other rows are read on it.
-    const bool isFaint = !context.enabled() && !hasOwnSelection(context);
-    const QPalette::ColorRole role =
-        isSelected && !isFaint ? QPalette::HighlightedText : QPalette::Text;
-    const QBrush& given = context.option.palette.brush(colorGroup(context), role);
-    const QBrush rowGround = modelGround(context);
-    const bool isOwn =
-        rowGround.style() != Qt::NoBrush || OwnColors::has(context, role)
-        || OwnColors::has(context, isSelected ? QPalette::Highlight : QPalette::Base);
-    if (!isOwn || OwnColors::isForThis(context, role))
-        return given;
-    QBrush ground = rowGround;
-    if (isSelected)
-        ground = selectionBrush(context);
-    else if (ground.style() == Qt::NoBrush)
-        ground = OwnColors::ground(context, QPalette::Base,
-                                   context.brush(ThemeNames::ItemViewBackgroundBrush));
-    // Who colors a row alone has not seen the theme's words on it.
-    const double least = rowGround.style() == Qt::NoBrush ? OwnColors::Readable : 3;
-    return OwnColors::readable(ground, {given, context.style.getPalette().brush(role)}, least);
-}
-
 /// In a table that selects rows, the toolkit repaints the whole row under the mouse, but tells it
 /// to one cell.
 bool isInHoveredRow(const StyleContext& context, const QStyleOptionViewItem& item)
@@ -172,7 +106,7 @@ bool isHighlighted(const StyleContext& context, const QStyleOptionViewItem& item
 void paintSelection(const PaintContext& context)
 {
     if (context.has(QStyle::State_Selected))
-        context.painter.fillRect(context.option.rect, selectionBrush(context));
+        context.painter.fillRect(context.option.rect, ItemColors::selection(context));
 }
 
 void paintHover(const PaintContext& context, const QStyleOptionViewItem& item)
@@ -243,7 +177,7 @@ void paintCheckBox(const PaintContext& context, const QStyleOptionViewItem& item
     QStyleOptionViewItem check = item;
     check.rect = rect;
     check.state &= ~QStyle::State_HasFocus;
-    check.palette.setCurrentColorGroup(colorGroup(context));
+    check.palette.setCurrentColorGroup(ItemColors::group(context));
     switch (item.checkState) {
     case Qt::Checked: check.state |= QStyle::State_On; break;
     case Qt::PartiallyChecked: check.state |= QStyle::State_NoChange; break;
@@ -352,7 +286,7 @@ void paintItemFocus(const PaintContext& context, const QStyleOptionViewItem& ite
     focus.rect = context.part(QStyle::SE_ItemViewItemFocusRect);
     focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
     focus.backgroundColor = item.palette.color(
-        colorGroup(context),
+        ItemColors::group(context),
         context.has(QStyle::State_Selected) ? QPalette::Highlight : QPalette::Window);
     context.draw(QStyle::PE_FrameFocusRect, focus);
 }
@@ -373,7 +307,7 @@ void paintArrow(const PaintContext& context, bool down)
     const int side = context.measure().indicatorSize();
     arrow.rect = QRect(0, 0, side, side);
     arrow.rect.moveCenter(context.option.rect.center());
-    Foregrounds::set(arrow, textBrush(context));
+    Foregrounds::set(arrow, ItemColors::words(context));
     const QStyle::PrimitiveElement sideways =
         context.rightToLeft() ? QStyle::PE_IndicatorArrowLeft : QStyle::PE_IndicatorArrowRight;
     ArrowIcons::drawOf(context, down ? QStyle::PE_IndicatorArrowDown : sideways, arrow);
@@ -434,7 +368,7 @@ void paintItem(const PaintContext& context, const QStyleOptionViewItem& item)
     };
     if (item.features & QStyleOptionViewItem::HasCheckIndicator)
         paintCheckBox(context, item, part(QStyle::SE_ItemViewItemCheckIndicator));
-    const QBrush brush = textBrush(context);
+    const QBrush brush = ItemColors::words(context);
     if (!item.icon.isNull())
         paintIcon(context, item, part(QStyle::SE_ItemViewItemDecoration), brush);
     if (!item.text.isEmpty())

@@ -2,6 +2,7 @@
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
+#include "TabSides.h"
 #include "ThemeNames.h"
 
 #include <QApplication>
@@ -16,30 +17,12 @@
 
 namespace BRELK::Tabs {
 
+using TabSides::Side;
+
 namespace {
 
 constexpr int CloseButtonInset = 2;
 constexpr int SelectedTextGain = 2;
-
-enum class Side { North, South, West, East };
-
-bool isUpright(Side side)
-{
-    return side == Side::West || side == Side::East;
-}
-
-Side sideOf(QTabBar::Shape shape)
-{
-    switch (shape) {
-    case QTabBar::RoundedSouth:
-    case QTabBar::TriangularSouth: return Side::South;
-    case QTabBar::RoundedWest:
-    case QTabBar::TriangularWest: return Side::West;
-    case QTabBar::RoundedEast:
-    case QTabBar::TriangularEast: return Side::East;
-    default: return Side::North;
-    }
-}
 
 bool isCurrentTabHighlighted(const StyleContext& context)
 {
@@ -61,7 +44,7 @@ QRect barRect(const StyleContext& context, const QStyleOptionTabWidgetFrame& fra
     const QRect base = context.baseRect(element);
     if (!context.flag(WidgetProperties::Stretched))
         return base;
-    const Side side = sideOf(frame.shape);
+    const Side side = TabSides::of(frame.shape);
     QRect rect = base;
     if (side == Side::West || side == Side::East)
         rect.setHeight(context.widget->height());
@@ -77,7 +60,7 @@ QRect textRect(const StyleContext& context, const QStyleOptionTab& tab, QStyle::
     const QRect rect = context.style.QCommonStyle::subElementRect(element, &tab, context.widget);
     if (!hasWiderText(context, tab))
         return rect;
-    switch (sideOf(tab.shape)) {
+    switch (TabSides::of(tab.shape)) {
     case Side::West: return rect.adjusted(0, -SelectedTextGain, 0, 0);
     case Side::East: return rect.adjusted(0, 0, 0, SelectedTextGain);
     default: return rect.adjusted(0, 0, SelectedTextGain, 0);
@@ -105,17 +88,6 @@ QRect rightButtonRect(const StyleContext& context, const QStyleOptionTab& tab,
 
 namespace {
 
-/// The side of a tab that faces its page.
-Helpers::StraightCornerFlags pageCorners(Side side)
-{
-    switch (side) {
-    case Side::South: return Helpers::TopCorners;
-    case Side::West: return Helpers::RightCorners;
-    case Side::East: return Helpers::LeftCorners;
-    default: return Helpers::BottomCorners;
-    }
-}
-
 /// Deliberate: unlike the font, only the properties of the bar and of its tab widget decide.
 ThemeNames::RadiusName radiusName(const QWidget* bar)
 {
@@ -140,7 +112,7 @@ QPolygonF triangularTab(const QRectF& rect, Side side)
 {
     constexpr qreal Slant = 8;
     constexpr qreal Cut = 2;
-    const bool upright = isUpright(side);
+    const bool upright = TabSides::isUpright(side);
     const qreal length = upright ? rect.height() : rect.width();
     const qreal depth = upright ? rect.width() : rect.height();
     QPolygonF points;
@@ -240,29 +212,6 @@ QRectF upToPage(const PaintContext& context, const QRectF& rect, Side side)
     }
 }
 
-/// What lies along an edge of `rect`, clear of its ends by `inset`.
-QRectF along(Side edge, const QRectF& rect, qreal inset, qreal thickness)
-{
-    const QRectF inner =
-        isUpright(edge) ? rect.adjusted(0, inset, 0, -inset) : rect.adjusted(inset, 0, -inset, 0);
-    switch (edge) {
-    case Side::North: return {inner.topLeft(), QSizeF(inner.width(), thickness)};
-    case Side::South: return {inner.left(), inner.bottom() - thickness, inner.width(), thickness};
-    case Side::West: return {inner.topLeft(), QSizeF(thickness, inner.height())};
-    default: return {inner.right() - thickness, inner.top(), thickness, inner.height()};
-    }
-}
-
-Side opposite(Side side)
-{
-    switch (side) {
-    case Side::North: return Side::South;
-    case Side::South: return Side::North;
-    case Side::West: return Side::East;
-    default: return Side::West;
-    }
-}
-
 QRectF outerEdges(const Shapes::Border& border)
 {
     const qreal half = border.pen.widthF() / 2;
@@ -275,7 +224,8 @@ void paintEdges(const PaintContext& context, const QRect& rect, const QBrush& br
     const Shapes::Border border = Shapes::borderInside(context.painter, rect, brush);
     const qreal width = border.pen.widthF();
     for (const Side edge : {Side::North, Side::South, Side::West, Side::East}) {
-        const QRectF line = along(edge, outerEdges(border), isUpright(edge) ? width : 0, width);
+        const QRectF line =
+            TabSides::along(edge, outerEdges(border), TabSides::isUpright(edge) ? width : 0, width);
         if (line.height() > 0)
             context.painter.fillRect(line, brush);
     }
@@ -293,8 +243,8 @@ void paintFrame(const PaintContext& context)
                           context.brush(ThemeNames::TabBackgroundActiveBrush)));
     if (const auto* frame = qstyleoption_cast<const QStyleOptionTabWidgetFrame*>(&context.option)) {
         // The selected tab and its page are one surface: no line between them.
-        const Side side = sideOf(frame->shape);
-        const bool upright = isUpright(side);
+        const Side side = TabSides::of(frame->shape);
+        const bool upright = TabSides::isUpright(side);
         const QRect gap = frame->selectedTabRect.adjusted(upright ? 0 : 1, upright ? 1 : 0,
                                                           upright ? 0 : -1, upright ? -1 : 0);
         context.painter.setClipRegion(QRegion(rect).subtracted(gap));
@@ -304,8 +254,8 @@ void paintFrame(const PaintContext& context)
 
 void paintBarBase(const PaintContext& context, const QStyleOptionTabBarBase& bar)
 {
-    const Side side = sideOf(bar.shape);
-    const QRect edge = along(opposite(side), bar.rect, 0, 1).toRect();
+    const Side side = TabSides::of(bar.shape);
+    const QRect edge = TabSides::along(TabSides::opposite(side), bar.rect, 0, 1).toRect();
     const QRegion line = QRegion(edge).subtracted(bar.selectedTabRect);
     for (const QRect& part : line)
         Shapes::drawBox(context, upToPage(context, part, side), 0, context.borderBrush(),
@@ -329,7 +279,7 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
     const QBrush fill = tabBackground(context, state);
     const QBrush border =
         highlighted ? context.brush(ThemeNames::TabBorderMouseOverBrush) : context.borderBrush();
-    const Side side = sideOf(tab.shape);
+    const Side side = TabSides::of(tab.shape);
     const QRect rect = shapeRect(context, tab, side, selected);
 
     if (isTriangular(tab.shape)) {
@@ -345,15 +295,16 @@ void paintShape(const PaintContext& context, const QStyleOptionTab& tab)
     }
     const QRectF shape = selected ? upToPage(context, rect, side) : QRectF(rect);
     Shapes::drawBox(context, shape, Shapes::cornerRadius(radiusName(context.widget)), fill, border,
-                    pageCorners(side));
+                    TabSides::pageCorners(side));
     constexpr int AccentThickness = 2;
     constexpr int AccentInset = 8; // clear of the round corners
     const Shapes::Border line = Shapes::borderInside(context.painter, shape, border);
     const qreal width = line.pen.widthF();
     if (line.pen.style() != Qt::NoPen)
-        context.painter.fillRect(along(opposite(side), outerEdges(line), width, width), fill);
+        context.painter.fillRect(
+            TabSides::along(TabSides::opposite(side), outerEdges(line), width, width), fill);
     if (selected)
-        Shapes::drawBox(context, along(side, rect, AccentInset, AccentThickness), 0,
+        Shapes::drawBox(context, TabSides::along(side, rect, AccentInset, AccentThickness), 0,
                         context.brush(ThemeNames::MainBrush), QBrush());
 }
 
@@ -379,7 +330,7 @@ void paintIcon(const PaintContext& context, const QStyleOptionTab& tab, const QB
     const QSize wanted = tab.iconSize.isValid() ? tab.iconSize : QSize(extent, extent);
     const QSize size = tab.icon.actualSize(wanted).boundedTo(wanted);
     QRect rect(text.left() - Spacing - size.width(), text.y(), size.width(), text.height());
-    if (context.rightToLeft() && !isUpright(sideOf(tab.shape)))
+    if (context.rightToLeft() && !TabSides::isUpright(TabSides::of(tab.shape)))
         rect.moveLeft(text.right() + 1 + Spacing);
     const QIcon::State state = context.has(QStyle::State_Selected) ? QIcon::On : QIcon::Off;
     Shapes::drawIcon(context, tab.icon, brush, rect, size, state);
@@ -389,7 +340,7 @@ void paintIcon(const PaintContext& context, const QStyleOptionTab& tab, const QB
 QRect labelRect(const PaintContext& context, const QStyleOptionTab& tab)
 {
     const QRect rect = context.part(QStyle::SE_TabBarTabText);
-    const bool isMirrored = context.rightToLeft() && !isUpright(sideOf(tab.shape));
+    const bool isMirrored = context.rightToLeft() && !TabSides::isUpright(TabSides::of(tab.shape));
     return isMirrored && hasWiderText(context, tab) ? rect.translated(-SelectedTextGain, 0) : rect;
 }
 
@@ -414,7 +365,7 @@ QRect beside(QRect rect, const QRect& button, bool upright)
 void paintFocus(const PaintContext& context, const QStyleOptionTab& tab)
 {
     const int inset = 2 + context.metric(QStyle::PM_DefaultFrameWidth);
-    const bool upright = isUpright(sideOf(tab.shape));
+    const bool upright = TabSides::isUpright(TabSides::of(tab.shape));
     auto focus = optionFrom<QStyleOptionFocusRect>(tab);
     focus.rect.adjust(inset, inset, -inset, -inset);
     // Qt places the buttons across the tab as if that were at the origin.
@@ -445,11 +396,11 @@ void setFontOfDragged(const PaintContext& context)
 void paintLabel(const PaintContext& context, const QStyleOptionTab& tab)
 {
     const QBrush foreground = tabForeground(context, tab);
-    const Side side = sideOf(tab.shape);
+    const Side side = TabSides::of(tab.shape);
     {
         const PainterSaver saver(context.painter);
         setFontOfDragged(context);
-        if (isUpright(side))
+        if (TabSides::isUpright(side))
             turn(context.painter, tab.rect, side);
         if (!tab.icon.isNull())
             paintIcon(context, tab, foreground);
