@@ -72,7 +72,10 @@ bool drawFromTile(const RoundedShape& shape, const QPen& shapePen, const QBrush&
                         shape.radius * device.horizontalScale(), stretchable);
     TileAxis vertical(rect.top(), rect.bottom(), reach.height(),
                       shape.radius * device.verticalScale(), stretchable);
-    if (qint64(horizontal.size) * vertical.size > LargestTile)
+    const qint64 pixelCount = qint64(horizontal.size) * vertical.size;
+    if (pixelCount == 0) // smaller than can be told from nothing
+        return true;
+    if (pixelCount > LargestTile)
         return false;
     const ShapeTile& tile = tileFor({pen, brush, shape.radius, device.horizontalScale(),
                                      device.verticalScale(), horizontal.edge, vertical.edge,

@@ -1,7 +1,6 @@
 #include "OddCases.h"
 
 #include "ProbeTheme.h"
-#include "Transcript.h"
 
 #include <QtWidgets>
 
@@ -133,81 +132,59 @@ void OddCases::setFields(QStyleOption& option, Fields Option::*... fields)
         (set(own->*fields), ...);
 }
 
-template <class Option, class Enum>
-void OddCases::setEnum(QStyleOption& option, Enum Option::*field, int count)
-{
-    if (auto* own = qstyleoption_cast<Option*>(&option))
-        own->*field = Enum(m_random.bounded(count));
-}
-
 void OddCases::spoilFields(QStyleOption& option)
 {
+    using Frame = QStyleOptionFrame;
     setFields(option, &QStyleOptionComplex::subControls, &QStyleOptionComplex::activeSubControls);
-    setFields(option, &QStyleOptionFrame::lineWidth, &QStyleOptionFrame::midLineWidth,
-              &QStyleOptionFrame::features);
-    setEnum(option, &QStyleOptionFrame::frameShape, 7);
-    setFields(option, &QStyleOptionTabWidgetFrame::lineWidth,
-              &QStyleOptionTabWidgetFrame::tabBarSize, &QStyleOptionTabWidgetFrame::tabBarRect,
-              &QStyleOptionTabWidgetFrame::selectedTabRect);
-    setEnum(option, &QStyleOptionTabWidgetFrame::shape, 8);
-    setFields(option, &QStyleOptionTabBarBase::tabBarRect,
-              &QStyleOptionTabBarBase::selectedTabRect);
-    setEnum(option, &QStyleOptionTabBarBase::shape, 8);
-    setFields(option, &QStyleOptionHeader::section, &QStyleOptionHeader::text,
-              &QStyleOptionHeader::icon, &QStyleOptionHeader::textAlignment);
-    setEnum(option, &QStyleOptionHeader::position, 4);
-    setEnum(option, &QStyleOptionHeader::sortIndicator, 3);
-    setEnum(option, &QStyleOptionHeader::orientation, 4);
-    setFields(option, &QStyleOptionButton::features, &QStyleOptionButton::text,
-              &QStyleOptionButton::icon, &QStyleOptionButton::iconSize);
-    setFields(option, &QStyleOptionTab::text, &QStyleOptionTab::icon, &QStyleOptionTab::row,
-              &QStyleOptionTab::iconSize, &QStyleOptionTab::leftButtonSize,
-              &QStyleOptionTab::rightButtonSize, &QStyleOptionTab::cornerWidgets);
-    setEnum(option, &QStyleOptionTab::shape, 8);
-    setEnum(option, &QStyleOptionTab::position, 4);
-    setFields(option, &QStyleOptionToolBar::features, &QStyleOptionToolBar::lineWidth);
-    setEnum(option, &QStyleOptionToolBar::toolBarArea, 9);
-    setFields(option, &QStyleOptionProgressBar::minimum, &QStyleOptionProgressBar::maximum,
-              &QStyleOptionProgressBar::progress, &QStyleOptionProgressBar::text,
-              &QStyleOptionProgressBar::textVisible, &QStyleOptionProgressBar::textAlignment,
-              &QStyleOptionProgressBar::invertedAppearance, &QStyleOptionProgressBar::bottomToTop);
-    setEnum(option, &QStyleOptionProgressBar::orientation, 4);
-    setFields(option, &QStyleOptionMenuItem::checked, &QStyleOptionMenuItem::menuHasCheckableItems,
-              &QStyleOptionMenuItem::menuRect, &QStyleOptionMenuItem::text,
-              &QStyleOptionMenuItem::icon, &QStyleOptionMenuItem::maxIconWidth,
-              &QStyleOptionMenuItem::tabWidth);
-    setEnum(option, &QStyleOptionMenuItem::menuItemType, 8);
-    setEnum(option, &QStyleOptionMenuItem::checkType, 3);
-    setFields(option, &QStyleOptionDockWidget::title, &QStyleOptionDockWidget::closable,
-              &QStyleOptionDockWidget::verticalTitleBar);
-    setFields(option, &QStyleOptionViewItem::displayAlignment,
-              &QStyleOptionViewItem::decorationAlignment, &QStyleOptionViewItem::decorationSize,
-              &QStyleOptionViewItem::features, &QStyleOptionViewItem::icon,
-              &QStyleOptionViewItem::text, &QStyleOptionViewItem::backgroundBrush);
-    setEnum(option, &QStyleOptionViewItem::decorationPosition, 4);
-    setEnum(option, &QStyleOptionViewItem::textElideMode, 4);
-    setEnum(option, &QStyleOptionViewItem::checkState, 3);
-    setEnum(option, &QStyleOptionViewItem::viewItemPosition, 5);
+    setFields(option, &Frame::lineWidth, &Frame::midLineWidth, &Frame::features,
+              &Frame::frameShape);
+    using Pane = QStyleOptionTabWidgetFrame;
+    setFields(option, &Pane::lineWidth, &Pane::tabBarSize, &Pane::tabBarRect,
+              &Pane::selectedTabRect, &Pane::shape);
+    using Base = QStyleOptionTabBarBase;
+    setFields(option, &Base::tabBarRect, &Base::selectedTabRect, &Base::shape);
+    using Header = QStyleOptionHeader;
+    setFields(option, &Header::section, &Header::text, &Header::icon, &Header::textAlignment,
+              &Header::position, &Header::sortIndicator, &Header::orientation);
+    using Button = QStyleOptionButton;
+    setFields(option, &Button::features, &Button::text, &Button::icon, &Button::iconSize);
+    using Tab = QStyleOptionTab;
+    setFields(option, &Tab::text, &Tab::icon, &Tab::row, &Tab::iconSize, &Tab::leftButtonSize,
+              &Tab::rightButtonSize, &Tab::cornerWidgets, &Tab::shape, &Tab::position);
+    using ToolBar = QStyleOptionToolBar;
+    setFields(option, &ToolBar::features, &ToolBar::lineWidth, &ToolBar::toolBarArea);
+    using Bar = QStyleOptionProgressBar;
+    setFields(option, &Bar::minimum, &Bar::maximum, &Bar::progress, &Bar::text, &Bar::textVisible,
+              &Bar::textAlignment, &Bar::invertedAppearance, &Bar::bottomToTop, &Bar::orientation);
+    using Entry = QStyleOptionMenuItem;
+    setFields(option, &Entry::checked, &Entry::menuHasCheckableItems, &Entry::menuRect,
+              &Entry::text, &Entry::icon, &Entry::maxIconWidth, &Entry::tabWidth,
+              &Entry::menuItemType, &Entry::checkType);
+    using Dock = QStyleOptionDockWidget;
+    setFields(option, &Dock::title, &Dock::closable, &Dock::verticalTitleBar);
+    using Item = QStyleOptionViewItem;
+    setFields(option, &Item::displayAlignment, &Item::decorationAlignment, &Item::decorationSize,
+              &Item::features, &Item::icon, &Item::text, &Item::backgroundBrush,
+              &Item::decorationPosition, &Item::textElideMode, &Item::checkState,
+              &Item::viewItemPosition);
     setFields(option, &QStyleOptionToolBox::text, &QStyleOptionToolBox::icon);
-    setFields(option, &QStyleOptionSlider::minimum, &QStyleOptionSlider::maximum,
-              &QStyleOptionSlider::sliderPosition, &QStyleOptionSlider::sliderValue,
-              &QStyleOptionSlider::singleStep, &QStyleOptionSlider::pageStep,
-              &QStyleOptionSlider::tickInterval, &QStyleOptionSlider::upsideDown);
-    setEnum(option, &QStyleOptionSlider::orientation, 4);
-    setEnum(option, &QStyleOptionSlider::tickPosition, 4);
-    setFields(option, &QStyleOptionSpinBox::frame, &QStyleOptionSpinBox::stepEnabled);
-    setEnum(option, &QStyleOptionSpinBox::buttonSymbols, 3);
-    setFields(option, &QStyleOptionToolButton::features, &QStyleOptionToolButton::text,
-              &QStyleOptionToolButton::icon, &QStyleOptionToolButton::iconSize);
-    setEnum(option, &QStyleOptionToolButton::arrowType, 5);
-    setEnum(option, &QStyleOptionToolButton::toolButtonStyle, 5);
-    setFields(option, &QStyleOptionComboBox::editable, &QStyleOptionComboBox::frame,
-              &QStyleOptionComboBox::currentText, &QStyleOptionComboBox::currentIcon,
-              &QStyleOptionComboBox::iconSize);
-    setFields(option, &QStyleOptionTitleBar::text, &QStyleOptionTitleBar::icon,
-              &QStyleOptionTitleBar::titleBarState, &QStyleOptionTitleBar::titleBarFlags);
-    setFields(option, &QStyleOptionGroupBox::features, &QStyleOptionGroupBox::text,
-              &QStyleOptionGroupBox::textAlignment, &QStyleOptionGroupBox::lineWidth);
+    using Slider = QStyleOptionSlider;
+    setFields(option, &Slider::minimum, &Slider::maximum, &Slider::sliderPosition,
+              &Slider::sliderValue, &Slider::singleStep, &Slider::pageStep, &Slider::tickInterval,
+              &Slider::upsideDown, &Slider::notchTarget, &Slider::dialWrapping,
+              &Slider::orientation, &Slider::tickPosition);
+    using SpinBox = QStyleOptionSpinBox;
+    setFields(option, &SpinBox::frame, &SpinBox::stepEnabled, &SpinBox::buttonSymbols);
+    using Tool = QStyleOptionToolButton;
+    setFields(option, &Tool::features, &Tool::text, &Tool::icon, &Tool::iconSize, &Tool::arrowType,
+              &Tool::toolButtonStyle);
+    using Combo = QStyleOptionComboBox;
+    setFields(option, &Combo::editable, &Combo::frame, &Combo::currentText, &Combo::currentIcon,
+              &Combo::iconSize);
+    using Title = QStyleOptionTitleBar;
+    setFields(option, &Title::text, &Title::icon, &Title::titleBarState, &Title::titleBarFlags);
+    using Group = QStyleOptionGroupBox;
+    setFields(option, &Group::features, &Group::text, &Group::textAlignment, &Group::lineWidth);
 }
 
 void OddCases::spoilWidget(Sample& sample)
@@ -313,10 +290,8 @@ void OddCases::paintAnywhere(const std::function<void(QPainter&)>& paint)
         QPdfWriter writer(&buffer);
         paintOn(writer);
     } else if (kind == 3) {
-        drawnAtRatio(ratio, [&](QPainter* painter) {
-            setUp(*painter);
-            paint(*painter);
-        });
+        QBitmap bitmap(90, 60);
+        paintOn(bitmap);
     } else {
         QImage image(
             90, 60,

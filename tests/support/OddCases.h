@@ -2,10 +2,30 @@
 
 #include "StyleOptions.h"
 
+#include <QFrame>
 #include <QPainter>
 #include <QRandomGenerator>
+#include <QStyleOption>
 
 #include <functional>
+
+/// How many values an enum of an option has, or a few more that need no more bits.
+template <class Enum>
+inline constexpr int CountOf = 4;
+template <>
+inline constexpr int CountOf<Qt::ArrowType> = 5;
+template <>
+inline constexpr int CountOf<Qt::ToolButtonStyle> = 5;
+template <>
+inline constexpr int CountOf<QStyleOptionViewItem::ViewItemPosition> = 5;
+template <>
+inline constexpr int CountOf<QFrame::Shape> = 7;
+template <>
+inline constexpr int CountOf<QTabBar::Shape> = 8;
+template <>
+inline constexpr int CountOf<QStyleOptionMenuItem::MenuItemType> = 8;
+template <>
+inline constexpr int CountOf<Qt::ToolBarArea> = 9;
 
 /// Calls of a style as no widget of the toolkit makes them, drawn by lot: the same ones from the
 /// same seed.
@@ -39,7 +59,15 @@ private:
     QPalette palette();
     QVariant variant();
 
+    template <class Enum>
+    std::enable_if_t<std::is_enum_v<Enum>> set(Enum& field)
+    {
+        field = Enum(m_random.bounded(CountOf<Enum>));
+    }
+
     void set(int& field) { field = number(); }
+
+    void set(qreal& field) { field = oneOf({3.7, 0.0, -1.0, 1e-300, 1e300, qQNaN(), qInf()}); }
 
     void set(bool& field) { field = rarely(); }
 
@@ -64,8 +92,6 @@ private:
 
     template <class Option, class... Fields>
     void setFields(QStyleOption& option, Fields Option::*... fields);
-    template <class Option, class Enum>
-    void setEnum(QStyleOption& option, Enum Option::*field, int count);
 
     void spoilFields(QStyleOption& option);
     void spoilWidget(StyleOptions::Sample& sample);

@@ -1,4 +1,5 @@
 #include "Helpers.h"
+#include "MessageRecorder.h"
 
 #include <QImage>
 #include <QPainter>
@@ -160,6 +161,7 @@ private Q_SLOTS:
 
     void degenerateInputDrawsNothing()
     {
+        const MessageRecorder messages;
         QImage image = canvas();
         QPainter painter(&image);
         painter.setBrush(Qt::red);
@@ -177,6 +179,9 @@ private Q_SLOTS:
         for (const int radius : {std::numeric_limits<int>::max(), std::numeric_limits<int>::min()})
             Helpers::drawRoundedRectShape(QRectF(5.5, 5.5, 20, 20), radius, Helpers::None,
                                           &painter);
+        painter.scale(1e-9, 1e-9);
+        Helpers::drawRoundedBox(QRectF(0, 0, 9, 9), 4, Helpers::None, Qt::NoPen, Qt::red, &painter);
+        QCOMPARE(messages.take(), QStringList());
     }
 
     void painterIsLeftAsFound()
