@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QBasicTimer>
 #include <QCoreApplication>
+#include <QCursor>
 #include <QHoverEvent>
 #include <QMouseEvent>
 #include <QPointer>
@@ -76,6 +77,11 @@ public:
     {
         if (event->type() == QEvent::Show || event->type() == QEvent::Resize)
             m_layoutSettled.start(0, this);
+        // A slider asks where the pointer is, not where it was told that it is.
+        static const bool sHasNoPointer =
+            QGuiApplication::platformName() == QLatin1String("offscreen");
+        if (event->type() == QEvent::Paint && m_state == State::Hovered && sHasNoPointer)
+            QCursor::setPos(qobject_cast<QWidget*>(watched)->mapToGlobal(m_place()));
         return QObject::eventFilter(watched, event);
     }
 

@@ -164,14 +164,17 @@ private Q_SLOTS:
                                      + qAbs(one.blue() - other.blue());
                 QVERIFY2(a == b || distance > 50, qPrintable(a + QLatin1String(" is like ") + b));
             }
-        const auto lightness = [&theme](const char* name) {
-            return ColorArithmetic::toOklab(theme.getColor(QLatin1String(name))).lightness;
-        };
-        QVERIFY(std::abs(lightness("StatusSuccessColor") - lightness("StatusDangerColor")) > 0.08);
+        const QStringList status =
+            names("StatusSuccessColor StatusWarningColor StatusDangerColor StatusInfoColor");
+        for (const QString& a : status)
+            for (const QString& b : status)
+                QVERIFY2(
+                    a == b || ColorArithmetic::contrast(theme.getColor(a), theme.getColor(b)) > 1.2,
+                    qPrintable(a + QLatin1String(" is as light as ") + b));
         const QColor field =
             theme.getColor(QStringLiteral("InputUncheckedBackgroundBrushDisabled"));
         const QColor placeholder = theme.getColor(QStringLiteral("Disabled.PlaceholderText"));
-        QVERIFY(ColorArithmetic::contrast(placeholder, field) > 2);
+        QVERIFY(ColorArithmetic::contrast(placeholder, field) > 3);
     }
 
     /// Whatever background, foreground and accent a theme chooses, the rest follows.

@@ -122,11 +122,16 @@ Corners straightCorners(const StyleContext& context)
                                                                      : Corners(Helpers::None);
 }
 
+bool isSpinButton(const QWidget* widget)
+{
+    return widget && WidgetTraits::isSpinBox(widget)
+           && !WidgetTraits::isCalendarPopupEditor(widget);
+}
+
 /// The ground of a spin box is also that of its buttons, until one is pressed or blinks.
 bool isSpinButtonOnGround(const StyleContext& context)
 {
-    if (!context.widget || !WidgetTraits::isSpinBox(context.widget)
-        || WidgetTraits::isCalendarPopupEditor(context.widget) || BaseStyle::isDown(context.option))
+    if (!isSpinButton(context.widget) || BaseStyle::isDown(context.option))
         return false;
     const WidgetProperties::Reader properties(context.widget);
     return BaseStyle::isHovered(&context.option)
@@ -164,6 +169,14 @@ bool showOwnGround(const StyleContext& context, BaseStyle::ButtonBrushes& brushe
 bool isMeantForFilling(const StyleContext& context, const QBrush& background)
 {
     return BaseStyle::isFlatButton(&context.option) && !isFilled(context) && background.isOpaque();
+}
+
+/// What the theme writes in on such a button.
+QBrush themedWords(const StyleContext& context, const BaseStyle::ButtonBrushes& brushes)
+{
+    return isMeantForFilling(context, brushes.backgroundBrush)
+               ? context.brush(ThemeNames::ButtonUncheckedForegroundBrush)
+               : brushes.foregroundBrush;
 }
 
 /// The keyboard's place is seen without colors too: there the border takes the accent and is two
@@ -265,13 +278,18 @@ void paintPanel(const PaintContext& context)
         paintSegment(context, brushes);
         return;
     }
+    // Deliberate: the arrow of a pressed step takes the color of selections in the back, which is a
+    // tint of the ground that it stands on else.
+    if (isSpinButton(context.widget) && BaseStyle::isDown(context.option))
+        brushes.backgroundBrush = brushes.borderBrush =
+            context.color(ThemeNames::MainUpLevel1Color);
     const bool filled =
         isFilled(context) || (hasOwnGround && !BaseStyle::isFlatButton(&context.option));
     const bool hasError = showsError(context);
-    if (!filled && !hasError && BaseStyle::isFlatButton(&context.option))
+    const bool isFocused = showsFocus(context);
+    if (!filled && !hasError && !isFocused && BaseStyle::isFlatButton(&context.option))
         return;
     const QColor errorColor = context.color(ThemeNames::StatusDangerColor);
-    const bool isFocused = showsFocus(context);
     if (hasError)
         brushes.borderBrush = errorColor;
     else if (isFocused)
@@ -304,7 +322,8 @@ void paintButton(const PaintContext& context, const QStyleOptionButton& button)
                          ? squareInside(button.rect)
                          : context.part(QStyle::SE_PushButtonFocusRect);
         // The mark lies on the button's body, so it takes the color of the words there.
-        const QBrush words = BaseStyle::buttonBrushes(&button, context.widget).foregroundBrush;
+        const QBrush words =
+            themedWords(context, BaseStyle::buttonBrushes(&button, context.widget));
         if (words.style() != Qt::NoBrush)
             Foregrounds::set(focus, words, QPalette::Text);
         context.draw(QStyle::PE_FrameFocusRect, focus);
@@ -330,9 +349,7 @@ void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
 void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
 {
     const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&button, context.widget);
-    QBrush themed = brushes.foregroundBrush;
-    if (isMeantForFilling(context, brushes.backgroundBrush))
-        themed = context.brush(ThemeNames::ButtonUncheckedForegroundBrush);
+    QBrush themed = themedWords(context, brushes);
     if (themed.style() == Qt::NoBrush)
         themed = context.color(ThemeNames::ForegroundColor);
     const QBrush foreground =

@@ -237,11 +237,16 @@ void paintTicks(const SliderLook& look)
     }
 }
 
+bool isHeld(const QWidget* widget)
+{
+    const auto* slider = qobject_cast<const QAbstractSlider*>(widget);
+    return slider && slider->isSliderDown();
+}
+
 QBrush handleBrush(const SliderLook& look)
 {
     const PaintContext& context = look.context;
-    const auto* widget = qobject_cast<const QAbstractSlider*>(context.widget);
-    if (widget && widget->isSliderDown())
+    if (isHeld(context.widget))
         return context.brush(ThemeNames::SliderThumbNailPressedBrush);
     const bool hovered = context.has(QStyle::State_MouseOver) && context.widget
                          && look.handle.contains(context.widget->mapFromGlobal(QCursor::pos()));
@@ -321,6 +326,15 @@ qreal handAngle(const QStyleOptionSlider& dial)
     return dial.dialWrapping ? Turn * 3 / 4 - done * Turn : Start - done * Way;
 }
 
+/// Qt tells no option of a dial that it is being turned.
+BaseStyle::ButtonBrushes dialBrushes(const PaintContext& context, const QStyleOptionSlider& dial)
+{
+    QStyleOptionSlider copy = dial;
+    if (isHeld(context.widget))
+        copy.state |= QStyle::State_Sunken;
+    return BaseStyle::buttonBrushes(&copy, context.widget);
+}
+
 void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
 {
     constexpr qreal FaceInRect = 0.8; // notches stand around it
@@ -331,12 +345,10 @@ void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
     const qreal radius = FaceInRect * qMin(dial.rect.width(), dial.rect.height()) / 2;
     const bool focused = context.has(QStyle::State_HasFocus);
     context.painter.setRenderHint(QPainter::Antialiasing);
-    context.painter.setPen(
-        QPen(context.brush(focused ? ThemeNames::MainBrush : ThemeNames::ControlBorderBrush),
-             focused ? 2 : 1));
-    context.painter.setBrush(
-        OwnColors::ground(context, QPalette::Button,
-                          BaseStyle::buttonBrushes(&dial, context.widget).backgroundBrush));
+    const BaseStyle::ButtonBrushes brushes = dialBrushes(context, dial);
+    context.painter.setPen(focused ? QPen(context.brush(ThemeNames::MainBrush), 2)
+                                   : QPen(brushes.borderBrush, 1));
+    context.painter.setBrush(OwnColors::ground(context, QPalette::Button, brushes.backgroundBrush));
     context.painter.drawEllipse(centre, radius, radius);
     const qreal angle = handAngle(dial);
     const qreal length = HandInFace * radius;
