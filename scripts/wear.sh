@@ -22,7 +22,7 @@ shift $((OPTIND - 1))
     sqlitebrowser wireshark
 
 packages=
-for needed in Xvfb=xvfb montage=imagemagick openbox dbus-run-session=dbus "$@"; do
+for needed in Xvfb=xvfb montage=imagemagick xdotool openbox dbus-run-session=dbus "$@"; do
     needed=${needed%%:*}
     command -v "${needed%%=*}" >/dev/null || packages="$packages ${needed#*=}"
 done
@@ -50,7 +50,7 @@ wear() { # PROGRAM STYLE FILES, with ":" between them
         QT_FONT_DPI=96 QT_SCALE_FACTOR="$scale" QT_STYLE_OVERRIDE="$2" QT_PLUGIN_PATH="$build/plugins" \
         XDG_DATA_DIRS="$build/share:/usr/local/share:/usr/share" LC_ALL=C.UTF-8 \
         QT_QPA_GENERIC_PLUGINS=varn_wear WEAR_PICTURES="$out/$1/$2-" \
-        timeout -k 1 120 dbus-run-session -- "$1" $files >"$out/$1/$2.log" 2>&1 ||
+        timeout -k 1 240 dbus-run-session -- "$1" $files >"$out/$1/$2.log" 2>&1 ||
         echo "$1 did not come through under $2: $out/$1/$2.log" >&2
 }
 

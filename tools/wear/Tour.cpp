@@ -7,10 +7,10 @@
 #include <QContextMenuEvent>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QProcess>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScreen>
@@ -25,10 +25,16 @@ namespace {
 constexpr int Pace = 400; // ms
 constexpr int Patience = 8; // steps, for a window to come and to settle
 constexpr int MostPages = 12;
+constexpr int MostKeys = 40; // that lead to an action
 constexpr int Focused = 3; // times that the focus moves on
 constexpr int Greetings = 3; // dialogs that come before a program is at work
 constexpr int Surroundings = 8; // of a popup
 constexpr int LeastWidth = 100; // of a dialog: smaller windows serve other ends
+const QString Tab = QStringLiteral("Tab");
+const QString Alt = QStringLiteral("Alt_L");
+const QString Down = QStringLiteral("Down");
+const QString Right = QStringLiteral("Right");
+const QString Return = QStringLiteral("Return");
 const QSize Small(420, 320);
 const QSize Usual(960, 680);
 const QSize Large(1200, 880);
@@ -118,20 +124,10 @@ void answerGreeting()
         greeting->close();
 }
 
-void post(QObject* receiver, QEvent::Type type, int key, Qt::KeyboardModifiers modifiers = {})
+/// Presses keys as a person would, by the names that X has for them.
+void type(const QStringList& keys)
 {
-    QApplication::postEvent(receiver, new QKeyEvent(type, key, modifiers));
-}
-
-void press(int key)
-{
-    QObject* receiver = QApplication::activePopupWidget();
-    if (!receiver)
-        receiver = QApplication::focusWidget();
-    if (!receiver)
-        return;
-    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
-        post(receiver, type, key);
+    QProcess::startDetached(QStringLiteral("xdotool"), QStringList(QStringLiteral("key")) + keys);
 }
 
 QAction* findAction(const QWidget* window, const char* pattern, QAction::MenuRole role)
@@ -147,6 +143,15 @@ QAction* findAction(const QWidget* window, const char* pattern, QAction::MenuRol
             found = action;
     }
     return found;
+}
+
+bool isInMenus(const QWidget* window, QAction* action)
+{
+    const auto bars = visible<QMenuBar>(window);
+    const auto menus = bars.isEmpty() ? QList<QAction*>() : bars.first()->actions();
+    return std::any_of(menus.begin(), menus.end(), [action](const QAction* menu) {
+        return menu->menu() && menu->menu()->actions().contains(action);
+    });
 }
 
 QWidget* contextWidget(const QWidget* window)
@@ -226,21 +231,42 @@ void Tour::visit(const QString& name, const Step& step)
     m_steps.push_back([this, name] { picture(name); });
 }
 
-/// What shows without a mouse: the focus as it moves on, the bar of menus, a menu.
+/// What shows without a mouse: the focus as it moves on, the bar of menus, two of the menus.
 void Tour::visitByKeys(const QString& name)
 {
     m_steps.push_back([] { closePopups(); });
+    const auto visitKeys = [&](const QString& station, const QStringList& keys) {
+        visit(name + QLatin1Char('-') + station, [keys] { type(keys); });
+    };
     for (int step = 1; step <= Focused; ++step)
-        visit(name + QLatin1Char('-') + QString::number(step), [] { press(Qt::Key_Tab); });
-    visit(name + QLatin1String("-bar"), [this] {
-        post(m_window, QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
-        post(m_window, QEvent::KeyRelease, Qt::Key_Alt);
-    });
-    visit(name + QLatin1String("-menu"), [] {
-        press(Qt::Key_Down);
-        press(Qt::Key_Down);
-    });
+        visitKeys(QString::number(step), {Tab});
+    visitKeys(QStringLiteral("bar"), {Alt});
+    visitKeys(QStringLiteral("menu"), {Down, Down});
+    visitKeys(QStringLiteral("next"), {Right, Down});
     m_steps.push_back([] { closePopups(); });
+}
+
+/// Leads the keyboard through the menus to an action; one that is not reached is triggered.
+void Tour::reach(const QString& name, const QPointer<QAction>& action, int patience)
+{
+    const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!action || patience == 0) {
+        closePopups();
+        // Queued, for it may not return before a dialog is closed.
+        if (action)
+            QMetaObject::invokeMethod(action, "trigger", Qt::QueuedConnection);
+        return;
+    }
+    if (menu && menu->activeAction() == action) {
+        picture(name + QLatin1String("-reached"));
+        type({Return});
+        return;
+    }
+    if (!menu)
+        type({Alt, Down});
+    else
+        type({menu->actions().contains(action) ? Down : Right});
+    m_steps.push_front([=] { reach(name, action, patience - 1); });
 }
 
 void Tour::visitMenus()
@@ -262,11 +288,7 @@ void Tour::visitDialog(const QString& name, QAction* action)
 {
     if (!action)
         return;
-    // Queued, for it may not return before the dialog is closed.
-    visit(name, [action] {
-        closePopups();
-        QMetaObject::invokeMethod(action, "trigger", Qt::QueuedConnection);
-    });
+    visit(name, [=] { reach(name, action, isInMenus(m_window, action) ? MostKeys : 0); });
     m_steps.push_back([this, name] { visitPages(name); });
     m_steps.push_back([this] { closeDialogs(m_window); });
     m_steps.push_back([this] { closeDialogs(m_window); });
@@ -302,8 +324,8 @@ void Tour::visitPages(const QString& name)
                     view->setCurrentIndex(view->model()->index(row, 0));
             });
     }
-    if (box)
-        visit(name + QLatin1String("-keys"), [] { press(Qt::Key_Tab); });
+    for (int step = 1; box && step <= Focused; ++step)
+        visit(name + QLatin1String("-keys-") + QString::number(step), [] { type({Tab}); });
     m_steps.insert(m_steps.end(), after.begin(), after.end());
 }
 

@@ -1,13 +1,12 @@
 #pragma once
 
+#include <QAction>
 #include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
 #include <deque>
 #include <functional>
-
-class QAction;
 
 /// Leads the program that it is part of through its menus, dialogs and sizes, takes a picture of
 /// what is on top at each station, and ends the program.
@@ -24,6 +23,7 @@ private:
     void advance();
     /// Has `step` done, and what is then seen pictured.
     void visit(const QString& name, const Step& step);
+    void reach(const QString& name, const QPointer<QAction>& action, int patience);
     void visitByKeys(const QString& name);
     void visitMenus();
     void visitDialog(const QString& name, QAction* action);
