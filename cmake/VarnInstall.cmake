@@ -8,6 +8,8 @@ set(VARN_PACKAGING_DIR ${CMAKE_CURRENT_LIST_DIR}/../packaging)
 
 # varn_install_library(TARGET COMPONENT): a library that exports what it means to, and its pkg-config file.
 function(varn_install_library target component)
+    # No define of CMake's own: static and shared libraries are made of the same objects.
+    set_target_properties(${target} PROPERTIES DEFINE_SYMBOL "")
     get_target_property(type ${target} TYPE)
     if(type STREQUAL SHARED_LIBRARY)
         target_link_options(${target} PRIVATE LINKER:--version-script=${VARN_EXPORTS})

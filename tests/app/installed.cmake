@@ -1,5 +1,6 @@
 # Builds and runs the project CONSUMER against the build tree BUILD, or against static libraries that it builds itself from
-# SOURCE, and then against what either installs, by CMake and by pkg-config. All of it below WORK.
+# SOURCE, then against what either installs, by CMake and by pkg-config, and at last against shared libraries that it builds
+# itself, of the objects of the static ones. All of it below WORK.
 function(run)
     execute_process(COMMAND ${ARGN} RESULT_VARIABLE result OUTPUT_VARIABLE output ERROR_VARIABLE output)
     if(result)
@@ -11,11 +12,12 @@ endfunction()
 function(adopt way)
     run(${CMAKE_COMMAND} -S ${CONSUMER} -B ${WORK}/${way} -G ${GENERATOR} -DCMAKE_CXX_FLAGS=${FLAGS}
         -DCMAKE_BUILD_TYPE=Debug -DCMAKE_CXX_FLAGS_DEBUG=-O0 ${ARGN})
-    run(${CMAKE_COMMAND} --build ${WORK}/${way})
+    run(${CMAKE_COMMAND} --build ${WORK}/${way} --target ${targets})
     run(${WORK}/${way}/consumer)
 endfunction()
 
 file(REMOVE_RECURSE ${WORK})
+set(targets all)
 if(SOURCE)
     set(BUILD ${WORK}/source)
     set(ENV{XDG_DATA_DIRS} ${BUILD}/share)
@@ -47,4 +49,11 @@ if(PKG_CONFIG)
     run(${CXX} -std=c++17 -fPIC -DTHEMES_DIR="${themes}" ${CONSUMER}/main.cpp -o ${WORK}/by-pkg-config
         ${flags} -Wl,-rpath,${prefix}/${LIBDIR})
     run(${WORK}/by-pkg-config)
+endif()
+
+if(SOURCE)
+    set(ENV{XDG_DATA_DIRS} ${BUILD}/share)
+    set(ENV{QT_PLUGIN_PATH} ${BUILD}/plugins)
+    set(targets consumer varn_style)
+    adopt(source -DBUILD_SHARED_LIBS=ON -DVARN_BUILD_TOOLS=ON)
 endif()
