@@ -3,6 +3,7 @@
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
 #include <QCursor>
@@ -92,6 +93,13 @@ const QBrush& composedBrush(const Words& words, const QString& kind, bool enable
     return values.brushes.at(place);
 }
 
+/// Asking a button itself is quicker than asking for its property.
+bool isCheckable(const QWidget* widget, const WidgetProperties::Reader& properties)
+{
+    const auto* button = qobject_cast<const QAbstractButton*>(widget);
+    return button ? button->isCheckable() : properties.flag(WidgetProperties::Checkable);
+}
+
 struct ButtonLook
 {
     const QStyleOption& option;
@@ -101,7 +109,7 @@ struct ButtonLook
     bool enabled = !widget || widget->isEnabled();
     const QComboBox* comboBox = qobject_cast<const QComboBox*>(widget);
     bool spinBox = widget && WidgetTraits::isSpinBox(widget);
-    bool checkable = properties.flag(WidgetProperties::Checkable);
+    bool checkable = isCheckable(widget, properties);
     QString kind = properties.kind();
     CheckWord check = CheckWord::Unchecked;
     PointerWord pointer = PointerWord::None;

@@ -1,10 +1,12 @@
 #include "BaseStyle.h"
 #include "EmbeddedIcons.h"
 #include "Helpers.h"
+#include "Kept.h"
 #include "ThemeIcons.h"
 #include "ThemeValues.h"
 #include "WidgetProperties.h"
 
+#include <QGuiApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QStyleOption>
@@ -120,6 +122,31 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
     return Helpers::getModifiedIconWithForegroundBrush(icon, reference, mainBrush, false);
 }
 
+/// All that the toolkit's icons depend on.
+struct ToolkitIcon
+{
+    QStyle::StandardPixmap pixmap;
+    Qt::LayoutDirection direction;
+    QString iconTheme;
+
+    friend bool operator==(const ToolkitIcon& one, const ToolkitIcon& other)
+    {
+        return one.pixmap == other.pixmap && one.direction == other.direction
+               && one.iconTheme == other.iconTheme;
+    }
+
+    friend uint qHash(const ToolkitIcon& key, uint seed) { return ::qHash(int(key.pixmap), seed); }
+};
+
+/// Title bars ask for these whenever they are painted, and making one takes 370,000 instructions:
+/// more than all else in a title bar.
+bool isForTitleBars(QStyle::StandardPixmap pixmap)
+{
+    return pixmap == QStyle::SP_TitleBarMenuButton || pixmap == QStyle::SP_TitleBarContextHelpButton
+           || pixmap == QStyle::SP_TitleBarShadeButton
+           || pixmap == QStyle::SP_TitleBarUnshadeButton;
+}
+
 } // namespace
 
 QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
@@ -140,8 +167,19 @@ QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
     case SP_ToolBarVerticalExtensionButton:
         return extensionIcon(themeValues().verticalExtension, toolbarVertical);
     case SP_CustomBase: return highlightedIcon(option, widget);
-    default: return QProxyStyle::standardIcon(pixmap, option, widget);
+    default: break;
     }
+    if (!isForTitleBars(pixmap))
+        return QProxyStyle::standardIcon(pixmap, option, widget);
+    constexpr int BytesOfIcon = 16384; // up to 64 pixels
+    static Kept::Store<ToolkitIcon, QIcon> sIcons;
+    const ToolkitIcon key{pixmap, option ? option->direction : QGuiApplication::layoutDirection(),
+                          QIcon::themeName()};
+    if (const QIcon* known = sIcons.find(key))
+        return *known;
+    return *sIcons.keep(key,
+                        std::make_unique<QIcon>(QProxyStyle::standardIcon(pixmap, option, widget)),
+                        BytesOfIcon);
 }
 
 QPixmap BaseStyle::standardPixmap(StandardPixmap pixmap, const QStyleOption* option,
