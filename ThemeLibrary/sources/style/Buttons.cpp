@@ -122,16 +122,11 @@ Corners straightCorners(const StyleContext& context)
                                                                      : Corners(Helpers::None);
 }
 
-bool isSpinButton(const QWidget* widget)
-{
-    return widget && WidgetTraits::isSpinBox(widget)
-           && !WidgetTraits::isCalendarPopupEditor(widget);
-}
-
 /// The ground of a spin box is also that of its buttons, until one is pressed or blinks.
 bool isSpinButtonOnGround(const StyleContext& context)
 {
-    if (!isSpinButton(context.widget) || BaseStyle::isDown(context.option))
+    if (!context.widget || !WidgetTraits::isSpinBox(context.widget)
+        || WidgetTraits::isCalendarPopupEditor(context.widget) || BaseStyle::isDown(context.option))
         return false;
     const WidgetProperties::Reader properties(context.widget);
     return BaseStyle::isHovered(&context.option)
@@ -278,11 +273,6 @@ void paintPanel(const PaintContext& context)
         paintSegment(context, brushes);
         return;
     }
-    // Deliberate: the arrow of a pressed step takes the color of selections in the back, which is a
-    // tint of the ground that it stands on else.
-    if (isSpinButton(context.widget) && BaseStyle::isDown(context.option))
-        brushes.backgroundBrush = brushes.borderBrush =
-            context.color(ThemeNames::MainUpLevel1Color);
     const bool filled =
         isFilled(context) || (hasOwnGround && !BaseStyle::isFlatButton(&context.option));
     const bool hasError = showsError(context);

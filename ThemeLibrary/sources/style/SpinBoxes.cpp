@@ -146,7 +146,7 @@ void paintStepButton(const PaintContext& context, const StepButton& button,
         Foregrounds::set(copy, copy.palette.brush(QPalette::HighlightedText));
     if (BaseStyle::isButtonHovered(&bevel))
         Foregrounds::set(copy, context.brush(ThemeNames::MainBrush));
-    if (BaseStyle::isDown(bevel))
+    if (BaseStyle::isDown(bevel)) // Deliberate: an arrow fades while its step is held.
         Foregrounds::set(copy, context.brush(ThemeNames::MainSubLevel1Brush));
     const bool hasSigns = copy.buttonSymbols == QAbstractSpinBox::PlusMinus;
     context.draw(hasSigns ? button.sign : button.arrow, copy);
