@@ -53,18 +53,19 @@ MappingPointer mapOwnNames(const QString& root)
     return std::make_unique<Mapping>(sIcons.data(), root);
 }
 
-bool hasIndex(const QString& themeName)
+/// Whether one of the places has a file, or a folder, of the name.
+bool holds(const QStringList& places, const QString& name)
 {
-    const QStringList paths = QIcon::themeSearchPaths();
-    return std::any_of(paths.begin(), paths.end(), [&](const QString& path) {
-        return QFile::exists(path + QLatin1Char('/') + themeName + QLatin1String("/index.theme"));
+    return std::any_of(places.begin(), places.end(), [&name](const QString& place) {
+        return QFile::exists(place + QLatin1Char('/') + name);
     });
 }
 
 MappingPointer mapIndex(const QString& themeName)
 {
     static const QResource sIndex = embedded(QStringLiteral("index.rcc"));
-    if (themeName.isEmpty() || hasIndex(themeName))
+    if (themeName.isEmpty()
+        || holds(QIcon::themeSearchPaths(), themeName + QLatin1String("/index.theme")))
         return {};
     return std::make_unique<Mapping>(sIndex.data(), QLatin1String("/icons/") + themeName);
 }
@@ -82,6 +83,7 @@ QByteArray standardIcons(const QColor& color)
 const MappingPointer ownIcons = mapOwnNames(QStringLiteral("/Icons"));
 
 QColor currentColor(ReferenceColor);
+QString themeWithoutFolder;
 
 } // namespace
 
@@ -100,12 +102,24 @@ void offerToIconTheme(const QString& themeName, const QColor& foreground)
     sByStandardNames =
         std::make_unique<Mapping>(reinterpret_cast<const uchar*>(sStandardIcons.constData()), root);
     sByOwnNames = mapOwnNames(root);
+    const bool hasFolder = holds(QIcon::themeSearchPaths(), themeName);
+    themeWithoutFolder = hasFolder ? QString() : themeName;
     sIndex = mapIndex(themeName);
 }
 
 QColor offeredColor()
 {
     return currentColor;
+}
+
+bool mayBeHandMade(const QString& icon)
+{
+    if (themeWithoutFolder.isEmpty() || QIcon::themeName() != themeWithoutFolder)
+        return true;
+    const QStringList places = QIcon::fallbackSearchPaths();
+    return holds(places, icon + QLatin1String(".svg"))
+           || holds(places, icon + QLatin1String(".png"))
+           || holds(places, icon + QLatin1String(".xpm"));
 }
 
 StyleIcon::operator QIcon() const

@@ -17,6 +17,11 @@ void offerToIconTheme(const QString& themeName, const QColor& foreground);
 /// The color in which icons of desktop names are offered.
 QColor offeredColor();
 
+/// Whether a theme can have drawn this icon by hand. One without a folder of icons cannot: asking
+/// Qt for an icon that nobody has makes it read all themes that the icon theme falls back to, at
+/// the start of a program that has no use for them.
+bool mayBeHandMade(const QString& icon);
+
 /// An icon that the style shows by name: the icon theme's, else the library's own, so that the
 /// marks of the style are there whatever the icon theme is. Follows when that changes.
 class StyleIcon

@@ -47,11 +47,11 @@ Finding find(const FindingKey& key)
     brushName.replace(QLatin1String("BrushDisabled"), QLatin1String("DisabledBrush"));
     Finding finding;
     finding.disabled = brushName.contains(ThemeNames::Disabled.text);
-    if (key.icon.isEmpty() || brushName.isEmpty())
-        return finding;
     // Qt shortens names at hyphens until it finds an icon; only the exact name is the theme
     // author's own.
     const QString themedName = key.icon + QLatin1Char('.') + brushName;
+    if (key.icon.isEmpty() || brushName.isEmpty() || !EmbeddedIcons::mayBeHandMade(themedName))
+        return finding;
     const QIcon themed = QIcon::fromTheme(themedName);
     if (themed.name() == themedName)
         finding.handMade = themed;

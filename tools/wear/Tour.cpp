@@ -166,6 +166,8 @@ QWidget* contextWidget(const QWidget* window)
 
 Tour::Tour(const QString& pictures) : m_pictures(pictures), m_patience(Patience)
 {
+    // Programs that this one starts are not led.
+    qunsetenv("QT_QPA_GENERIC_PLUGINS");
     connect(&m_timer, &QTimer::timeout, this, &Tour::start);
     m_timer.start(Pace);
 }
@@ -203,7 +205,9 @@ void Tour::plan()
         }
     });
     visitByKeys(QStringLiteral("keys"));
-    visitDialog(QStringLiteral("open"), findAction(m_window, "^Open\\b.*", QAction::NoRole));
+    visitDialog(
+        QStringLiteral("open"),
+        findAction(m_window, "^Open\\b(?! (Containing|Recent|With|Terminal))", QAction::NoRole));
     visitDialog(QStringLiteral("settings"),
                 findAction(m_window,
                            "^(Preferences|Settings|Options|Configur|Program settings|Editor)",
