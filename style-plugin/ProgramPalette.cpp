@@ -67,6 +67,16 @@ void renewColors(QWidget& widget, const QPalette& before, const QPalette& after)
 
 } // namespace
 
+QPalette withReadableGroups(QPalette palette)
+{
+    constexpr auto Disabled = QPalette::Disabled;
+    palette.setBrush(Disabled, QPalette::Highlight,
+                     palette.brush(QPalette::Inactive, QPalette::Highlight));
+    for (const auto role : {QPalette::HighlightedText, QPalette::Link, QPalette::LinkVisited})
+        palette.setBrush(Disabled, role, palette.brush(Disabled, QPalette::Text));
+    return palette;
+}
+
 bool isWhole(const QPalette& palette, const QPalette& themed)
 {
     const bool bringsAll =

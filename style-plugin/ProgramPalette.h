@@ -6,6 +6,11 @@
 /// taken as a whole or not at all.
 namespace BRELK::ProgramPalette {
 
+/// The palette of a theme for programs that take all colors from it. What is derived by factors
+/// that suit words on the theme's grounds may be lost on others: disabled words that are selected,
+/// links.
+QPalette withReadableGroups(QPalette palette);
+
 /// Whether `palette` can stand in for `themed`: it keeps the grounds and words of the theme or
 /// brings all of its own, and its words stand out from its grounds.
 bool isWhole(const QPalette& palette, const QPalette& themed);

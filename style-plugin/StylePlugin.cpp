@@ -84,7 +84,9 @@ private:
         app().setProperty(CustomActionIcons, true);
         if (!m_before.iconTheme.isEmpty())
             QIcon::setThemeName(m_before.iconTheme);
-        m_palette = style->standardPalette();
+        m_palette = ProgramPalette::withReadableGroups(style->standardPalette());
+        if (auto* themed = qobject_cast<BaseStyle*>(style))
+            themed->setPalette(m_palette);
         ProgramLooks::matchIcons(m_palette);
         m_themed = ProgramLooks::current();
         m_worn = m_palette;

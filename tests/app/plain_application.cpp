@@ -15,7 +15,9 @@
 #include <QToolTip>
 
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
+#include <utility>
 
 namespace {
 
@@ -33,11 +35,36 @@ QString kindOf(const QColor& color)
     return color.lightness() < Middle ? QStringLiteral("dark") : QStringLiteral("light");
 }
 
+/// Words on their grounds: "quiet" are those that differ from the words of active windows, "lost"
+/// those that can hardly be told from the ground.
+void printGroup(const char* name, const QPalette& palette, QPalette::ColorGroup group)
+{
+    constexpr int LeastDifference = 60; // of 255
+    using Pair = std::pair<QPalette::ColorRole, QPalette::ColorRole>;
+    QStringList pairs;
+    for (const auto& [role, groundRole] :
+         {Pair{QPalette::WindowText, QPalette::Window}, Pair{QPalette::Text, QPalette::Base},
+          Pair{QPalette::ButtonText, QPalette::Button}, Pair{QPalette::Link, QPalette::Base},
+          Pair{QPalette::HighlightedText, QPalette::Highlight}}) {
+        const QColor words = palette.color(group, role);
+        const QColor ground = palette.color(group, groundRole);
+        const bool isLost = std::abs(qGray(words.rgb()) - qGray(ground.rgb())) < LeastDifference;
+        const bool isQuiet = words != palette.color(QPalette::Active, role);
+        pairs += QLatin1String(isLost    ? "lost"
+                               : isQuiet ? "quiet"
+                                         : "usual")
+                 % QLatin1String(" on ") % kindOf(ground);
+    }
+    print(name, pairs.join(QLatin1String(", ")));
+}
+
 void printLooks(const char* moment)
 {
     const QStyle& style = *QApplication::style();
     print(moment, style.objectName());
     print("window", kindOf(QApplication::palette().color(QPalette::Window)));
+    printGroup("inactive", QApplication::palette(), QPalette::Inactive);
+    printGroup("disabled", QApplication::palette(), QPalette::Disabled);
     print("tool tip", kindOf(QToolTip::palette().color(QPalette::ToolTipBase)));
     print("font", QString::number(QApplication::font().pointSizeF()));
     print("icon theme", QIcon::themeName() % QLatin1String(" or ") % QIcon::fallbackThemeName());
@@ -67,8 +94,8 @@ void setPalette(const QString& kind)
 } // namespace
 
 /// A program that was built without the library and prints what it looks like. PLAIN_SHEET is its
-/// style sheet, PLAIN_PALETTE the color of its palette, PLAIN_LATER what it sets later, PLAIN_ICONS
-/// its icon theme.
+/// style sheet, PLAIN_STYLE the style that it chooses after that, PLAIN_PALETTE the color of its
+/// palette, PLAIN_LATER what it sets later, PLAIN_ICONS its icon theme.
 int main(int argc, char** argv)
 {
     print("before", QStyleFactory::create(QStringLiteral("varn")) ? QStringLiteral("a style")
@@ -84,6 +111,8 @@ int main(int argc, char** argv)
     const QApplication app(argc, argv);
     if (qEnvironmentVariableIsSet("PLAIN_SHEET"))
         qApp->setStyleSheet(qEnvironmentVariable("PLAIN_SHEET"));
+    if (qEnvironmentVariableIsSet("PLAIN_STYLE"))
+        QApplication::setStyle(qEnvironmentVariable("PLAIN_STYLE"));
     printLooks("style");
 
     QLabel label;
@@ -127,7 +156,6 @@ int main(int argc, char** argv)
         second->deleteLater();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     print("deleted", second ? QStringLiteral("no") : QStringLiteral("yes"));
-    qApp->setStyleSheet({});
     QApplication::setStyle(QStringLiteral("windows"));
     printLooks("afterwards");
     return 0;
