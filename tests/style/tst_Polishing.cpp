@@ -175,7 +175,7 @@ private Q_SLOTS:
         QCOMPARE(list.palette().base(), QPalette(Qt::green).base());
     }
 
-    void weekendsAreRead()
+    void calendarsAreRead()
     {
         QCalendarWidget calendar;
         QTextCharFormat own;
@@ -187,6 +187,13 @@ private Q_SLOTS:
         };
         QCOMPARE(color(Qt::Saturday), "StatusDangerColor");
         QCOMPARE(color(Qt::Sunday), "#00ff00");
+        for (const bool enabled : {false, true}) {
+            calendar.setEnabled(enabled);
+            const auto* bar =
+                calendar.findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar"));
+            QCOMPARE(bar->backgroundRole(), enabled ? QPalette::Highlight : QPalette::Button);
+            QCOMPARE(color(Qt::Saturday), enabled ? "StatusDangerColor" : "palette.Disabled.Text");
+        }
     }
 
     void nullWidgetsAreNone()

@@ -1,11 +1,14 @@
 #include "BaseStyle.h"
 #include "EmbeddedIcons.h"
+#include "OwnColors.h"
+#include "Revocable.h"
 #include "ThemeColorHelper.h"
 #include "ThemeValues.h"
 #include "WidgetProperties.h"
 #include "WidgetTraits.h"
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QCommandLinkButton>
 #include <QKeyEvent>
 #include <QMenuBar>
@@ -75,22 +78,24 @@ void colorLineEditButton(QToolButton& button)
     applyIcon(button, keepsIcon ? originalIcon(button) : QIcon(clear), brush);
 }
 
-void colorCommandLink(QCommandLinkButton& button)
+void colorCommandLink(const BaseStyle& style, QCommandLinkButton& button)
 {
     if (button.icon().isNull())
         return;
     const bool pointedAt =
         !button.isChecked() && !button.isDown() && button.underMouse() && button.isEnabled();
+    const QBrush words = button.palette().brush(QPalette::ButtonText);
     const QBrush brush =
-        pointedAt ? themeValues().brushes.value(ThemeNames::ButtonUncheckedHoverForegroundBrush)
-                  : button.palette().brush(QPalette::ButtonText);
+        pointedAt && !OwnColors::isForAll(style, QPalette::ButtonText)
+            ? themeValues().brushes.value(ThemeNames::ButtonUncheckedHoverForegroundBrush)
+            : words;
     applyIcon(button, originalIcon(button), brush);
 }
 
-void colorIconBeforePaint(QWidget& widget)
+void colorIconBeforePaint(const BaseStyle& style, QWidget& widget)
 {
     if (auto* commandLink = qobject_cast<QCommandLinkButton*>(&widget))
-        colorCommandLink(*commandLink);
+        colorCommandLink(style, *commandLink);
     else if (auto* toolButton = qobject_cast<QToolButton*>(&widget);
              WidgetTraits::isLineEditIconButton(toolButton))
         colorLineEditButton(*toolButton);
@@ -125,7 +130,12 @@ bool BaseStyle::eventFilter(QObject* watched, QEvent* event)
 
     switch (event->type()) {
     case QEvent::StyleChange: // already, as a change that comes with the paint asks for another one
-    case QEvent::Paint: colorIconBeforePaint(*widget); break;
+    case QEvent::Paint: colorIconBeforePaint(*this, *widget); break;
+    case QEvent::EnabledChange:
+    case QEvent::PaletteChange:
+        if (qobject_cast<QCalendarWidget*>(widget))
+            Revocable::calmCalendar(*this, *widget);
+        break;
     case QEvent::KeyPress:
         if (isAlt(*event)) {
             const QWidget* window = widget->window();

@@ -56,10 +56,11 @@ QBrush of(const StyleContext& context)
         BaseStyle::buttonBrushes(&context.option, context.widget);
     const bool isToolButton = qobject_cast<const QToolButton*>(context.widget);
     const bool isOnPanel = !isToolButton || hasPanel(context.option);
-    // The bar of a calendar is highlighted.
+    // The bar of a calendar is highlighted, unless it cannot be used.
     if (isToolButton && WidgetTraits::isCalendarButton(context.widget))
         return isOnPanel ? brushes.foregroundBrush
-                         : context.option.palette.brush(QPalette::HighlightedText);
+                         : context.option.palette.brush(
+                             context.enabled() ? QPalette::HighlightedText : QPalette::Text);
     return ofText(context, QPalette::ButtonText, brushes.foregroundBrush,
                   isOnPanel ? brushes.backgroundBrush : QBrush());
 }

@@ -113,6 +113,14 @@ QBrush words(const StyleContext& context, QPalette::ColorRole role, QPalette::Co
     return readable(ground(context, groundRole, themed), {given, palette.brush(group, role)});
 }
 
+QBrush onWindow(const StyleContext& context, const QBrush& themed)
+{
+    if (!has(context, QPalette::Window))
+        return themed;
+    return readable(brushOf(context, QPalette::Window),
+                    {themed, brushOf(context, QPalette::WindowText)});
+}
+
 QBrush readable(const QBrush& ground, std::initializer_list<QBrush> brushes, double least)
 {
     if (ground.style() != Qt::SolidPattern)

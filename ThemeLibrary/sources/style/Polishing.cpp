@@ -191,9 +191,10 @@ void paintBackground(BaseStyle&, QWidget& widget)
     widget.setAttribute(Qt::WA_StyledBackground);
 }
 
-void fadeSubtitle(BaseStyle&, QWidget& widget)
+void fadeSubtitle(BaseStyle& style, QWidget& widget)
 {
-    setPaletteBrush(widget, QPalette::WindowText, ThemeNames::ForegroundDisabledBrush);
+    if (!OwnColors::isForAll(style, QPalette::Window)) // it need not be read there
+        setPaletteBrush(widget, QPalette::WindowText, ThemeNames::ForegroundDisabledBrush);
 }
 
 bool isComboBoxList(const QWidget* widget)
@@ -301,7 +302,8 @@ constexpr PolishRule Rules[] = {
     {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},
     {WidgetTraits::isToolBox,          closeUpToolBox},
     {WidgetTraits::isLineEditIconButton, watch},
-    {is<QCalendarWidget>,              Revocable::calmWeekends},
+    {is<QCalendarWidget>,              Revocable::calmCalendar},
+    {is<QCalendarWidget>,              watch},
 };
 
 // clang-format on
@@ -321,7 +323,7 @@ struct UnpolishRule
 constexpr UnpolishRule UnpolishRules[] = {
     {tracksHover, forgetHover},
     {is<QLCDNumber>, Revocable::raiseDigits},
-    {is<QCalendarWidget>, Revocable::reddenWeekends},
+    {is<QCalendarWidget>, Revocable::reddenCalendar},
     {is<QProgressBar>, ProgressBars::endAnimation},
     {WidgetTraits::isStatusBar, Revocable::lowerStatusBar},
 };

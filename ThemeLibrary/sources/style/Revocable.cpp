@@ -1,5 +1,6 @@
 #include "Revocable.h"
 
+#include "OwnColors.h"
 #include "ThemeValues.h"
 
 #include <QCalendarWidget>
@@ -30,6 +31,27 @@ void changeWeekends(QCalendarWidget& calendar, const QBrush& from, const QBrush&
             calendar.setWeekdayTextFormat(day, format);
         }
     }
+}
+
+/// The bar above the days and the selected one, which the toolkit shows in the accent also when
+/// they cannot be used.
+void setStandingBack(QCalendarWidget& calendar, bool standsBack)
+{
+    constexpr uint Roles = 1U << QPalette::Highlight | 1U << QPalette::HighlightedText;
+    if (auto* bar = calendar.findChild<QWidget*>(QStringLiteral("qt_calendar_navigationbar")))
+        bar->setBackgroundRole(standsBack ? QPalette::Button : QPalette::Highlight);
+    auto* days = calendar.findChild<QWidget*>(QStringLiteral("qt_calendar_calendarview"));
+    if (!days)
+        return;
+    QPalette palette = days->palette();
+    const auto stepBack = [&palette](QPalette::ColorRole role, QPalette::ColorRole to) {
+        palette.setBrush(QPalette::Disabled, role, palette.brush(QPalette::Disabled, to));
+    };
+    stepBack(QPalette::Highlight, QPalette::Midlight);
+    stepBack(QPalette::HighlightedText, QPalette::Text);
+    if (!standsBack)
+        palette.resolve(palette.resolve() & ~Roles);
+    days->setPalette(palette);
 }
 
 /// Keeps a status bar as high as the lines that it shows.
@@ -98,21 +120,29 @@ void raiseDigits(QWidget& widget)
     number.setProperty(FlattenedDigits, {});
 }
 
-void calmWeekends(BaseStyle&, QWidget& widget)
+void calmCalendar(BaseStyle&, QWidget& widget)
 {
     const QVariant given = widget.property(WeekendBrush);
-    const QBrush calm = themeValues().colors.value(ThemeNames::StatusDangerColor);
+    const QPalette& palette = widget.palette();
+    const QBrush calm =
+        widget.isEnabled() ? OwnColors::readable(
+            palette.base(),
+            {themeValues().colors.value(ThemeNames::StatusDangerColor), palette.text()})
+                           : palette.brush(QPalette::Disabled, QPalette::Text);
     changeWeekends(as<QCalendarWidget>(widget), given.isValid() ? given.value<QBrush>() : Qt::red,
                    calm);
     widget.setProperty(WeekendBrush, calm);
+    if (!widget.isEnabled() || given.isValid())
+        setStandingBack(as<QCalendarWidget>(widget), !widget.isEnabled());
 }
 
-void reddenWeekends(QWidget& widget)
+void reddenCalendar(QWidget& widget)
 {
     const QVariant given = widget.property(WeekendBrush);
     if (given.isValid())
         changeWeekends(as<QCalendarWidget>(widget), given.value<QBrush>(), Qt::red);
     widget.setProperty(WeekendBrush, {});
+    setStandingBack(as<QCalendarWidget>(widget), false);
 }
 
 void raiseStatusBar(BaseStyle&, QWidget& widget)

@@ -15,9 +15,10 @@ namespace Revocable {
 void flattenDigits(BaseStyle&, QWidget& widget);
 void raiseDigits(QWidget& widget);
 
-/// Of a `QCalendarWidget`: the toolkit's pure red is hard to read on any ground.
-void calmWeekends(BaseStyle&, QWidget& widget);
-void reddenWeekends(QWidget& widget);
+/// Of a `QCalendarWidget`: the toolkit's pure red is hard to read on any ground, and one that is
+/// disabled keeps its accent. To be called again when that changes.
+void calmCalendar(BaseStyle&, QWidget& widget);
+void reddenCalendar(QWidget& widget);
 
 /// Keeps a status bar as high as the lines that it shows. The height it has stays when the style
 /// goes, but follows the lines no more.

@@ -1,9 +1,11 @@
 #include "ArrowIcons.h"
 #include "Families.h"
 #include "Foregrounds.h"
+#include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
+#include "WidgetTraits.h"
 
 #include <QAbstractScrollArea>
 
@@ -15,12 +17,13 @@ namespace BRELK::ScrollBars {
 
 namespace {
 
+/// Of the list of a combo box it is the popup's frame, where no style sheet gives it one.
 int scrollAreaFrameWidth(const QWidget* bar)
 {
     for (const QWidget* widget = bar ? bar->parentWidget() : nullptr; widget;
          widget = widget->parentWidget()) {
         if (const auto* area = qobject_cast<const QAbstractScrollArea*>(widget))
-            return area->frameWidth();
+            return qMax(area->frameWidth(), WidgetTraits::isInComboBoxPopup(area) ? 1 : 0);
     }
     return 0;
 }
@@ -78,6 +81,8 @@ void paintLine(const PaintContext& context, const QStyleOptionSlider& bar, bool 
     arrow.rect.moveCenter(bar.rect.center());
     if (BaseStyle::isHovered(&bar) || BaseStyle::isPressed(bar))
         Foregrounds::set(arrow, context.color(ThemeNames::MainColor));
+    else if (OwnColors::has(context, QPalette::ButtonText)) // on a ground that is the theme's
+        Foregrounds::set(arrow, context.brush(ThemeNames::InputForegroundBrush));
     if (qMin(bar.rect.width(), bar.rect.height()) >= ArrowSize)
         ArrowIcons::drawOf(context, lineArrow(context, forwards), arrow);
 }

@@ -168,7 +168,8 @@ qint64 tickInterval(const SliderLook& look, int available)
 /// A tick on each side that has ticks, or those of neighbouring positions as one.
 void paintTick(const SliderLook& look, int from, int to, int inset, int length)
 {
-    const QBrush brush = look.context.brush(ThemeNames::InputForegroundBrush).color();
+    const QBrush brush = OwnColors::onWindow(
+        look.context, look.context.brush(ThemeNames::InputForegroundBrush).color());
     const QRect& rect = look.slider.rect;
     const auto draw = [&](int start, int end) {
         const QRect tick = look.horizontal ? QRect(QPoint(from, start), QPoint(to, end))
@@ -257,7 +258,7 @@ QBrush handleBrush(const SliderLook& look)
 void paintHandle(const SliderLook& look)
 {
     QPainter& painter = look.context.painter;
-    const QBrush brush = handleBrush(look);
+    const QBrush brush = OwnColors::onWindow(look.context, handleBrush(look));
     painter.setBrush(brush);
     painter.setPen(look.highContrast ? look.highContrastBorder().color() : brush.color());
     const QRect ellipse = look.handle.adjusted(1, 1, -1, -1);
@@ -348,12 +349,15 @@ void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
     const BaseStyle::ButtonBrushes brushes = dialBrushes(context, dial);
     context.painter.setPen(focused ? QPen(context.brush(ThemeNames::MainBrush), 2)
                                    : QPen(brushes.borderBrush, 1));
-    context.painter.setBrush(OwnColors::ground(context, QPalette::Button, brushes.backgroundBrush));
+    const QBrush ground = OwnColors::ground(context, QPalette::Button, brushes.backgroundBrush);
+    context.painter.setBrush(ground);
     context.painter.drawEllipse(centre, radius, radius);
     const qreal angle = handAngle(dial);
     const qreal length = HandInFace * radius;
     context.painter.setPen(Qt::NoPen);
-    context.painter.setBrush(context.brush(ThemeNames::InputForegroundBrush));
+    context.painter.setBrush(
+        OwnColors::readable(ground, {context.brush(ThemeNames::InputForegroundBrush),
+                                     dial.palette.brush(QPalette::ButtonText)}));
     context.painter.drawEllipse(centre + QPointF(length * qCos(angle), -length * qSin(angle)),
                                 DotInFace * radius, DotInFace * radius);
 }

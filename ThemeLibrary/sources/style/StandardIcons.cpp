@@ -2,11 +2,12 @@
 #include "EmbeddedIcons.h"
 #include "Helpers.h"
 #include "Kept.h"
+#include "OwnColors.h"
 #include "ThemeIcons.h"
 #include "ThemeValues.h"
 #include "WidgetProperties.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QIcon>
 #include <QLabel>
 #include <QStyleOption>
@@ -153,6 +154,8 @@ QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
                               const QWidget* widget) const
 {
     const auto extensionIcon = [this](QIcon& icon, const char* const* xpm) {
+        if (OwnColors::isForAll(*this, QPalette::Text))
+            return generateToolBarExpandButtonIcon(xpm, QApplication::palette());
         if (icon.isNull())
             icon = generateToolBarExpandButtonIcon(xpm, m_palette);
         return icon;

@@ -87,6 +87,11 @@ bool hasActiveGround(const QStyleOptionTitleBar& bar)
 }
 
 /// Otherwise the bar has the accent as ground, or a shade of it that white is read on.
+bool isOnAccent(const QStyleOptionTitleBar& bar)
+{
+    return bar.titleBarState & QStyle::State_Active && !hasActiveGround(bar);
+}
+
 void paintActiveGround(const PaintContext& context, const QStyleOptionTitleBar& bar)
 {
     constexpr int Shade = 300;
@@ -119,8 +124,13 @@ void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& ba
     const QIcon icon =
         isOwn ? bar.icon
               : context.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &bar, context.widget);
-    const QBrush brush = isOwn ? QBrush(captionColor(bar)) : QBrush();
+    QBrush brush = isOwn ? QBrush(captionColor(bar)) : QBrush();
     const QSize size = isOwn ? rect.size() : QSize(MenuIconSize, MenuIconSize);
+    if (isOwn && isOnAccent(bar)) { // in which an icon may have parts
+        Shapes::drawBox(context, rect.adjusted(-1, -1, 1, 1),
+                        Shapes::cornerRadius(ThemeNames::BaseSize), bar.palette.window(), QBrush());
+        brush = bar.palette.windowText();
+    }
     Shapes::drawIcon(context, icon, brush, rect, size);
 }
 
@@ -186,7 +196,7 @@ void paintTitleBar(const PaintContext& context, const QStyleOptionTitleBar& opti
     Shapes::drawBox(context, titleBar.rect, 0,
                     titleBar.palette.color(active ? QPalette::Light : QPalette::Window),
                     context.borderBrush().color());
-    if (active && !hasActiveGround(titleBar))
+    if (isOnAccent(titleBar))
         paintActiveGround(context, titleBar);
     paintCaption(context, titleBar);
     for (const TitleButton& button : TitleButtons) {
@@ -209,7 +219,7 @@ void paintMdiControls(const PaintContext& context, const QStyleOptionComplex& co
         {QStyle::SC_MdiNormalButton, QStyle::SP_TitleBarNormalButton},
         {QStyle::SC_MdiMinButton, QStyle::SP_TitleBarMinButton}};
     const auto button = optionFrom<QStyleOptionButton>(controls);
-    const QBrush brush = BaseStyle::buttonBrushes(&button, context.widget).foregroundBrush;
+    const QBrush brush = Foregrounds::of({context.style, button, context.widget});
     for (const auto& [part, icon] : Icons) {
         if (controls.subControls & part)
             Shapes::drawIcon(context, context.proxy().standardIcon(icon, &controls, context.widget),
@@ -242,7 +252,7 @@ void BaseStyle::drawTitleBarButton(QPainter* painter, const QStyleOptionTitleBar
             & (State_MouseOver | State_Sunken | State_HasFocus | State_Active | State_Enabled);
     proxy()->drawPrimitive(PE_PanelButtonBevel, &button, painter, widget);
 
-    const QBrush foreground = buttonBrushes(&button, widget).foregroundBrush;
+    const QBrush foreground = Foregrounds::of({*this, button, widget});
     const QIcon given = standardIcon(icon, nullptr, widget);
     const int size = proxy()->pixelMetric(PM_TitleBarButtonIconSize, option, widget);
     QPixmap pixmap = ThemeIcons::pixmap(*painter, given, foreground, {size, size});
