@@ -51,10 +51,20 @@ NamePattern::NamePattern(const QString& text, int most)
 
 QString NamePattern::getName(int index) const
 {
-    QString name = m_literals.first();
+    int length = m_literals.first().size();
+    for (int group = 0, rest = index; group < m_groups.size(); ++group) {
+        const QStringList& alternatives = m_groups.at(group);
+        length +=
+            alternatives.at(rest % alternatives.size()).size() + m_literals.at(group + 1).size();
+        rest /= alternatives.size();
+    }
+    QString name;
+    name.reserve(length);
+    name += m_literals.first();
     for (int group = 0; group < m_groups.size(); ++group) {
         const QStringList& alternatives = m_groups.at(group);
-        name += alternatives.at(index % alternatives.size()) + m_literals.at(group + 1);
+        name += alternatives.at(index % alternatives.size());
+        name += m_literals.at(group + 1);
         index /= alternatives.size();
     }
     return name;

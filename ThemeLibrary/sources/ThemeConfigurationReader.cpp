@@ -98,7 +98,7 @@ bool readInternal(const ThemeElement& element, bool& ok)
 void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
 {
     const QString pattern = element.getAttribute(QStringLiteral("name"));
-    const int most = std::min(MostNamesOfElement, MostNames - entries.getNames().size());
+    const int most = std::min(MostNamesOfElement, MostNames - entries.size());
     const std::vector<NamedThemeElement> names = element.spellNames(most);
     if (names.empty() && !pattern.isEmpty()) {
         element.reject(
@@ -297,7 +297,8 @@ void ThemeConfigurationReader::readDisabledFactors(const ThemeEntries& entries)
         element.checkTextElement({"name", "keep", "contrast", "against"});
         return element.readInteger(element.getText(), 0, LargestFactor, ok);
     };
-    for (const QString& name : entries.getNames()) {
+    for (int place = 0; place < entries.size(); ++place) {
+        const QString& name = entries.getName(place);
         const int factor = evaluate(entries, name, -1, read);
         if (factor >= 0)
             m_disabledFactors.insert(name, factor);
@@ -372,7 +373,8 @@ void ThemeConfigurationReader::readOpacities(const ThemeEntries& entries)
         return element.readNumber(element.getText(), 0, 1, ok);
     };
     m_opacities.insert(ThemeNames::RubberBandOpacity, DefaultRubberBandOpacity);
-    for (const QString& name : entries.getNames()) {
+    for (int place = 0; place < entries.size(); ++place) {
+        const QString& name = entries.getName(place);
         const double opacity = evaluate(entries, name, -1.0, read);
         if (opacity >= 0)
             m_opacities.insert(name, opacity);

@@ -48,6 +48,12 @@ const QStringList& DisabledColors::getNamedColors(const QString& name) const
 QColor DisabledColors::derived(const QColor& color, const QString& name,
                                const ThemeColors& colors) const
 {
+    return solid(color, name, colors).color();
+}
+
+QBrush DisabledColors::solid(const QColor& color, const QString& name,
+                             const ThemeColors& colors) const
+{
     Rule& rule = ruleOf(name);
     if (!rule.element)
         return m_byFactors(color, isForeground(name));
@@ -55,7 +61,7 @@ QColor DisabledColors::derived(const QColor& color, const QString& name,
     if (known != rule.derived.constEnd())
         return *known;
     bool ok = true;
-    QColor result = derivedColor(*rule.element, color, colors, ok);
+    QBrush result = derivedColor(*rule.element, color, colors, ok);
     if (!ok)
         result = m_byFactors(color, isForeground(name));
     rule.derived.insert(color.rgba(), result);
@@ -66,7 +72,7 @@ QBrush DisabledColors::derived(const QBrush& brush, const QString& name,
                                const ThemeColors& colors) const
 {
     if (!brush.gradient())
-        return derived(brush.color(), name, colors);
+        return solid(brush.color(), name, colors);
     QGradient gradient = *brush.gradient();
     QGradientStops stops = gradient.stops();
     for (QGradientStop& stop : stops)

@@ -31,10 +31,11 @@ private:
     {
         const ThemeElement* element = nullptr;
         QStringList named;
-        QHash<QRgb, QColor> derived;
+        QHash<QRgb, QBrush> derived;
     };
 
     Rule& ruleOf(const QString& name) const;
+    QBrush solid(const QColor& color, const QString& name, const ThemeColors& colors) const;
 
     mutable Rule m_foreground;
     mutable Rule m_background;

@@ -2,43 +2,68 @@
 
 #include "ThemeNames.h"
 
-#include <limits>
+#include <algorithm>
 
 namespace BRELK {
 
 const ThemeEntries::Definitions& ThemeEntries::getDefinitions(const QString& name) const
 {
     static const Definitions sNone;
-    const auto found = m_definitions.constFind(name);
-    return found == m_definitions.constEnd() ? sNone : *found;
+    const int place = find(name);
+    return place < 0 ? sNone : getDefinitions(place);
 }
 
 void ThemeEntries::add(const QString& name, const ThemeEntry& entry)
 {
-    const Definitions& definitions = getDefinitions(name);
+    Definitions& definitions = m_named[size_t(placeOf(name))].definitions;
     if (!definitions.isEmpty() && definitions.last().level == entry.level)
         entry.element.reject(QStringLiteral("there is another one of this name"));
     else
-        append(name, entry);
+        definitions.append(entry);
 }
 
 void ThemeEntries::addTwins()
 {
-    constexpr int LastLevel = std::numeric_limits<int>::max();
-    const QStringList originals = m_names;
-    for (const QString& name : originals) {
-        if (!name.endsWith(ThemeNames::Disabled.text))
-            append(ThemeNames::twin(name),
-                   {getDefinitions(name).first().element, LastLevel, false, name});
+    const int count = size();
+    m_named.reserve(size_t(2 * count));
+    m_ends.reserve(2 * count);
+    for (int place = 0; place < count; ++place) {
+        const QString& name = getName(place);
+        if (name.endsWith(ThemeNames::Disabled.text))
+            continue;
+        const int twin = placeOf(ThemeNames::twin(name));
+        m_named[size_t(twin)].original = place;
+        m_named[size_t(place)].twin = twin;
     }
 }
 
-void ThemeEntries::append(const QString& name, const ThemeEntry& entry)
+std::vector<int> ThemeEntries::sorted() const
 {
-    Definitions& definitions = m_definitions[name];
-    if (definitions.isEmpty())
-        m_names.append(name);
-    definitions.append(entry);
+    std::vector<int> originals;
+    originals.reserve(m_named.size());
+    for (int place = 0; place < size(); ++place)
+        if (getOriginal(place) < 0)
+            originals.push_back(place);
+    std::sort(originals.begin(), originals.end(),
+              [this](int one, int other) { return getName(one) < getName(other); });
+    std::vector<int> places;
+    places.reserve(m_named.size());
+    for (const int place : originals) {
+        places.push_back(place);
+        if (const int twin = m_named[size_t(place)].twin; twin >= 0)
+            places.push_back(twin);
+    }
+    return places;
+}
+
+int ThemeEntries::placeOf(const QString& name)
+{
+    int& end = m_ends[name];
+    if (end == 0) {
+        m_named.push_back({name});
+        end = size();
+    }
+    return end - 1;
 }
 
 } // namespace BRELK

@@ -3,8 +3,9 @@
 #include "ThemeDocument.h"
 
 #include <QHash>
-#include <QStringList>
 #include <QVector>
+
+#include <vector>
 
 namespace BRELK {
 
@@ -15,11 +16,10 @@ struct ThemeEntry
     /// 0 in the theme's own file, 1 in the one that it extends, and so on.
     int level;
     bool internal = false;
-    /// What this is the derived disabled twin of; empty in entries that stand in a file.
-    QString twinOf = {};
 };
 
-/// The definitions of each name, those of the theme itself first.
+/// The definitions of each name, those of the theme itself first. A name is told by its place:
+/// names stand in the order in which they were added.
 class ThemeEntries
 {
 public:
@@ -28,22 +28,43 @@ public:
     /// Adds a definition; a second one of the same file is rejected.
     void add(const QString& name, const ThemeEntry& entry);
 
-    /// Gives each name a derived twin, which counts where no other definition does.
+    /// Gives each name a derived disabled twin, which counts where no definition of it does.
     void addTwins();
 
-    bool contains(const QString& name) const { return m_definitions.contains(name); }
+    int size() const { return int(m_named.size()); }
 
-    /// All names in the order in which they were added.
-    const QStringList& getNames() const { return m_names; }
+    /// The place of `name`; negative if it was not added.
+    int find(const QString& name) const { return m_ends.value(name) - 1; }
+
+    const QString& getName(int place) const { return m_named[size_t(place)].name; }
+
+    /// The place of that whose derived twin this is; negative if it is none.
+    int getOriginal(int place) const { return m_named[size_t(place)].original; }
+
+    const Definitions& getDefinitions(int place) const
+    {
+        return m_named[size_t(place)].definitions;
+    }
 
     /// None for a name that was not added.
     const Definitions& getDefinitions(const QString& name) const;
 
-private:
-    void append(const QString& name, const ThemeEntry& entry);
+    /// All places in the order of the names, but for few of the twins.
+    std::vector<int> sorted() const;
 
-    QHash<QString, Definitions> m_definitions;
-    QStringList m_names;
+private:
+    struct Named
+    {
+        QString name;
+        int original = -1;
+        int twin = -1;
+        Definitions definitions = {};
+    };
+
+    int placeOf(const QString& name);
+
+    std::vector<Named> m_named;
+    QHash<QString, int> m_ends; ///< how many names there are up to each
 };
 
 /// The value of the first definition of `name` that `read(element, ok)` accepts, or else `missing`.

@@ -12,13 +12,6 @@ namespace BRELK {
 
 namespace {
 
-/// Whether `entries` has a definition of `name` that is no derived twin.
-bool isWritten(const ThemeEntries& entries, const QString& name)
-{
-    const ThemeEntries::Definitions& definitions = entries.getDefinitions(name);
-    return !definitions.isEmpty() && definitions.first().twinOf.isEmpty();
-}
-
 bool isAlias(const ThemeElement& element)
 {
     return element.getTag() == QLatin1String("Brush");
@@ -26,88 +19,101 @@ bool isAlias(const ThemeElement& element)
 
 } // namespace
 
-ThemeResolver::ThemeResolver(const ThemeEntries& entries) : m_entries(entries)
-{
-    m_nodes.reserve(entries.getNames().size());
-    for (const QString& name : entries.getNames())
-        m_nodes.insert(name, {name, &entries.getDefinitions(name)});
-}
+ThemeResolver::ThemeResolver(const ThemeEntries& entries)
+    : m_entries(entries), m_nodes(size_t(entries.size()))
+{ }
 
 void ThemeResolver::resolve()
 {
-    for (const QString& name : m_entries.getNames()) {
-        push(m_nodes[name]);
-        while (!m_stack.isEmpty())
+    for (int place = 0; place < m_entries.size(); ++place) {
+        push(place);
+        while (!m_stack.empty())
             step();
     }
 }
 
-QString ThemeResolver::unsettled(const QString& name) const
+int ThemeResolver::unsettled(int place) const
 {
-    const auto node = m_nodes.constFind(name);
-    return node == m_nodes.constEnd() || node->settled ? QString() : name;
+    return place < 0 || m_nodes[size_t(place)].settled ? -1 : place;
 }
 
-bool ThemeResolver::isInternal(const QString& name) const
+const ThemeEntry* ThemeResolver::entryAt(int place) const
 {
-    const auto node = m_nodes.constFind(name);
-    return node != m_nodes.constEnd() && node->internal;
+    const ThemeEntries::Definitions& definitions = m_entries.getDefinitions(place);
+    const int current = m_nodes[size_t(place)].current;
+    return current < definitions.size() ? &definitions.at(current) : nullptr;
 }
 
-void ThemeResolver::push(Node& node)
+bool ThemeResolver::isExhausted(int place) const
 {
-    node.waiting = true;
-    m_stack.append(&node);
+    const int twins = m_entries.getOriginal(place) < 0 ? 0 : 1;
+    return m_nodes[size_t(place)].current >= m_entries.getDefinitions(place).size() + twins;
+}
+
+void ThemeResolver::push(int place)
+{
+    m_nodes[size_t(place)].waiting = true;
+    m_stack.push_back(place);
 }
 
 void ThemeResolver::step()
 {
-    Node& node = *m_stack.last();
-    if (node.settled || node.current == node.definitions->size()) {
+    const int place = m_stack.back();
+    Node& node = m_nodes[size_t(place)];
+    if (node.settled || isExhausted(place)) {
         node.settled = true;
         node.waiting = false;
-        m_stack.removeLast();
+        m_stack.pop_back();
         return;
     }
-    const ThemeEntry& entry = node.getEntry();
-    const QString dependency = getDependency(node.name, entry);
-    if (!dependency.isEmpty()) {
-        Node& next = m_nodes[dependency];
-        if (next.waiting)
-            breakCycle(next);
+    const ThemeEntry* entry = entryAt(place);
+    const int dependency = getDependency(place, entry);
+    if (dependency >= 0) {
+        if (m_nodes[size_t(dependency)].waiting)
+            breakCycle(dependency);
         else
-            push(next);
-    } else if (evaluate(node.name, entry)) {
-        node.internal = entry.twinOf.isEmpty() ? entry.internal : isInternal(entry.twinOf);
+            push(dependency);
+    } else if (evaluate(place, entry)) {
+        node.internal = entry ? entry->internal : isInternal(m_entries.getOriginal(place));
         node.settled = true;
     } else {
         ++node.current;
     }
 }
 
-/// Drops those definitions of the cycle from `node` on that are in the most derived file, as it is
+/// Drops those definitions of the cycle from `place` on that are in the most derived file, as it is
 /// their fault.
-void ThemeResolver::breakCycle(Node& node)
+void ThemeResolver::breakCycle(int place)
 {
-    const QVector<Node*> cycle = m_stack.mid(m_stack.lastIndexOf(&node));
+    const auto levelAt = [this](int member) {
+        const ThemeEntry* entry = entryAt(member);
+        return entry ? entry->level : std::numeric_limits<int>::max();
+    };
+    const auto last = std::find(m_stack.rbegin(), m_stack.rend(), place);
+    const std::vector<int> cycle(last.base() - 1, m_stack.end());
     QStringList names;
     int level = std::numeric_limits<int>::max();
-    for (const Node* member : cycle) {
-        names += member->name;
-        level = std::min(level, member->getEntry().level);
+    for (const int member : cycle) {
+        names += m_entries.getName(member);
+        level = std::min(level, levelAt(member));
     }
     bool isReported = false;
-    for (Node* member : cycle) {
-        if (member->getEntry().level != level)
+    for (const int member : cycle) {
+        if (levelAt(member) != level)
             continue;
+        const ThemeEntry* entry = entryAt(member);
+        if (!entry) // a twin is written as what it is derived from
+            entry = &m_entries.getDefinitions(m_entries.getOriginal(member)).first();
         if (!isReported)
-            member->getEntry().element.reject(QStringLiteral("it leads back to itself, by way of ")
-                                              + quoted(names.join(QLatin1String(", "))));
+            entry->element.reject(QStringLiteral("it leads back to itself, by way of ")
+                                  + quoted(names.join(QLatin1String(", "))));
         isReported = true;
-        ++member->current;
+        ++m_nodes[size_t(member)].current;
     }
-    while (m_stack.last() != &node)
-        m_stack.takeLast()->waiting = false;
+    while (m_stack.back() != place) {
+        m_nodes[size_t(m_stack.back())].waiting = false;
+        m_stack.pop_back();
+    }
 }
 
 ThemeColorResolver::ThemeColorResolver(const ThemeEntries& entries, const DisabledColors& disabled,
@@ -121,44 +127,47 @@ void ThemeColorResolver::splitColors(QMap<QString, QColor>& published,
                                      QMap<QString, QColor>& internal) const
 {
     for (auto color = m_colors.begin(); color != m_colors.end(); ++color)
-        (isInternal(color.key()) ? internal : published).insert(color.key(), *color);
+        (isInternal(getEntries().find(color.key())) ? internal : published)
+            .insert(color.key(), *color);
 }
 
-QString ThemeColorResolver::firstUnsettled(const QString& name, const QStringList& named) const
+int ThemeColorResolver::firstUnsettled(int place, const QStringList& named) const
 {
     for (const QString& other : named) {
+        const int next = unsettled(other);
         // A color may be called like the literal color that it is.
-        const QString next =
-            other == name && QColor::isValidColor(other) ? QString() : unsettled(other);
-        if (!next.isEmpty())
+        if (next >= 0 && !(next == place && QColor::isValidColor(other)))
             return next;
     }
-    return {};
+    return -1;
 }
 
-QString ThemeColorResolver::getDependency(const QString& name, const ThemeEntry& entry) const
+int ThemeColorResolver::getDependency(int place, const ThemeEntry* entry) const
 {
-    if (entry.twinOf.isEmpty())
-        return firstUnsettled(name, namedColors(entry.element));
-    const QString original = unsettled(entry.twinOf);
-    return original.isEmpty() ? firstUnsettled(name, m_disabled.getNamedColors(entry.twinOf))
-                              : original;
+    if (entry)
+        return firstUnsettled(place, namedColors(entry->element));
+    const int original = getEntries().getOriginal(place);
+    return unsettled(original) >= 0
+               ? original
+               : firstUnsettled(place, m_disabled.getNamedColors(getEntries().getName(original)));
 }
 
-bool ThemeColorResolver::evaluate(const QString& name, const ThemeEntry& entry)
+bool ThemeColorResolver::evaluate(int place, const ThemeEntry* entry)
 {
+    const QString& name = getEntries().getName(place);
     bool ok = true;
-    if (entry.twinOf.isEmpty()) {
-        entry.element.checkTextElement({"name", "internal"}, derivationAttributes());
-        const QColor color = readColor(entry.element, m_colors, ok);
+    if (entry) {
+        entry->element.checkTextElement({"name", "internal"}, derivationAttributes());
+        const QColor color = readColor(entry->element, m_colors, ok);
         if (ok)
             m_colors.insert(name, color);
         return ok;
     }
-    const auto original = m_colors.constFind(entry.twinOf);
+    const QString& originalName = getEntries().getName(getEntries().getOriginal(place));
+    const auto original = m_colors.constFind(originalName);
     if (original == m_colors.constEnd())
         return false;
-    const QColor color = m_disabled.derived(*original, entry.twinOf, m_colors);
+    const QColor color = m_disabled.derived(*original, originalName, m_colors);
     m_colors.insert(name, color);
     return true;
 }
@@ -166,7 +175,11 @@ bool ThemeColorResolver::evaluate(const QString& name, const ThemeEntry& entry)
 ThemeBrushResolver::ThemeBrushResolver(const ThemeEntries& entries,
                                        const ThemeEntries& colorEntries, const ThemeColors& colors,
                                        const DisabledColors& disabled)
-    : ThemeResolver(entries), m_colorEntries(colorEntries), m_colors(colors), m_disabled(disabled)
+    : ThemeResolver(entries)
+    , m_colorEntries(colorEntries)
+    , m_colors(colors)
+    , m_disabled(disabled)
+    , m_values(size_t(entries.size()))
 { }
 
 bool ThemeBrushResolver::isBrush(const QString& tag)
@@ -177,8 +190,12 @@ bool ThemeBrushResolver::isBrush(const QString& tag)
 void ThemeBrushResolver::splitBrushes(QMap<QString, QBrush>& published,
                                       QMap<QString, QBrush>& internal) const
 {
-    for (auto value = m_values.begin(); value != m_values.end(); ++value)
-        (isInternal(value.key()) ? internal : published).insert(value.key(), value->brush);
+    for (const int place : getEntries().sorted()) {
+        const Value& value = m_values[size_t(place)];
+        QMap<QString, QBrush>& brushes = isInternal(place) ? internal : published;
+        if (value.known)
+            brushes.insert(brushes.constEnd(), getEntries().getName(place), value.brush);
+    }
 }
 
 bool ThemeBrushResolver::isLastOne(const ThemeEntry& entry) const
@@ -186,30 +203,28 @@ bool ThemeBrushResolver::isLastOne(const ThemeEntry& entry) const
     return m_lastEntry && m_lastEntry->element == entry.element;
 }
 
-QString ThemeBrushResolver::getDependency(const QString& name, const ThemeEntry& entry) const
+int ThemeBrushResolver::getDependency(int place, const ThemeEntry* entry) const
 {
-    Q_UNUSED(name)
-    if (!entry.twinOf.isEmpty()) {
-        const QString original = unsettled(entry.twinOf);
-        return original.isEmpty() ? unsettled(m_values.value(entry.twinOf).twin) : original;
+    if (!entry) {
+        const int original = getEntries().getOriginal(place);
+        return unsettled(original) >= 0 ? original : unsettled(m_values[size_t(original)].twin);
     }
-    return !isLastOne(entry) && isAlias(entry.element) ? unsettled(entry.element.getText())
-                                                       : QString();
+    return !isLastOne(*entry) && isAlias(entry->element) ? unsettled(entry->element.getText()) : -1;
 }
 
 ThemeBrushResolver::Value ThemeBrushResolver::readAlias(const ThemeElement& element, bool& ok) const
 {
     const QString named = element.getText();
     element.checkTextElement({"name", "internal"});
-    const auto found = m_values.constFind(named);
-    if (found == m_values.constEnd()) {
+    const int found = getEntries().find(named);
+    if (found < 0 || !m_values[size_t(found)].known) {
         element.reject(quoted(named) + QStringLiteral(" is no brush of the theme"));
         ok = false;
         return {};
     }
-    Value value = *found;
-    const QString twin = ThemeNames::twin(named);
-    if (isWritten(getEntries(), twin))
+    Value value = m_values[size_t(found)];
+    const int twin = getEntries().find(ThemeNames::twin(named));
+    if (twin >= 0 && !getEntries().getDefinitions(twin).isEmpty())
         value.twin = twin;
     return value;
 }
@@ -218,40 +233,41 @@ ThemeBrushResolver::Value ThemeBrushResolver::readValue(const ThemeElement& elem
 {
     if (isAlias(element))
         return readAlias(element, ok);
-    Value value;
+    Value value{true};
     value.brush = BrushReader::forTag(element.getTag())->readBrush(element, m_colors, ok);
     if (!value.brush.gradient() && !hasDerivation(element))
         value.color = element.getText();
     return value;
 }
 
-QBrush ThemeBrushResolver::derivedTwin(const QString& original, const Value& value) const
+QBrush ThemeBrushResolver::derivedTwin(int original) const
 {
-    const auto named = m_values.constFind(value.twin);
-    if (named != m_values.constEnd())
-        return named->brush;
-    const QString twin = ThemeNames::twin(value.color);
-    if (isWritten(m_colorEntries, twin) && m_colors.contains(twin))
-        return m_colors.value(twin);
-    return m_disabled.derived(value.brush, original, m_colors);
+    const Value& value = m_values[size_t(original)];
+    if (value.twin >= 0 && m_values[size_t(value.twin)].known)
+        return m_values[size_t(value.twin)].brush;
+    if (!value.color.isEmpty()) {
+        const QString twin = ThemeNames::twin(value.color);
+        if (!m_colorEntries.getDefinitions(twin).isEmpty() && m_colors.contains(twin))
+            return m_colors.value(twin);
+    }
+    return m_disabled.derived(value.brush, getEntries().getName(original), m_colors);
 }
 
-bool ThemeBrushResolver::evaluate(const QString& name, const ThemeEntry& entry)
+bool ThemeBrushResolver::evaluate(int place, const ThemeEntry* entry)
 {
-    if (!entry.twinOf.isEmpty()) {
-        const auto original = m_values.constFind(entry.twinOf);
-        if (original == m_values.constEnd())
+    if (!entry) {
+        const int original = getEntries().getOriginal(place);
+        if (!m_values[size_t(original)].known)
             return false;
-        const QBrush twin = derivedTwin(entry.twinOf, *original);
-        m_values.insert(name, {twin, {}, {}});
+        m_values[size_t(place)] = {true, derivedTwin(original)};
         return true;
     }
     bool ok = true;
-    if (!isLastOne(entry))
-        m_lastValue = readValue(entry.element, ok);
-    m_lastEntry = ok ? &entry : nullptr;
+    if (!isLastOne(*entry))
+        m_lastValue = readValue(entry->element, ok);
+    m_lastEntry = ok ? entry : nullptr;
     if (ok)
-        m_values.insert(name, m_lastValue);
+        m_values[size_t(place)] = m_lastValue;
     return ok;
 }
 

@@ -2,9 +2,9 @@
 
 #include "ThemeConfigurationReader_p.h"
 
-#include <QHash>
 #include <QMap>
-#include <QVector>
+
+#include <vector>
 
 namespace BRELK {
 
@@ -24,40 +24,41 @@ public:
 protected:
     const ThemeEntries& getEntries() const { return m_entries; }
 
-    /// `name` if it is an entry that has yet to be resolved, otherwise nothing.
-    QString unsettled(const QString& name) const;
+    /// `place` if what is there has yet to be resolved, otherwise a negative number.
+    int unsettled(int place) const;
 
-    /// Whether the entry `name` is internal; asked of resolved ones.
-    bool isInternal(const QString& name) const;
+    int unsettled(const QString& name) const { return unsettled(m_entries.find(name)); }
 
-    /// An entry that has to be resolved before `entry` can be evaluated; empty when there is none
-    /// left.
-    virtual QString getDependency(const QString& name, const ThemeEntry& entry) const = 0;
+    /// Whether what is at `place` is internal; asked of resolved ones.
+    bool isInternal(int place) const { return m_nodes[size_t(place)].internal; }
 
-    /// Stores the value that `entry` gives to `name`; false when it gives none, which is reported.
-    virtual bool evaluate(const QString& name, const ThemeEntry& entry) = 0;
+    /// The place of what has to be resolved before `entry`, null for a derived twin, can be
+    /// evaluated; negative when there is nothing left.
+    virtual int getDependency(int place, const ThemeEntry* entry) const = 0;
+
+    /// Stores the value that `entry`, null for a derived twin, gives to what is at `place`; false
+    /// when it gives none, which is reported.
+    virtual bool evaluate(int place, const ThemeEntry* entry) = 0;
 
 private:
     struct Node
     {
-        QString name;
-        const ThemeEntries::Definitions* definitions = nullptr;
-        int current = 0;
+        int current = 0; ///< of its definitions; past them, it is derived as a twin
         bool waiting = false;
         bool settled = false;
         bool internal = false;
-
-        const ThemeEntry& getEntry() const { return definitions->at(current); }
     };
 
+    const ThemeEntry* entryAt(int place) const;
+    bool isExhausted(int place) const;
     void step();
-    void push(Node& node);
-    void breakCycle(Node& node);
+    void push(int place);
+    void breakCycle(int place);
 
     const ThemeEntries& m_entries;
-    QHash<QString, Node> m_nodes;
-    /// Nodes that wait, each for the next one.
-    QVector<Node*> m_stack;
+    std::vector<Node> m_nodes;
+    /// The places of nodes that wait, each for the next one.
+    std::vector<int> m_stack;
 };
 
 /// Resolves colors.
@@ -72,9 +73,9 @@ public:
     void splitColors(QMap<QString, QColor>& published, QMap<QString, QColor>& internal) const;
 
 private:
-    QString getDependency(const QString& name, const ThemeEntry& entry) const override;
-    bool evaluate(const QString& name, const ThemeEntry& entry) override;
-    QString firstUnsettled(const QString& name, const QStringList& named) const;
+    int getDependency(int place, const ThemeEntry* entry) const override;
+    bool evaluate(int place, const ThemeEntry* entry) override;
+    int firstUnsettled(int place, const QStringList& named) const;
 
     const DisabledColors& m_disabled;
     ThemeColors m_colors;
@@ -94,25 +95,27 @@ public:
     void splitBrushes(QMap<QString, QBrush>& published, QMap<QString, QBrush>& internal) const;
 
 private:
-    QString getDependency(const QString& name, const ThemeEntry& entry) const override;
-    bool evaluate(const QString& name, const ThemeEntry& entry) override;
+    int getDependency(int place, const ThemeEntry* entry) const override;
+    bool evaluate(int place, const ThemeEntry* entry) override;
 
     struct Value
     {
-        QBrush brush;
-        QString color; ///< of the theme, if it is just that, by whatever way
-        QString twin; ///< written in a file, of the nearest brush that it names and that has one
+        bool known = false;
+        QBrush brush = {};
+        QString color = {}; ///< of the theme, if it is just that, by whatever way
+        /// Where the twin of the nearest brush is that it names and that has one in a file.
+        int twin = -1;
     };
 
     Value readValue(const ThemeElement& element, bool& ok) const;
     Value readAlias(const ThemeElement& element, bool& ok) const;
-    QBrush derivedTwin(const QString& original, const Value& value) const;
+    QBrush derivedTwin(int original) const;
     bool isLastOne(const ThemeEntry& entry) const;
 
     const ThemeEntries& m_colorEntries;
     const ThemeColors& m_colors;
     const DisabledColors& m_disabled;
-    QHash<QString, Value> m_values;
+    std::vector<Value> m_values; ///< by place
     /// An element that spells several names is read for the first one.
     const ThemeEntry* m_lastEntry = nullptr;
     Value m_lastValue;

@@ -83,34 +83,44 @@ void FrozenGroup<Value>::freeze(const QString& firstName)
     if (!variables.isValid() && themeValues().askedTooEarly.isEmpty())
         themeValues().askedTooEarly = firstName;
 
+    m_variables = variables.toMap().value(source.group).toMap();
+    const std::vector<QString> names = knownNames(m_group);
+    // References stay good when others are added.
+    m_values.reserve(1 + 2 * names.size() + size_t(m_variables.size()));
     m_values.resize(1);
-    for (const QString& name : knownNames(m_group)) {
+    for (const QString& name : names) {
         for (const QString& variant : {name, ThemeNames::twin(name)}) {
             m_places.insert(variant, int(m_values.size()));
-            m_values.emplace_back();
+            m_values.push_back(convert<Value>(m_variables.value(variant)));
         }
-    }
-    const QVariantMap values = variables.toMap().value(source.group).toMap();
-    if (diagnostics().isDebugEnabled()) {
-        for (const QString& name : knownNames(m_group))
-            if (!name.isEmpty() && !values.contains(name))
-                reportMissing(name);
-    }
-    for (auto entry = values.begin(); entry != values.end(); ++entry) {
-        const int place = m_places.value(entry.key(), int(m_values.size()));
-        if (size_t(place) == m_values.size()) {
-            m_places.insert(entry.key(), place);
-            m_values.emplace_back();
-        }
-        m_values[size_t(place)] = convert<Value>(entry.value());
+        if (!name.isEmpty() && !m_variables.contains(name))
+            reportMissing(name);
     }
 }
 
-template void FrozenGroup<QColor>::freeze(const QString&);
-template void FrozenGroup<QBrush>::freeze(const QString&);
-template void FrozenGroup<QFont>::freeze(const QString&);
-template void FrozenGroup<double>::freeze(const QString&);
-template void FrozenGroup<int>::freeze(const QString&);
+/// Most programs ask for few of the composed brushes.
+template <class Value>
+int FrozenGroup<Value>::seek(const QString& name)
+{
+    constexpr int MostPlaces = 4096; // far more than there are names in a theme
+    const auto found = m_variables.constFind(name);
+    int place = 0;
+    if (found == m_variables.constEnd()) {
+        reportMissing(name);
+    } else {
+        place = int(m_values.size());
+        m_values.push_back(convert<Value>(*found));
+    }
+    if (place > 0 || m_places.size() < MostPlaces)
+        m_places.insert(name, place);
+    return place;
+}
+
+template class FrozenGroup<QColor>;
+template class FrozenGroup<QBrush>;
+template class FrozenGroup<QFont>;
+template class FrozenGroup<double>;
+template class FrozenGroup<int>;
 
 void FrozenPair::freeze()
 {

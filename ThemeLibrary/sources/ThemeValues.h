@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QIcon>
 #include <QSet>
+#include <QVariant>
 
 #include <array>
 #include <optional>
@@ -47,10 +48,7 @@ public:
         if (m_values.empty())
             return -1;
         const auto place = m_places.constFind(name);
-        if (place != m_places.constEnd())
-            return *place;
-        reportMissing(name);
-        return 0;
+        return place != m_places.constEnd() ? *place : seek(name);
     }
 
     const Value& at(int place) const
@@ -65,11 +63,14 @@ private:
     }
 
     void freeze(const QString& firstName);
+    int seek(const QString& name);
 
     ThemeNames::Group m_group;
     Value m_missing{};
-    std::vector<Value> m_values; ///< what is missing, the names of the list, then all others
+    /// What is missing, the names of the list, then others as they are asked for.
+    std::vector<Value> m_values;
     QHash<QString, int> m_places;
+    QVariantMap m_variables; ///< as the application had them
 };
 
 /// A brush and its twin, both looked up when one of them is first asked for, even if there is no
