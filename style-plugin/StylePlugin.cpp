@@ -6,6 +6,7 @@
 #include "ThemeRepositories.h"
 
 #include <QApplication>
+#include <QChildEvent>
 #include <QDebug>
 #include <QEvent>
 #include <QIcon>
@@ -37,7 +38,15 @@ QStringList repositories()
     return chosen.isEmpty() ? ThemeRepositories::all() : QStringList{chosen};
 }
 
-/// The theme of this process: a style plugin may be asked for its style again and again.
+bool isThemed(const QStyle& style)
+{
+    // A style sheet of the program's wraps the style.
+    return qobject_cast<const BaseStyle*>(&style)
+           || style.findChild<BaseStyle*>({}, Qt::FindDirectChildrenOnly);
+}
+
+/// The theme of this process: a style plugin may be asked for its style again and again. The
+/// program wears it, beyond single widgets, while it has a style of it as its own.
 class Session : public QObject
 {
 public:
@@ -58,8 +67,12 @@ public:
 
     bool eventFilter(QObject*, QEvent* event) override
     {
-        if (event->type() == QEvent::ApplicationPaletteChange)
+        if (event->type() == QEvent::ApplicationPaletteChange && m_isWorn)
             judgePalette();
+        // The program takes the style that it is given as its child.
+        if (event->type() == QEvent::ChildAdded
+            && qobject_cast<QStyle*>(static_cast<QChildEvent*>(event)->child()))
+            setWorn(isThemed(*QApplication::style()));
         return false;
     }
 
@@ -89,10 +102,24 @@ private:
             themed->setPalette(m_palette);
         ProgramLooks::matchIcons(m_palette);
         m_themed = ProgramLooks::current();
-        m_worn = m_palette;
-        judgePalette();
+        m_before.replace(m_themed);
         app().installEventFilter(this);
         return style;
+    }
+
+    void setWorn(bool isWorn)
+    {
+        if (isWorn == m_isWorn)
+            return;
+        m_isWorn = isWorn;
+        if (isWorn) {
+            m_themed.replace(m_before);
+            m_worn = m_palette;
+            judgePalette();
+        } else {
+            m_before.replace(m_themed);
+            m_scheme.takeBack(app());
+        }
     }
 
     QStyle* again() const
@@ -124,8 +151,7 @@ private:
     {
         app().removeEventFilter(this);
         app().setProperty(CustomActionIcons, {});
-        m_before.replace(m_themed);
-        m_scheme.takeBack(app());
+        setWorn(false);
     }
 
     ProgramLooks m_before;
@@ -135,6 +161,7 @@ private:
     QPalette m_refused;
     ColorScheme m_scheme;
     int m_styles = 0; ///< that live
+    bool m_isWorn = false;
 };
 
 } // namespace

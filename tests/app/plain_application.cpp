@@ -152,6 +152,7 @@ int main(int argc, char** argv)
     print("second", second ? second->objectName() + QLatin1Char(' ')
                                  + kindOf(second->standardPalette().color(QPalette::Window))
                            : QStringLiteral("none"));
+    print("font", QString::number(QApplication::font().pointSizeF()));
     if (second)
         second->deleteLater();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
