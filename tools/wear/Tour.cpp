@@ -208,10 +208,12 @@ void Tour::plan()
     visitDialog(
         QStringLiteral("open"),
         findAction(m_window, "^Open\\b(?! (Containing|Recent|With|Terminal))", QAction::NoRole));
-    visitDialog(QStringLiteral("settings"),
-                findAction(m_window,
-                           "^(Preferences|Settings|Options|Configur|Program settings|Editor)",
-                           QAction::PreferencesRole));
+    visitDialog(
+        QStringLiteral("settings"),
+        findAction(m_window,
+                   "^(Preferences|Settings|Options|Configure (?!Language|Keyboard|Toolbars)|"
+                   "Program settings|Editor)",
+                   QAction::PreferencesRole));
     visitDialog(QStringLiteral("about"), findAction(m_window, "^About(?! Qt)", QAction::AboutRole));
     visit(QStringLiteral("small"), [this] { m_window->resize(Small); });
     visit(QStringLiteral("large"), [this] { m_window->resize(Large); });
