@@ -85,7 +85,7 @@ constexpr Metric Metrics[] = {
     scaled(QStyle::PM_SplitterWidth, 6),
     by(QStyle::PM_SmallIconSize, LineEdits::iconSize),
     scaled(QStyle::PM_LargeIconSize, 32),
-    scaled(QStyle::PM_MessageBoxIconSize, 48),
+    scaled(QStyle::PM_MessageBoxIconSize, 32),
 
     // Item views
     scaled(BaseStyle::BRELK_PM_ListViewPadding, 8),

@@ -166,10 +166,8 @@ qint64 tickInterval(const SliderLook& look, int available)
 }
 
 /// A tick on each side that has ticks, or those of neighbouring positions as one.
-void paintTick(const SliderLook& look, int from, int to, int inset, int length)
+void paintTick(const SliderLook& look, const QBrush& brush, int from, int to, int inset, int length)
 {
-    const QBrush brush = OwnColors::onWindow(
-        look.context, look.context.brush(ThemeNames::InputForegroundBrush).color());
     const QRect& rect = look.slider.rect;
     const auto draw = [&](int start, int end) {
         const QRect tick = look.horizontal ? QRect(QPoint(from, start), QPoint(to, end))
@@ -217,10 +215,12 @@ void paintTicks(const SliderLook& look)
     const qint64 range = qint64(slider.maximum) - slider.minimum;
     if (range < 0 || row.space <= 0)
         return;
+    const QBrush brush = OwnColors::onWindow(
+        look.context, look.context.brush(ThemeNames::InputForegroundBrush).color());
     if (range / interval > row.space) { // closer than a pixel: one at each
-        paintTick(look, row.start, row.start + row.space, 2, tickLength);
-        paintTick(look, row.start, row.start, 1, 1);
-        paintTick(look, row.start + row.space, row.start + row.space, 1, 1);
+        paintTick(look, brush, row.start, row.start + row.space, 2, tickLength);
+        paintTick(look, brush, row.start, row.start, 1, 1);
+        paintTick(look, brush, row.start + row.space, row.start + row.space, 1, 1);
         return;
     }
     const auto indexAt = [&](int position) {
@@ -234,7 +234,7 @@ void paintTicks(const SliderLook& look)
         const int value = int(qMin(slider.minimum + i * interval, qint64(slider.maximum)));
         const int inset = value == slider.minimum || value == slider.maximum ? 1 : 2;
         const int position = row.start + positionOf(slider, value, row.space);
-        paintTick(look, position, position, inset, tickLength);
+        paintTick(look, brush, position, position, inset, tickLength);
     }
 }
 
