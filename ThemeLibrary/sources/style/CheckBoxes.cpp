@@ -91,19 +91,22 @@ struct IndicatorBrushes
     bool isWide; ///< the border
 };
 
-/// A checked indicator has a border in the color of its mark, and so has one that is pointed at or
-/// pressed: both together make it wider.
+/// A checked indicator has a border in the color of its mark, and so has one that is pointed at;
+/// both together make it wider. While it is pressed, a checked one is filled with that color, and
+/// the border of another is wider.
 IndicatorBrushes indicatorBrushes(const PaintContext& context)
 {
-    const bool pointed =
-        BaseStyle::isHovered(&context.option) || BaseStyle::isPressed(context.option);
+    const bool pressed = BaseStyle::isPressed(context.option);
+    const bool pointed = pressed || BaseStyle::isHovered(&context.option);
     const bool checked = context.has(QStyle::State_On) || context.has(QStyle::State_NoChange);
     IndicatorBrushes brushes{context.brush(ThemeNames::ControlBackgroundBrush),
                              context.brush(ThemeNames::ControlBorderBrush),
                              context.brush(ThemeNames::ForegroundMouseOverBrush),
-                             pointed && checked};
+                             checked ? pointed : pressed};
     if (pointed || checked)
         brushes.border = brushes.mark;
+    if (pressed && checked && !context.flag(WidgetProperties::Switch))
+        std::swap(brushes.background, brushes.mark);
     if (context.has(QStyle::State_Selected) && context.enabled()) // in a row of a view
         brushes.border = context.option.palette.brush(QPalette::HighlightedText);
     if (context.flag(WidgetProperties::DrawErrorIndicator))
@@ -123,12 +126,14 @@ void paintBox(const PaintContext& context, int radius, const IndicatorBrushes& b
 void paintKnob(const PaintContext& context)
 {
     constexpr int KnobMargin = 3;
+    constexpr int PressedMargin = 2;
     const QRect& rect = context.option.rect;
     const bool on = context.has(QStyle::State_On);
-    const int diameter = rect.height() - 2 * KnobMargin;
-    const int travel = rect.width() - 2 * KnobMargin - diameter;
+    const int margin = BaseStyle::isPressed(context.option) ? PressedMargin : KnobMargin;
+    const int diameter = rect.height() - 2 * margin;
+    const int travel = rect.width() - 2 * margin - diameter;
     const int offset = on ? travel : context.has(QStyle::State_NoChange) ? travel / 2 : 0;
-    const QRect knob(rect.x() + KnobMargin + offset, rect.y() + KnobMargin, diameter, diameter);
+    const QRect knob(rect.x() + margin + offset, rect.y() + margin, diameter, diameter);
     const PainterSaver saver(context.painter);
     context.painter.setRenderHint(QPainter::Antialiasing);
     context.painter.setPen(Qt::NoPen);
