@@ -174,8 +174,8 @@ QBrush themedWords(const StyleContext& context, const BaseStyle::ButtonBrushes& 
                : brushes.foregroundBrush;
 }
 
-/// The keyboard's place is seen without colors too: there the border takes the accent and is two
-/// pixels wide, and the mark inside it comes second.
+/// Deliberate: the keyboard's place is seen without colors too: there the border takes the accent
+/// and is two pixels wide, and the mark inside it comes second.
 bool showsFocus(const StyleContext& context)
 {
     constexpr QStyle::State Shown = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;

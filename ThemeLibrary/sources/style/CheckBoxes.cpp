@@ -92,8 +92,8 @@ struct IndicatorBrushes
 };
 
 /// A checked indicator has a border in the color of its mark, and so has one that is pointed at;
-/// both together make it wider. While it is pressed, a checked one is filled with that color, and
-/// the border of another is wider.
+/// both together make it wider. Deliberate: while it is pressed, a checked one is filled with that
+/// color, and the border of another is wider.
 IndicatorBrushes indicatorBrushes(const PaintContext& context)
 {
     const bool pressed = BaseStyle::isPressed(context.option);

@@ -164,7 +164,7 @@ QBrush labelBrush(const PaintContext& context, const QStyleOptionComboBox& combo
 {
     if (showsPlaceholder(context.widget))
         return context.enabled() ? comboBox.palette.brush(QPalette::PlaceholderText)
-                                 : context.brush(ThemeNames::ForegroundDisabledBrush);
+                                 : context.brush(ThemeNames::ForegroundBrush);
     const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&comboBox, context.widget);
     const QBrush themed =
         comboBox.frame ? brushes.foregroundBrush : context.brush(ThemeNames::ForegroundBrush);

@@ -130,7 +130,7 @@ bool isFilledByFrame(const QWidget* widget)
            || !(qobject_cast<const QFrame*>(widget) || qobject_cast<const QLineEdit*>(widget));
 }
 
-/// Who has the focus is seen without colors too: its border is two pixels wide.
+/// Deliberate: who has the focus is seen without colors too: its border is two pixels wide.
 void paintFocusBorder(const PaintContext& context, const QRect& rect, int radius,
                       const QBrush& border)
 {

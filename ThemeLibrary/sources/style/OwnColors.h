@@ -31,8 +31,8 @@ QBrush controlGround(const StyleContext& context);
 QBrush words(const StyleContext& context, QPalette::ColorRole role, QPalette::ColorRole groundRole,
              const QBrush& themed);
 
-/// What is drawn on the window in `themed`: where that is not seen on the application's own color,
-/// it takes that of the words there.
+/// What is drawn on the window in `themed`. Deliberate: where that is not seen on the application's
+/// own color, it takes that of the words there.
 QBrush onWindow(const StyleContext& context, const QBrush& themed);
 
 /// The contrast to its ground that is left to an application which chose a color for words.

@@ -86,7 +86,7 @@ bool hasActiveGround(const QStyleOptionTitleBar& bar)
     return !Shapes::isLight(ground) && ground != bar.palette.color(QPalette::Window);
 }
 
-/// Otherwise the bar has the accent as ground, or a shade of it that white is read on.
+/// Deliberate: otherwise the bar has the accent as ground, or a shade of it that white is read on.
 bool isOnAccent(const QStyleOptionTitleBar& bar)
 {
     return bar.titleBarState & QStyle::State_Active && !hasActiveGround(bar);
@@ -126,7 +126,7 @@ void paintSystemMenu(const PaintContext& context, const QStyleOptionTitleBar& ba
               : context.proxy().standardIcon(QStyle::SP_TitleBarMenuButton, &bar, context.widget);
     QBrush brush = isOwn ? QBrush(captionColor(bar)) : QBrush();
     const QSize size = isOwn ? rect.size() : QSize(MenuIconSize, MenuIconSize);
-    if (isOwn && isOnAccent(bar)) { // in which an icon may have parts
+    if (isOwn && isOnAccent(bar)) { // Deliberate: icons have parts in the accent, too.
         Shapes::drawBox(context, rect.adjusted(-1, -1, 1, 1),
                         Shapes::cornerRadius(ThemeNames::BaseSize), bar.palette.window(), QBrush());
         brush = bar.palette.windowText();
