@@ -91,15 +91,21 @@ private:
     QByteArray applied(const QStringList& themes = {QStringLiteral("a")})
     {
         QByteArray text;
+        bool isAsTold = false;
         for (const QString& theme : themes) {
+            BaseTheme taken(m_files.path(theme));
+            const QPalette told = taken.getPalette(QGuiApplication::palette());
             MessageRecorder messages;
-            BaseTheme(m_files.path(theme)).customize(qApp);
+            taken.customize(qApp);
             QStringList reports = messages.take();
             reports.sort();
             for (const QString& report : qAsConst(reports))
                 text += report.toUtf8() + '\n';
+            if (!taken.getError().isEmpty())
+                text += "told: " + taken.getError().toUtf8() + '\n';
+            isAsTold = toText(told) == toText(QApplication::palette());
         }
-        text += state();
+        text += state() + (isAsTold ? "palette as told\n" : "");
         text.replace(m_files.path().toUtf8(), "REPOSITORY");
         reset();
         return text;
