@@ -130,11 +130,22 @@ void type(const QStringList& keys)
     QProcess::startDetached(QStringLiteral("xdotool"), QStringList(QStringLiteral("key")) + keys);
 }
 
+QList<QAction*> menuActions(const QWidget* window)
+{
+    QList<QAction*> actions;
+    for (const QMenuBar* bar : visible<QMenuBar>(window)) {
+        for (const QAction* menu : bar->actions())
+            actions += menu->menu() ? menu->menu()->actions() : QList<QAction*>();
+    }
+    return actions;
+}
+
 QAction* findAction(const QWidget* window, const char* pattern, QAction::MenuRole role)
 {
     const QRegularExpression name{QLatin1String(pattern)};
     QAction* found = nullptr;
-    for (QAction* action : window->findChildren<QAction*>()) {
+    // Not all actions of menus are children of the window.
+    for (QAction* action : menuActions(window) + window->findChildren<QAction*>()) {
         if (action->menu() || !action->isEnabled() || !action->isVisible())
             continue;
         if (role != QAction::NoRole && action->menuRole() == role)
@@ -143,15 +154,6 @@ QAction* findAction(const QWidget* window, const char* pattern, QAction::MenuRol
             found = action;
     }
     return found;
-}
-
-bool isInMenus(const QWidget* window, QAction* action)
-{
-    const auto bars = visible<QMenuBar>(window);
-    const auto menus = bars.isEmpty() ? QList<QAction*>() : bars.first()->actions();
-    return std::any_of(menus.begin(), menus.end(), [action](const QAction* menu) {
-        return menu->menu() && menu->menu()->actions().contains(action);
-    });
 }
 
 QWidget* contextWidget(const QWidget* window)
@@ -294,7 +296,8 @@ void Tour::visitDialog(const QString& name, QAction* action)
 {
     if (!action)
         return;
-    visit(name, [=] { reach(name, action, isInMenus(m_window, action) ? MostKeys : 0); });
+    visit(name,
+          [=] { reach(name, action, menuActions(m_window).contains(action) ? MostKeys : 0); });
     m_steps.push_back([this, name] { visitPages(name); });
     m_steps.push_back([this] { closeDialogs(m_window); });
     m_steps.push_back([this] { closeDialogs(m_window); });
