@@ -15,9 +15,12 @@ namespace BRELK::Texts {
 namespace {
 
 constexpr int LongestLine = 128;
+/// Labels tell the direction of their text themselves.
+constexpr int ForcedDirections = Qt::TextForceLeftToRight | Qt::TextForceRightToLeft;
 /// Flags that only say where a line goes, or that change nothing in one that is alone.
 constexpr int SimpleFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine
-                            | Qt::TextShowMnemonic | Qt::TextDontClip;
+                            | Qt::TextShowMnemonic | Qt::TextDontClip | ForcedDirections
+                            | Qt::TextWordWrap;
 
 struct LineKey
 {
@@ -78,6 +81,13 @@ std::unique_ptr<Line> layOut(const LineKey& key)
     return line;
 }
 
+Qt::LayoutDirection directionOf(const QPainter& painter, int flags)
+{
+    if (flags & ForcedDirections)
+        return flags & Qt::TextForceLeftToRight ? Qt::LeftToRight : Qt::RightToLeft;
+    return painter.layoutDirection();
+}
+
 bool isSimple(const QPainter& painter, int flags, const QString& text)
 {
     if ((flags & ~SimpleFlags) || flags & Qt::AlignJustify || text.isEmpty()
@@ -96,7 +106,7 @@ const Line& lineOf(const QPainter& painter, int flags, const QString& text)
     constexpr int BytesOfCharacter = 64;
     static Kept::Store<LineKey, Line> sLines;
     const LineKey key{text, painter.font(), painter.device()->logicalDpiY(),
-                      bool(flags & Qt::TextShowMnemonic), painter.layoutDirection()};
+                      bool(flags & Qt::TextShowMnemonic), directionOf(painter, flags)};
     if (const Line* known = sLines.find(key))
         return *known;
     return *sLines.keep(key, layOut(key), BytesOfLine + text.size() * BytesOfCharacter);
@@ -113,7 +123,7 @@ bool isRightAligned(Qt::LayoutDirection direction, int flags)
 
 /// Where a box of `size` goes in `rect`: along the line in fractions of a pixel, as the painter
 /// itself does it, and across it on a whole one, as line edits do it. So at every scale the texts
-/// of a row stand on one line.
+/// of a row stand on one line. Labels have their place from the painter in both directions.
 QRectF aligned(const QSizeF& size, Qt::LayoutDirection direction, int flags, const QRectF& rect)
 {
     QRectF box(rect.topLeft(), size);
@@ -123,9 +133,17 @@ QRectF aligned(const QSizeF& size, Qt::LayoutDirection direction, int flags, con
         box.moveLeft(rect.left() + (rect.width() - size.width()) / 2);
     if (flags & Qt::AlignBottom)
         box.moveBottom(rect.bottom());
+    else if (flags & Qt::AlignVCenter && flags & ForcedDirections)
+        box.moveTop(rect.top() + (rect.height() - size.height()) / 2);
     else if (flags & Qt::AlignVCenter)
         box.moveTop(rect.top() + qFloor((rect.height() - size.height() + 1) / 2));
     return box;
+}
+
+/// Whether a text that may be wrapped stands on one line; a blank at its end would not count there.
+bool fitsUnwrapped(const QSizeF& size, const QString& text, int width)
+{
+    return size.width() < width && !text.at(text.size() - 1).isSpace();
 }
 
 } // namespace
@@ -137,7 +155,11 @@ void draw(QPainter& painter, const QRect& rect, int flags, const QString& text)
         return;
     }
     const Line& line = lineOf(painter, flags, text);
-    const QRectF bounds = aligned(line.size, painter.layoutDirection(), flags, rect);
+    if (flags & Qt::TextWordWrap && !fitsUnwrapped(line.size, text, rect.width())) {
+        painter.drawText(rect, flags, text);
+        return;
+    }
+    const QRectF bounds = aligned(line.size, directionOf(painter, flags), flags, rect);
     const bool clipped = !(flags & Qt::TextDontClip) && !QRectF(rect).contains(bounds);
     if (!clipped) {
         line.layout.lineAt(0).draw(&painter, bounds.topLeft());

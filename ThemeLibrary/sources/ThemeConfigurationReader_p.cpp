@@ -14,8 +14,9 @@ namespace {
 
 bool isForeground(const QString& name)
 {
-    return name.contains(QLatin1String("Foreground")) || name.contains(QLatin1String("Text"))
-           || name.contains(QLatin1String("Link"));
+    // Half of the time is spent on converting the words otherwise.
+    return name.contains(QStringLiteral("Foreground")) || name.contains(QStringLiteral("Text"))
+           || name.contains(QStringLiteral("Link"));
 }
 
 } // namespace

@@ -181,6 +181,7 @@ private Q_SLOTS:
         row("resolution", [](Look& look) { look.dotsPerInch = 144; });
         row("direction", [](Look& look) { look.direction = Qt::RightToLeft; });
         row("mnemonics", [](Look& look) { look.flags = 0; });
+        row("forced direction", [](Look& look) { look.flags |= Qt::TextForceRightToLeft; });
         row("width", [](Look& look) { look.rect.setWidth(41); });
         row("height", [](Look& look) { look.rect.setHeight(21); });
         row("radius", [](Look& look) { look.radius = 6; });
