@@ -4,7 +4,7 @@
 namespace BRELK::Opacities {
 
 /// Of the accent over a row that is pointed at.
-inline constexpr double HoveredItem = 0.16;
+inline constexpr double HoveredItem = 0.24;
 
 /// Of the box or circle around the mark of a menu's row.
 inline constexpr double MenuMarkBorder = 0.6;
