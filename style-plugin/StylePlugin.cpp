@@ -40,9 +40,8 @@ QStringList repositories()
 
 bool isThemed(const QStyle& style)
 {
-    // A style sheet of the program's wraps the style.
-    return qobject_cast<const BaseStyle*>(&style)
-           || style.findChild<BaseStyle*>({}, Qt::FindDirectChildrenOnly);
+    // A style sheet, or a style of the desktop's, wraps it.
+    return qobject_cast<const BaseStyle*>(&style) || style.findChild<BaseStyle*>();
 }
 
 /// The theme of this process: a style plugin may be asked for its style again and again. The
@@ -70,9 +69,11 @@ public:
         if (event->type() == QEvent::ApplicationPaletteChange && m_isWorn)
             judgePalette();
         // The program takes the style that it is given as its child.
-        if (event->type() == QEvent::ChildAdded
-            && qobject_cast<QStyle*>(static_cast<QChildEvent*>(event)->child()))
-            setWorn(isThemed(*QApplication::style()));
+        if (event->type() == QEvent::ChildAdded) {
+            if (auto* style = qobject_cast<QStyle*>(static_cast<QChildEvent*>(event)->child()))
+                // One without a style would make one when it is asked.
+                setWorn(isThemed(m_isWorn ? *QApplication::style() : *style));
+        }
         return false;
     }
 
