@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QPointer>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QSettings>
 #include <QStringBuilder>
@@ -94,8 +95,8 @@ void setPalette(const QString& kind)
 } // namespace
 
 /// A program that was built without the library and prints what it looks like. PLAIN_SHEET is its
-/// style sheet, PLAIN_STYLE the style that it chooses after that, PLAIN_PALETTE the color of its
-/// palette, PLAIN_LATER what it sets later, PLAIN_ICONS its icon theme.
+/// style sheet, PLAIN_STYLE the style that it wraps into its own after that, PLAIN_PALETTE the
+/// color of its palette, PLAIN_LATER what it sets later, PLAIN_ICONS its icon theme.
 int main(int argc, char** argv)
 {
     print("before", QStyleFactory::create(QStringLiteral("varn")) ? QStringLiteral("a style")
@@ -111,8 +112,9 @@ int main(int argc, char** argv)
     const QApplication app(argc, argv);
     if (qEnvironmentVariableIsSet("PLAIN_SHEET"))
         qApp->setStyleSheet(qEnvironmentVariable("PLAIN_SHEET"));
+    // As the desktop's own styles do.
     if (qEnvironmentVariableIsSet("PLAIN_STYLE"))
-        QApplication::setStyle(qEnvironmentVariable("PLAIN_STYLE"));
+        QApplication::setStyle(new QProxyStyle(qEnvironmentVariable("PLAIN_STYLE")));
     printLooks("style");
 
     QLabel label;

@@ -48,7 +48,7 @@ private Q_SLOTS:
                                            + QLatin1String(settings))});
         starts.append({"by its key", start(QStringLiteral("QT_STYLE_OVERRIDE=varn-highcontrast"))});
         starts.append({"fusion", start(QStringLiteral("QT_STYLE_OVERRIDE=fusion"))});
-        starts.append({"chosen after a sheet",
+        starts.append({"wrapped, after a sheet",
                        start(QStringLiteral("QT_STYLE_OVERRIDE= PLAIN_SHEET=QLabel{color:red} "
                                             "PLAIN_STYLE=varn"))});
         QTemporaryFile file;
