@@ -194,6 +194,9 @@ private Q_SLOTS:
             QCOMPARE(bar->backgroundRole(), enabled ? QPalette::Highlight : QPalette::Button);
             QCOMPARE(color(Qt::Saturday), enabled ? "StatusDangerColor" : "palette.Disabled.Text");
         }
+        QApplication::style()->unpolish(&calendar);
+        calendar.setPalette(Qt::gray);
+        QCOMPARE(color(Qt::Saturday), "#ff0000");
     }
 
     void nullWidgetsAreNone()

@@ -355,6 +355,8 @@ void BaseStyle::unpolish(QWidget* widget)
     if (!widget)
         return;
     QProxyStyle::unpolish(widget);
+    if (is<QCalendarWidget>(widget)) // or the palette of the next style would calm it again
+        widget->removeEventFilter(this);
     for (const UnpolishRule& rule : UnpolishRules) {
         if (rule.applies(widget))
             rule.action(*widget);
