@@ -154,7 +154,8 @@ void paintQuietBackground(const PaintContext& context, const QStyleOptionComboBo
                                                   : ThemeNames::BackgroundUpLevel1Brush;
     const QBrush own = OwnColors::controlGround(context);
     Shapes::drawBox(context, comboBox.rect, Shapes::cornerRadius(ThemeNames::SmallSize),
-                    own.style() == Qt::NoBrush ? context.brush(name) : own, Qt::NoBrush);
+                    own.style() == Qt::NoBrush ? context.brush(name) : own,
+                    context.borderBrush()); // the ground alone may be as dark as around it
     if (comboBox.subControls & QStyle::SC_ComboBoxArrow)
         paintArrow(context, comboBox,
                    context.part(QStyle::CC_ComboBox, comboBox, QStyle::SC_ComboBoxArrow));

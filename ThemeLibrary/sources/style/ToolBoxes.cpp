@@ -61,7 +61,13 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
             step.setAlphaF(Opacities::HoveredToolBoxTab);
         context.painter.fillRect(rect, step);
     }
-    Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), context.borderBrush());
+    // Deliberate: what is pressed is told from what is pointed at by a wider line in the accent.
+    const bool pressed = BaseStyle::isPressed(tab);
+    const QBrush line = pressed ? context.brush(ThemeNames::MainBrush) : context.borderBrush();
+    Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), line);
+    if (pressed)
+        Shapes::drawLine(context, {rect.left(), rect.bottom() - 1},
+                         {rect.right(), rect.bottom() - 1}, line);
     if (leavesLabelToSheet(context)) {
         context.draw(QStyle::CE_ToolBoxTabLabel, tab);
         // Deliberate: the button draws nothing after this but the sheet's label, and asks no style
