@@ -166,12 +166,18 @@ bool isMeantForFilling(const StyleContext& context, const QBrush& background)
     return BaseStyle::isFlatButton(&context.option) && !isFilled(context) && background.isOpaque();
 }
 
-/// What the theme writes in on such a button.
-QBrush themedWords(const StyleContext& context, const BaseStyle::ButtonBrushes& brushes)
+/// What a button writes in.
+QBrush wordsBrush(const StyleContext& context)
 {
-    return isMeantForFilling(context, brushes.backgroundBrush)
-               ? context.brush(ThemeNames::ButtonUncheckedForegroundBrush)
-               : brushes.foregroundBrush;
+    const BaseStyle::ButtonBrushes brushes =
+        BaseStyle::buttonBrushes(&context.option, context.widget);
+    QBrush themed = brushes.foregroundBrush;
+    if (isMeantForFilling(context, brushes.backgroundBrush))
+        themed = context.brush(ThemeNames::ButtonUncheckedForegroundBrush);
+    if (themed.style() == Qt::NoBrush)
+        themed = context.color(ThemeNames::ForegroundColor);
+    return Foregrounds::ofText(context, QPalette::ButtonText, themed,
+                               isFilled(context) ? brushes.backgroundBrush : QBrush());
 }
 
 /// Deliberate: the keyboard's place is seen without colors too: there the border takes the accent
@@ -312,10 +318,7 @@ void paintButton(const PaintContext& context, const QStyleOptionButton& button)
                          ? squareInside(button.rect)
                          : context.part(QStyle::SE_PushButtonFocusRect);
         // The mark lies on the button's body, so it takes the color of the words there.
-        const QBrush words =
-            themedWords(context, BaseStyle::buttonBrushes(&button, context.widget));
-        if (words.style() != Qt::NoBrush)
-            Foregrounds::set(focus, words, QPalette::Text);
+        Foregrounds::set(focus, wordsBrush(context), QPalette::Text);
         context.draw(QStyle::PE_FrameFocusRect, focus);
     }
 }
@@ -338,14 +341,7 @@ void paintBevel(const PaintContext& context, const QStyleOptionButton& button)
 
 void paintLabel(const PaintContext& context, const QStyleOptionButton& button)
 {
-    const BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&button, context.widget);
-    QBrush themed = themedWords(context, brushes);
-    if (themed.style() == Qt::NoBrush)
-        themed = context.color(ThemeNames::ForegroundColor);
-    const QBrush foreground =
-        Foregrounds::ofText(context, QPalette::ButtonText, themed,
-                            isFilled(context) ? brushes.backgroundBrush : QBrush());
-
+    const QBrush foreground = wordsBrush(context);
     constexpr int Flags = Qt::AlignCenter | Qt::TextShowMnemonic;
     const int textWidth = Texts::width(context.painter, Flags, button.text);
     QRect rect = labelRect(context, button);
