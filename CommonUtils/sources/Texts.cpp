@@ -20,7 +20,7 @@ constexpr int ForcedDirections = Qt::TextForceLeftToRight | Qt::TextForceRightTo
 /// Flags that only say where a line goes, or that change nothing in one that is alone.
 constexpr int SimpleFlags = Qt::AlignHorizontal_Mask | Qt::AlignVertical_Mask | Qt::TextSingleLine
                             | Qt::TextShowMnemonic | Qt::TextDontClip | ForcedDirections
-                            | Qt::TextWordWrap;
+                            | Qt::TextWordWrap | Qt::TextExpandTabs;
 
 struct LineKey
 {
@@ -102,8 +102,8 @@ bool isSimple(const QPainter& painter, int flags, const QString& text)
 
 const Line& lineOf(const QPainter& painter, int flags, const QString& text)
 {
-    constexpr int BytesOfLine = 2048;
-    constexpr int BytesOfCharacter = 64;
+    constexpr int BytesOfLine = 1024; // measured, as that of a character
+    constexpr int BytesOfCharacter = 24;
     static Kept::Store<LineKey, Line> sLines;
     const LineKey key{text, painter.font(), painter.device()->logicalDpiY(),
                       bool(flags & Qt::TextShowMnemonic), directionOf(painter, flags)};
