@@ -123,11 +123,10 @@ public:
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
     {
-        constexpr QSize Largest(2048, 2048);
         const QTransform transform = painter->deviceTransform();
         const qreal scale = std::sqrt(std::abs(transform.determinant()));
         const QSize size = (QSizeF(rect.size()) * scale).toSize();
-        painter->drawPixmap(rect, pixmap(size.boundedTo(Largest), mode, state));
+        painter->drawPixmap(rect, pixmap(size, mode, state));
     }
 
     void virtual_hook(int id, void* data) override
@@ -220,6 +219,7 @@ QPixmap pixmap(const QIcon& icon, const Recoloring& recoloring, const QSize& siz
                QIcon::State state, qreal ratio)
 {
     constexpr int MostContent = 64 * 64; ///< pixels
+    constexpr QSize Largest(2048, 2048);
     const bool disabled = recoloring.disabled || mode == QIcon::Disabled;
     const QIcon::Mode ownMode = disabled ? QIcon::Disabled : mode;
     const bool isOwn = hasOwn(icon, ownMode, state);
@@ -235,7 +235,7 @@ QPixmap pixmap(const QIcon& icon, const Recoloring& recoloring, const QSize& siz
     QPixmap source;
     {
         const AskedInDevicePixels inDevicePixels;
-        source = icon.pixmap(size * ratio, key.mode, state);
+        source = icon.pixmap(size.boundedTo(Largest) * ratio, key.mode, state);
     }
     if (source.isNull() || (!key.icon && !isRecolored(key.recoloring) && ratio == 1))
         return source;

@@ -29,7 +29,9 @@ class SharedFocus : public QObject
 public:
     static SharedFocus& instance()
     {
-        static QPointer<SharedFocus> sInstance = new SharedFocus;
+        static QPointer<SharedFocus> sInstance;
+        if (!sInstance)
+            sInstance = new SharedFocus;
         return *sInstance;
     }
 
@@ -49,6 +51,8 @@ private:
     void follow(QWidget* focused)
     {
         m_widgets.removeAll(nullptr);
+        if (m_widgets.contains(focused))
+            return;
         for (const QPointer<QWidget>& widget : m_widgets) {
             if (focused)
                 widget->setFocusProxy(focused);

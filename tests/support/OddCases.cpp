@@ -288,6 +288,7 @@ void OddCases::paintAnywhere(const std::function<void(QPainter&)>& paint)
         QBuffer buffer;
         buffer.open(QIODevice::WriteOnly);
         QPdfWriter writer(&buffer);
+        writer.setResolution(96); // what it cannot do is painted into pictures of the whole page
         paintOn(writer);
     } else if (kind == 3) {
         QBitmap bitmap(90, 60);

@@ -49,8 +49,8 @@ QSize lineEditSize(const MeasureContext& context, const QStyleOptionFrame& frame
 {
     if (frame.lineWidth <= 0)
         return contents;
-    return {contents.width() + 2 * frame.lineWidth,
-            qMax(contents.height() + 2 * frame.lineWidth, context.controlHeight())};
+    const int borders = 2 * qMin(frame.lineWidth, QWIDGETSIZE_MAX);
+    return {contents.width() + borders, qMax(contents.height() + borders, context.controlHeight())};
 }
 
 /// The text of an editor that is a part of another input begins where that of a line edit does.

@@ -44,7 +44,7 @@ struct Columns
 Columns columnsOf(const MeasureContext& context, const QStyleOptionMenuItem& item)
 {
     const int padding = context.dpiScaled(ItemPadding);
-    const int mark = qMax(item.maxIconWidth, context.indicatorSize());
+    const int mark = qBound(context.indicatorSize(), item.maxIconWidth, QWIDGETSIZE_MAX);
     return {mark + 2 * padding, context.indicatorSize() + padding};
 }
 

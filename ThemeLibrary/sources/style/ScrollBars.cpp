@@ -41,11 +41,23 @@ QRect minimizedSliderRect(const StyleContext& context, const QStyleOptionSlider&
                : base.adjusted(1 - extent - frameWidth, 0, extent - 1 + frameWidth, frameWidth);
 }
 
+/// What the base style answers; it divides by the sum of range and page.
+QRect basePartRect(const StyleContext& context, const QStyleOptionSlider& bar,
+                   QStyle::SubControl part)
+{
+    if (uint(bar.maximum) - uint(bar.minimum) + uint(bar.pageStep) != 0)
+        return context.baseRect(QStyle::CC_ScrollBar, bar, part);
+    QStyleOptionSlider copy = bar;
+    copy.pageStep = 0;
+    copy.maximum = copy.minimum;
+    return context.baseRect(QStyle::CC_ScrollBar, copy, part);
+}
+
 } // namespace
 
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& bar, QStyle::SubControl part)
 {
-    const auto base = [&] { return context.baseRect(QStyle::CC_ScrollBar, bar, part); };
+    const auto base = [&] { return basePartRect(context, bar, part); };
     if (!context.flag(WidgetProperties::Minimized))
         return base();
     switch (part) {

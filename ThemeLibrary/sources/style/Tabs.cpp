@@ -245,8 +245,9 @@ void paintFrame(const PaintContext& context)
         // The selected tab and its page are one surface: no line between them.
         const Side side = TabSides::of(frame->shape);
         const bool upright = TabSides::isUpright(side);
-        const QRect gap = frame->selectedTabRect.adjusted(upright ? 0 : 1, upright ? 1 : 0,
-                                                          upright ? 0 : -1, upright ? -1 : 0);
+        const QRect tab = frame->selectedTabRect & rect.adjusted(-1, -1, 1, 1);
+        const QRect gap =
+            tab.adjusted(upright ? 0 : 1, upright ? 1 : 0, upright ? 0 : -1, upright ? -1 : 0);
         context.painter.setClipRegion(QRegion(rect).subtracted(gap));
     }
     paintEdges(context, rect, context.borderBrush());
