@@ -19,7 +19,7 @@
 
 namespace {
 
-constexpr int Steps = 100;
+constexpr int Steps = 60;
 constexpr int Deepest = 2;
 
 /// Does one thing after another to a window, also while loops of its dialogs, menus and drags run.
@@ -50,9 +50,12 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (!widget)
+            return false;
         if (event->type() == QEvent::Paint && oneOutOf(200))
-            destroyLater(*qobject_cast<QWidget*>(watched));
-        else if (event->type() != QEvent::Paint && watched->isWidgetType() && oneOutOf(500))
+            destroyLater(*widget);
+        else if (event->type() != QEvent::Paint && oneOutOf(500))
             actInBetween();
         return false;
     }
@@ -78,7 +81,6 @@ private Q_SLOTS:
 private:
     QRandomGenerator m_random;
     QWidget& m_window;
-    bool m_hasSheets = m_random.bounded(2);
     int m_left = Steps;
     int m_depth = 0;
 
@@ -207,53 +209,48 @@ private:
 
     void switchTheme(QWidget&)
     {
+        const QScopedValueRollback<int> rollback(m_depth, Deepest);
         BRELK::ThemeSwitcher::getInstance().switchTo(
             QLatin1String(oneOf({"Dark", "Light", "HighContrast"})));
     }
 
-    QStyle* anyStyle()
-    {
-        switch (upTo(2)) {
-        case 0: return QStyleFactory::create(QStringLiteral("fusion"));
-        case 1: return new QProxyStyle(new BRELK::BaseStyle);
-        default: return new BRELK::BaseStyle;
-        }
-    }
-
-    /// Not in between, where the toolkit's own styles do not bear it either.
+    /// Not in between, and no style or sheet around a wizard, which gives the first style to its
+    /// pages: the toolkit does not bear that by itself either.
     void changeStyle(QWidget& widget)
     {
         const QScopedValueRollback<int> rollback(m_depth, Deepest);
-        const QString sheet =
-            oneOf({QString(), QString(), QStringLiteral("* { color: red; margin: 3; }")});
-        switch (upTo(4)) {
-        case 0: QApplication::setStyle(anyStyle()); break;
-        case 1: qApp->setStyleSheet(sheet); break;
-        case 2: QApplication::setFont(QFont(QStringLiteral("Sans"), 5 + upTo(20))); break;
-        case 3: QApplication::setPalette(widget.palette()); break;
-        default:
-            // Or styles: the toolkit bears neither both, nor these in wizards.
-            if (m_hasSheets || m_window.findChild<QWizard*>())
-                return widget.setStyleSheet(sheet);
-            QStyle* style = anyStyle();
-            style->setParent(&m_window);
-            widget.setStyle(style);
+        const int first = m_window.findChild<QWizard*>() ? 4 : 0;
+        switch (first + upTo(5 - first)) {
+        case 0: QApplication::setStyle(QStyleFactory::create(QStringLiteral("fusion"))); break;
+        case 1: QApplication::setStyle(new BRELK::BaseStyle); break;
+        case 2: QApplication::setStyle(new QProxyStyle(new BRELK::BaseStyle)); break;
+        case 3:
+            widget.setStyleSheet(oneOf({QString(), QStringLiteral("* { color: red; }")}));
+            break;
+        case 4: QApplication::setFont(QFont(QStringLiteral("Sans"), 5 + upTo(20))); break;
+        default: QApplication::setPalette(widget.palette());
         }
     }
 
-    /// Spares the parts of the toolkit's own widgets, which they need.
-    void destroyLater(QWidget& widget)
+    /// The toolkit's own widgets need their parts.
+    bool mayGo(QWidget& widget) const
     {
-        const QWidget* parent = widget.parentWidget();
-        if (!parent || !parent->layout() || parent->layout()->indexOf(&widget) < 0)
-            return;
-        for (const QWidget* around = parent; around != &m_window; around = around->parentWidget())
-            if (!around || around->objectName().startsWith(QLatin1String("qt_"))
+        QWidget* around = widget.parentWidget();
+        if (!around || !around->layout() || around->layout()->indexOf(&widget) < 0)
+            return false;
+        for (; around && around != &m_window; around = around->parentWidget())
+            if (around->objectName().startsWith(QLatin1String("qt_"))
                 || (around->metaObject() != &QWidget::staticMetaObject
                     && around->metaObject() != &QFrame::staticMetaObject
                     && !qobject_cast<const QGroupBox*>(around)))
-                return;
-        widget.deleteLater();
+                return false;
+        return around;
+    }
+
+    void destroyLater(QWidget& widget)
+    {
+        if (mayGo(widget))
+            widget.deleteLater();
     }
 };
 

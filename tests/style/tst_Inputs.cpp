@@ -124,6 +124,14 @@ private Q_SLOTS:
                     .count('\n')
                 < 10);
 
+        Open<QDial> dial;
+        dial.setNotchesVisible(true);
+        auto notched = optionOf<QStyleOptionSlider>(dial, {60, 60});
+        notched.minimum = -Huge; // more notches than an int counts, and then less than none
+        notched.maximum = Huge;
+        for (notched.tickInterval = 1; notched.tickInterval >= -1; notched.tickInterval -= 2)
+            QVERIFY(!drawn(QStyle::CC_Dial, notched, &dial).isEmpty());
+
         Open<QProgressBar> bar;
         bar.setRange(std::numeric_limits<int>::min(), Huge);
         bar.setValue(0);

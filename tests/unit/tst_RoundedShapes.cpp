@@ -184,32 +184,6 @@ private Q_SLOTS:
         QCOMPARE(messages.take(), QStringList());
     }
 
-    void painterIsLeftAsFound()
-    {
-        for (const QTransform& transform :
-             {QTransform(), QTransform::fromTranslate(0.3, 0.4), QTransform().rotate(30),
-              QTransform::fromScale(-1, 1).translate(-Side, 0)}) {
-            QImage image = canvas();
-            QPainter painter(&image);
-            painter.setPen(QPen(Qt::white, 1.2));
-            painter.setBrush(Qt::red);
-            painter.setClipRect(10, 10, 50, 50);
-            painter.setTransform(transform);
-            const QPen pen = painter.pen();
-            const auto hints = painter.renderHints();
-            Helpers::drawRoundedRectShape(QRectF(12.5, 12.5, 70, 60), 6, Helpers::None, &painter);
-            QCOMPARE(painter.pen(), pen);
-            QCOMPARE(painter.brush(), QBrush(Qt::red));
-            QCOMPARE(painter.renderHints(), hints);
-            QCOMPARE(painter.worldTransform(), transform);
-            painter.resetTransform();
-            QCOMPARE(painter.clipBoundingRect(), QRectF(10, 10, 50, 50));
-            painter.end();
-            QVERIFY(image != canvas());
-            QCOMPARE(image.pixel(80, 40), canvas().pixel(0, 0));
-        }
-    }
-
     void brightnessWeighsChannels()
     {
         QCOMPARE(Helpers::getPerceivedBrightness(Qt::white), 255);
