@@ -175,12 +175,14 @@ void drawGrips(const PaintContext& context, Qt::Orientation orientation, int fro
                int across, const QColor& ground)
 {
     constexpr int Step = 4;
+    constexpr int Longest = 1 << 15; // where a recording or a tiny scale lets all of it be seen
     const bool upright = orientation == Qt::Vertical;
     const QRect seen = visiblePart(
         context.painter, upright ? QRect(QPoint(across, from), QPoint(across + GripSize, to))
                                  : QRect(QPoint(from, across), QPoint(to, across + GripSize)));
     from += qMax(0, (upright ? seen.top() : seen.left()) - from) / Step * Step;
     to = qMin(to, (upright ? seen.bottom() : seen.right()) + 1);
+    to = qMin(to, from + Longest);
     context.style.drawGrips(context.painter, orientation, from, to, across, Step, GripSize, 1);
     if (!isLight(ground.isValid() ? ground : context.option.palette.color(QPalette::Window)))
         return;
