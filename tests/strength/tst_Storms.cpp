@@ -277,6 +277,8 @@ private Q_SLOTS:
         const MessageRecorder messages;
         const auto& pages = Gallery::allPages();
         const std::unique_ptr<QWidget> page(Gallery::buildPage(pages.at(number % pages.size())));
+        if (page->findChild<QWizard*>() && !qEnvironmentVariableIsSet("VARN_STORMS"))
+            QSKIP("The pages of a wizard may keep a style that is gone.");
         page->resize(1100, 800);
         page->show();
         Storm(number, *page).run();
