@@ -12,8 +12,10 @@
 #include "ThemeResources_p.h"
 #include "ThemeValues.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDebug>
+#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -26,6 +28,7 @@
 #include <QToolButton>
 #include <QVector>
 #include <QWidget>
+#include <QWizard>
 
 #include <utility>
 
@@ -80,19 +83,62 @@ void renewCalendarWords(QWidget& widget)
     widget.setPalette(palette);
 }
 
+bool isSheetStyle(const QStyle* style)
+{
+    return style->inherits("QStyleSheetStyle");
+}
+
+/// Whether the toolkit gives the widget the style of the box or the wizard that it is part of,
+/// whenever that changes.
+bool isGivenStyles(const QWidget& widget)
+{
+    if (qobject_cast<const QWizardPage*>(&widget))
+        return true;
+    if (!qobject_cast<const QAbstractButton*>(&widget))
+        return false;
+    const QWidget* parent = widget.parentWidget();
+    if (qobject_cast<const QDialogButtonBox*>(parent))
+        return true;
+    while (parent && !qobject_cast<const QWizardPage*>(parent)
+           && !qobject_cast<const QWizard*>(parent))
+        parent = parent->parentWidget();
+    return qobject_cast<const QWizard*>(parent);
+}
+
+/// Whether the widget holds the application's style, or a style sheet's around it, as if that were
+/// its own: it would keep it, and those inside it too.
+bool holdsStyle(const QWidget& widget, const QStyle* style)
+{
+    return widget.testAttribute(Qt::WA_SetStyle)
+           && (widget.style() == style
+               || (isSheetStyle(widget.style()) && widget.styleSheet().isEmpty()
+                   && isGivenStyles(widget)));
+}
+
+/// Makes all that hold the application's style follow it. Who holds it is asked before anybody
+/// changes: a widget that changes gives those inside it styles of their own.
+void letGoOfStyle(const QStyle* style)
+{
+    Widgets holders;
+    for (QWidget* widget : QApplication::allWidgets())
+        if (holdsStyle(*widget, style))
+            holders.append(widget);
+    for (QWidget* widget : qAsConst(holders))
+        if (widget)
+            widget->setStyle(nullptr);
+}
+
 /// Unpolishes all widgets, so that what follows costs them nothing, and returns those that were
 /// polished.
 Widgets unpolishAll(const QPalette& themed)
 {
     QStyle* style = QApplication::style();
     const QBrush words = themed.brush(QPalette::Active, QPalette::WindowText);
+    letGoOfStyle(style);
     Widgets polished;
     for (QWidget* widget : QApplication::allWidgets()) {
         if (widget->windowType() == Qt::Desktop || !widget->testAttribute(Qt::WA_WState_Polished))
             continue;
-        // Boxes of buttons give theirs the application's style, which they would keep.
-        if (widget->testAttribute(Qt::WA_SetStyle) && widget->style() == style)
-            widget->setStyle(nullptr);
         style->unpolish(widget);
         widget->setAttribute(Qt::WA_WState_Polished, false);
         if (qobject_cast<QLabel*>(widget))
@@ -109,7 +155,7 @@ class StyleKeeper
 public:
     StyleKeeper()
         : m_installed(QApplication::style())
-        , m_style(m_installed->inherits("QStyleSheetStyle")
+        , m_style(isSheetStyle(m_installed)
                       ? m_installed->findChild<QStyle*>(QString(), Qt::FindDirectChildrenOnly)
                       : m_installed.data())
         , m_owner(m_style ? m_style->parent() : nullptr)
