@@ -148,7 +148,7 @@ Widgets unpolishAll(const QPalette& themed)
     return polished;
 }
 
-/// Keeps the application's style, also the one below its style sheet, until control returns to the
+/// Keeps the application's style, and the one below its style sheet, until control returns to the
 /// event loop: callers may stand in one of its functions, and widgets hold it until they are told.
 class StyleKeeper
 {
@@ -159,22 +159,19 @@ public:
                       ? m_installed->findChild<QStyle*>(QString(), Qt::FindDirectChildrenOnly)
                       : m_installed.data())
         , m_owner(m_style ? m_style->parent() : nullptr)
+        , m_holder(new QWidget)
     {
+        m_holder->setStyle(m_installed); // which counts who holds a style sheet's
         if (m_style)
             m_style->setParent(nullptr);
     }
 
     ~StyleKeeper()
     {
-        if (!m_style)
-            return;
-        if (m_installed == QApplication::style()) {
-            m_style->setParent(m_owner);
-            return;
-        }
-        auto* owner = new QObject;
-        m_style->setParent(owner);
-        owner->deleteLater(); // a style itself would pass that on to its base style
+        // A style itself would pass that on to its base style.
+        m_holder->deleteLater();
+        if (m_style)
+            m_style->setParent(m_installed == QApplication::style() ? m_owner : m_holder);
     }
 
     StyleKeeper(const StyleKeeper&) = delete;
@@ -184,6 +181,7 @@ private:
     const QPointer<QStyle> m_installed;
     const QPointer<QStyle> m_style;
     QObject* m_owner;
+    QWidget* m_holder;
 };
 
 void tell(QObject& object)

@@ -276,8 +276,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<int>("number");
         static int sNumber = qEnvironmentVariableIntValue("VARN_STORM");
+        constexpr int Few = 4;
         const int asked = qEnvironmentVariableIntValue("VARN_STORMS");
-        for (int count = (asked ? asked : Gallery::allPages().size()) / 2; count > 0; --count)
+        for (int count = (asked ? asked : Few) / 2; count > 0; --count)
             QTest::newRow(QByteArray::number(++sNumber)) << sNumber;
     }
 
