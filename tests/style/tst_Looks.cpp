@@ -75,13 +75,13 @@ QByteArrayList iconsOf(const QByteArray& look)
 }
 
 void addLook(LookSheet& sheet, const Element& element, const QByteArray& words = {},
-             const Settings& settings = {})
+             const Settings& settings = {}, LookSheet::Written written = LookSheet::Here)
 {
     LookSheet::States states;
     for (const State& state : {Hovered, Pressed, Checked, Focused, Disabled, RightToLeft})
         states.append({state.name, lookOf(element, settings, state)});
     sheet.add(element.name + words, lookOf(element, settings, AtRest), states,
-              sampleNamed(element.name, settings).option->rect.width());
+              sampleNamed(element.name, settings).option->rect.width(), written);
 }
 
 /// The metrics by their values.
@@ -208,12 +208,18 @@ private Q_SLOTS:
     {
         QFETCH(QByteArrayList, rows);
         LookSheet sheet;
+        QSet<QByteArray> plain;
         for (const QByteArray& row : rows) {
             const QByteArrayList names = row.split('|').first().simplified().split(' ');
-            for (const Element& element : elements())
-                if (names.contains(element.name))
-                    addLook(sheet, element, row.mid(row.indexOf('|') + 1),
-                            settingsOf(row.split('|').last()));
+            for (const Element& element : elements()) {
+                if (!names.contains(element.name))
+                    continue;
+                if (!plain.contains(element.name))
+                    addLook(sheet, element, {}, {}, LookSheet::Elsewhere);
+                plain.insert(element.name);
+                addLook(sheet, element, row.mid(row.indexOf('|') + 1),
+                        settingsOf(row.split('|').last()));
+            }
         }
         COMPARE_TRANSCRIPT(QTest::currentDataTag(), sheet.text());
     }

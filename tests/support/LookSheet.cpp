@@ -195,11 +195,21 @@ Lines mirrored(Lines lines, int width)
     return lines;
 }
 
+/// What a painter makes of them that looks into a mirror.
+Lines turned(Lines lines, int width)
+{
+    for (Line& line : lines)
+        line += {"matrix", "-1,0", "0,1", QByteArray::number(width) + ",0"};
+    return lines;
+}
+
 /// What `from` needs to become `to`.
 QByteArray departure(const Lines& from, const Lines& to, int width)
 {
     if (mirrored(from, width) == to)
         return " mirrored\n";
+    if (turned(from, width) == to)
+        return " mirrored by the painter\n";
     auto pairs = pairsOf(from, to);
     Lines kept;
     Lines wanted;
@@ -234,7 +244,7 @@ QByteArray departure(const Lines& from, const Lines& to, int width)
 } // namespace
 
 void LookSheet::add(const QByteArray& title, const QByteArray& atRest, const States& states,
-                    int width)
+                    int width, Written written)
 {
     const Lines rest = folded(linesOf(atRest));
     QByteArrayList names;
@@ -253,18 +263,35 @@ void LookSheet::add(const QByteArray& title, const QByteArray& atRest, const Sta
     for (int i = 0; i < names.size(); ++i)
         if (!departures.at(i).isEmpty())
             look += '[' + names.at(i) + ']' + departures.at(i);
-    const auto same = std::find_if(m_looks.begin(), m_looks.end(),
-                                   [&](const auto& known) { return known.second == look; });
+    const auto same = std::find_if(m_looks.begin(), m_looks.end(), [&](const Look& known) {
+        return known.look == look && !known.written.isEmpty();
+    });
     if (same != m_looks.end())
-        same->first.append(title);
+        same->titles.append(title);
     else
-        m_looks.append({{title}, look});
+        m_looks.append(
+            {{title}, look, written == Elsewhere ? QByteArray() : shortest(look, width)});
+}
+
+QByteArray LookSheet::shortest(const QByteArray& look, int width) const
+{
+    QByteArray text = look;
+    for (const Look& known : m_looks) {
+        if (known.written != known.look && !known.written.isEmpty())
+            continue;
+        const QByteArray other = "as " + known.titles.first() + ':'
+                                 + departure(linesOf(known.look), linesOf(look), width);
+        if (2 * other.size() < text.size() && 2 * other.count('\n') <= text.count('\n'))
+            text = other;
+    }
+    return text;
 }
 
 QByteArray LookSheet::text() const
 {
     QByteArray text;
-    for (const auto& [titles, look] : m_looks)
-        text += "# " + titles.join("\n# ") + '\n' + look;
+    for (const Look& look : m_looks)
+        if (!look.written.isEmpty())
+            text += "# " + look.titles.join("\n# ") + '\n' + look.written;
     return text;
 }

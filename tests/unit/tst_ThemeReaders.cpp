@@ -40,12 +40,20 @@ QByteArray toText(double number)
     return QByteArray::number(number);
 }
 
+/// A line for each, in which the value for disabled ones stands last.
 template <class Value>
 QByteArray toText(const char* title, const QMap<QString, Value>& values)
 {
+    const QLatin1String disabled("Disabled");
     QByteArray text;
-    for (auto value = values.cbegin(); value != values.cend(); ++value)
-        text += QByteArray(title) + ' ' + value.key().toLatin1() + ' ' + toText(*value) + '\n';
+    for (auto value = values.cbegin(); value != values.cend(); ++value) {
+        if (value.key().endsWith(disabled) && values.contains(value.key().chopped(disabled.size())))
+            continue;
+        text += QByteArray(title) + ' ' + value.key().toLatin1() + ' ' + toText(*value);
+        if (const auto twin = values.find(value.key() + disabled); twin != values.end())
+            text += ' ' + toText(*twin);
+        text += '\n';
+    }
     return text;
 }
 
@@ -53,34 +61,37 @@ QByteArray toText(const ThemeConfigurationReader& reader)
 {
     const QFont font = reader.getFont().getFont(ThemeFont::BASE_FONT);
     const QFont platforms = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
-    QByteArray text =
-        "status " + toText(reader.getStatus()) + '\n'
-        + toText("factor", reader.getDisabledFactorsMap()) + toText("color", reader.getColorsMap())
-        + toText("internal color", reader.getInternalColorsMap())
-        + toText("brush", reader.getBrushesMap())
-        + toText("internal brush", reader.getInternalBrushesMap())
-        + toText("opacity", reader.getOpacitiesMap())
-        + toText("radius", reader.getCornerRadiusMap()) + "weight " + toText(font.weight()) + '\n';
+    QByteArray numbers =
+        toText("opacity", reader.getOpacitiesMap()) + toText("radius", reader.getCornerRadiusMap());
     if (font.pointSizeF() != platforms.pointSizeF())
         for (const auto size : {ThemeFont::SMALL_FONT, ThemeFont::BASE_FONT, ThemeFont::MEDIUM_FONT,
                                 ThemeFont::LARGE_FONT})
-            text += "font " + toText(reader.getFont().getFont(size).pointSizeF()) + '\n';
-    return text;
+            numbers += "font " + toText(reader.getFont().getFont(size).pointSizeF()) + '\n';
+    return toText("factor", reader.getDisabledFactorsMap()) + toText("color", reader.getColorsMap())
+           + toText("internal color", reader.getInternalColorsMap())
+           + toText("brush", reader.getBrushesMap())
+           + toText("internal brush", reader.getInternalBrushesMap()) + "status "
+           + toText(reader.getStatus()) + " weight " + toText(font.weight()) + ' '
+           + numbers.simplified() + '\n';
 }
 
-/// The colors that differ from those that the reader was given.
+/// The colors of active, inactive and disabled ones that differ from those that the reader was
+/// given.
 QByteArray toText(const QPaletteReader& reader)
 {
     const QPalette palette = reader.deserialize();
     const auto roles = QMetaEnum::fromType<QPalette::ColorRole>();
     QByteArray text = "status " + toText(reader.getStatus()) + '\n';
-    for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
-        for (int i = 0; i < QPalette::NColorRoles; ++i) {
-            const auto role = QPalette::ColorRole(i);
-            if (palette.brush(group, role) != QPalette(Qt::gray).brush(group, role))
-                text += QByteArray(roles.valueToKey(role)) + ' ' + toText(group) + ' '
-                        + toText(palette.brush(group, role)) + '\n';
-        }
+    for (int i = 0; i < QPalette::NColorRoles; ++i) {
+        const auto role = QPalette::ColorRole(i);
+        QByteArray colors;
+        for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled})
+            colors += palette.brush(group, role) == QPalette(Qt::gray).brush(group, role)
+                          ? QByteArray(" as-given")
+                          : QByteArray(" ") + toText(palette.brush(group, role));
+        if (colors.contains('#'))
+            text += roles.valueToKey(role) + colors + '\n';
+    }
     return text;
 }
 
@@ -194,7 +205,7 @@ private Q_SLOTS:
     void longChainsAreResolvedAndFloodsOfProblemsAreCut()
     {
         const QByteArray resolved = read(chainOfColors(3500, "<Color name='c3500'>red</Color>"));
-        QVERIFY(resolved.contains("color c0 #ffff0000\n"));
+        QVERIFY(resolved.contains("color c0 #ffff0000 "));
         const QByteArrayList lines = read(chainOfColors(1000)).split('\n');
         QVERIFY(lines.at(199).endsWith(" too many problems; the rest is not reported"));
         QVERIFY(lines.at(200).startsWith("status"));
