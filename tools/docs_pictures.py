@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Draws the pictures of docs/theme-format.md and docs/make-a-theme.md: tools/docs_pictures.py BIN, where BIN holds
-varn-theme and varn-gallery. Colors are those that varn-theme computes; pages are rendered, and cut and packed with
+"""Draws the pictures of README.md, docs/theme-format.md and docs/make-a-theme.md: tools/docs_pictures.py BIN, where BIN
+holds varn-theme and varn-gallery. Colors are those that varn-theme computes; pages are rendered, and cut and packed with
 ImageMagick's "convert"."""
 
 import html
@@ -105,12 +105,19 @@ def terminal(lines):
     return svg(round(max(map(len, lines)) * 7.23) + 60, 20 * len(lines) + 22, content)
 
 
-def pack(name, *arguments):
-    subprocess.run(["convert", *arguments, "-strip", "+dither", "-colors", "64", "PNG8:" + str(IMAGES / name)], check=True)
+def pack(name, *arguments, colors=64):
+    subprocess.run(["convert", *arguments, "-strip", "+dither", "-colors", str(colors), "PNG8:" + str(IMAGES / name)], check=True)
 
 
 def cut(page, geometry):
     return ["(", str(page), "-crop", geometry, "+repage", ")"]
+
+
+def overviews(tools, directory):
+    for theme in ("Dark", "Light"):
+        pages = pathlib.Path(directory, theme)
+        tools.run("varn-theme", "render", str(sourcetree.ROOT / "Themes" / theme), str(pages))
+        pack(f"overview-{theme.lower()}.png", str(pages / "overview.png"), colors=256)
 
 
 def tutorial(tools, directory):
@@ -119,8 +126,7 @@ def tutorial(tools, directory):
     new = re.search(r'varn-theme new Plum.*--background "(\S+)" --foreground "(\S+)" --accent "(\S+)"', page).groups()
     tools.run("varn-theme", "new", "Plum", "--repository", str(repository), "--background", new[0], "--foreground", new[1],
               "--accent", new[2])
-    before, after, dark = (pathlib.Path(directory, name) for name in ("before", "after", "dark"))
-    tools.run("varn-theme", "render", str(repository / "Dark"), str(dark))
+    before, after, dark = (pathlib.Path(directory, name) for name in ("before", "after", "Dark"))
     tools.run("varn-theme", "render", str(plum), str(before))
     shown = tools.run("varn-theme", "show", str(plum), "^MainColor$").splitlines()
     (plum / "config.xml").write_text(re.search(r"<<'XML'\n(.*?)XML\n", page, re.S).group(1), encoding="utf-8")
@@ -139,6 +145,7 @@ def main():
     tools = Tools(sys.argv[1])
     with tempfile.TemporaryDirectory() as directory:
         (IMAGES / "derivations.svg").write_text(derivations(tools, directory), encoding="utf-8")
+        overviews(tools, directory)
         tutorial(tools, directory)
 
 
