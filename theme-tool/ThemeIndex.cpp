@@ -23,7 +23,7 @@ QStringList colorsOf(const ThemeElement& element)
 QString recipeOf(const ThemeElement& element)
 {
     QString text = element.getText();
-    for (const QString& attribute : derivationAttributes()) {
+    for (const QLatin1String attribute : derivationAttributes()) {
         if (element.hasAttribute(attribute))
             text += QLatin1Char(' ') + attribute + QLatin1Char('=')
                     + quoted(element.getAttribute(attribute));
@@ -56,7 +56,7 @@ void ThemeIndex::add(QMap<QString, Entry>& entries, const ThemeElement& element,
     const QString tag = element.getTag();
     Entry entry;
     entry.isBrush = &entries == &m_brushes;
-    entry.isInternal = element.getAttribute(QStringLiteral("internal")) == QLatin1String("true");
+    entry.isInternal = element.getAttribute(QLatin1String("internal")) == QLatin1String("true");
     entry.isGradient = tag == QLatin1String("LinearGradientBrush");
     entry.level = level;
     entry.place = element.place();
@@ -86,7 +86,7 @@ void ThemeIndex::readNumbers(const ThemeElement& numbers, int level)
 {
     for (const ThemeElement& number : numbers.getChildren()) {
         add(m_numbers, number, level);
-        m_named.insert(number.getAttribute(QStringLiteral("keep")));
+        m_named.insert(number.getAttribute(QLatin1String("keep")));
     }
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double LargestCoordinate = 10;
 
-QPointF readPoint(const ThemeElement& element, const QString& attribute, const QPointF& missing,
+QPointF readPoint(const ThemeElement& element, QLatin1String attribute, const QPointF& missing,
                   bool& ok)
 {
     if (!element.hasAttribute(attribute))
@@ -38,7 +38,7 @@ void addStop(QGradientStops& stops, const ThemeElement& element, const ThemeColo
     element.checkTextElement({"offset"}, derivationAttributes());
     bool ok = true;
     const double offset =
-        element.readNumber(element.getAttribute(QStringLiteral("offset")), 0, 1, ok);
+        element.readNumber(element.getAttribute(QLatin1String("offset")), 0, 1, ok);
     if (!ok)
         return;
     const auto isAtOffset = [offset](const QGradientStop& stop) { return stop.first == offset; };
@@ -75,8 +75,8 @@ QBrush LinearGradientBrushReader::readBrush(const ThemeElement& element, const T
                                             bool& ok) const
 {
     element.checkAttributes({"name", "internal", "startPoint", "endPoint"});
-    const QPointF start = readPoint(element, QStringLiteral("startPoint"), {0, 0}, ok);
-    const QPointF end = ok ? readPoint(element, QStringLiteral("endPoint"), {0, 1}, ok) : QPointF();
+    const QPointF start = readPoint(element, QLatin1String("startPoint"), {0, 0}, ok);
+    const QPointF end = ok ? readPoint(element, QLatin1String("endPoint"), {0, 1}, ok) : QPointF();
     if (!ok)
         return {};
     if (start == end) {

@@ -5,6 +5,7 @@
 #include "NamePattern.h"
 
 #include <algorithm>
+#include <array>
 
 namespace BRELK {
 
@@ -29,6 +30,8 @@ QColor literalColor(const QString& text)
 QStringList words(const QString& text)
 {
     constexpr int MostNames = 64;
+    if (!text.contains(u' ') && !text.contains(u'{'))
+        return text.isEmpty() ? QStringList() : QStringList(text);
     const QStringList patterns = text.simplified().split(u' ', Qt::SkipEmptyParts);
     if (!text.contains(u'{'))
         return patterns;
@@ -74,29 +77,25 @@ private:
 public:
     struct Attribute
     {
-        QString name;
+        QLatin1String name;
         Step step; ///< null: it belongs to another one
     };
 
     /// In the order in which they are applied, whatever the order in the file.
-    static const QVector<Attribute>& attributes();
+    static const std::array<Attribute, 10> Attributes;
 };
 
-const QVector<Derivation::Attribute>& Derivation::attributes()
-{
-    static const QVector<Attribute> sAttributes{
-        {QStringLiteral("lighter"), &Derivation::lighter},
-        {QStringLiteral("darker"), &Derivation::darker},
-        {QStringLiteral("mix"), &Derivation::mixed},
-        {QStringLiteral("share"), nullptr},
-        {QStringLiteral("lightness"), &Derivation::withLightness},
-        {QStringLiteral("chroma"), &Derivation::withChroma},
-        {QStringLiteral("or"), &Derivation::moreReadable},
-        {QStringLiteral("contrast"), &Derivation::withContrast},
-        {QStringLiteral("against"), nullptr},
-        {QStringLiteral("alpha"), &Derivation::withAlpha}};
-    return sAttributes;
-}
+const std::array<Derivation::Attribute, 10> Derivation::Attributes{
+    {{QLatin1String("lighter"), &Derivation::lighter},
+     {QLatin1String("darker"), &Derivation::darker},
+     {QLatin1String("mix"), &Derivation::mixed},
+     {QLatin1String("share"), nullptr},
+     {QLatin1String("lightness"), &Derivation::withLightness},
+     {QLatin1String("chroma"), &Derivation::withChroma},
+     {QLatin1String("or"), &Derivation::moreReadable},
+     {QLatin1String("contrast"), &Derivation::withContrast},
+     {QLatin1String("against"), nullptr},
+     {QLatin1String("alpha"), &Derivation::withAlpha}}};
 
 QColor Derivation::named(const QString& text) const
 {
@@ -114,7 +113,7 @@ QColor Derivation::applied(const QColor& color) const
 {
     QColor result = color;
     checkPairs();
-    for (const Attribute& attribute : attributes()) {
+    for (const Attribute& attribute : Attributes) {
         if (m_ok && attribute.step && m_element.hasAttribute(attribute.name))
             result = (this->*attribute.step)(result, m_element.getAttribute(attribute.name));
     }
@@ -159,7 +158,7 @@ QColor Derivation::darker(const QColor& color, const QString& text) const
 
 QColor Derivation::mixed(const QColor& color, const QString& text) const
 {
-    const double share = number(m_element.getAttribute(QStringLiteral("share")), 0, 1);
+    const double share = number(m_element.getAttribute(QLatin1String("share")), 0, 1);
     const QColor other = named(text.trimmed());
     return m_ok ? ColorArithmetic::mixed(color, other, share) : QColor();
 }
@@ -186,7 +185,7 @@ QColor Derivation::moreReadable(const QColor& color, const QString& text) const
         return {};
     // With a contrast to reach, the first one that has it is as good as any.
     const bool isGoodEnough =
-        m_element.hasAttribute(QStringLiteral("contrast"))
+        m_element.hasAttribute(QLatin1String("contrast"))
         && ColorArithmetic::leastContrast(color, on) >= readContrast(m_element, m_colors, m_ok);
     return isGoodEnough ? color : ColorArithmetic::moreReadable(color, other, on);
 }
@@ -202,7 +201,7 @@ QColor Derivation::withContrast(const QColor& color, const QString& text) const
     if (reached < wanted)
         m_element.report(QLatin1String("no lightness gives it a contrast of ") + text.trimmed()
                              + QLatin1String(" to ")
-                             + quoted(m_element.getAttribute(QStringLiteral("against"))),
+                             + quoted(m_element.getAttribute(QLatin1String("against"))),
                          QLatin1String("it has ") + QString::number(reached, 'f', 2));
     return result;
 }
@@ -218,7 +217,7 @@ QColor Derivation::withAlpha(const QColor& color, const QString& text) const
 
 double readContrast(const ThemeElement& element, const ThemeColors& colors, bool& ok)
 {
-    const QString text = element.getAttribute(QStringLiteral("contrast"));
+    const QString text = element.getAttribute(QLatin1String("contrast"));
     return text == QLatin1String("words") ? colors.wordContrast
                                           : element.readNumber(text, 1, LargestContrast, ok);
 }
@@ -227,7 +226,7 @@ QVector<QColor> readGrounds(const ThemeElement& element, const ThemeColors& colo
 {
     const Derivation derivation(element, colors, ok);
     QVector<QColor> grounds;
-    for (const QString& name : words(element.getAttribute(QStringLiteral("against"))))
+    for (const QString& name : words(element.getAttribute(QLatin1String("against"))))
         grounds += derivation.named(name);
     return grounds;
 }
@@ -239,12 +238,12 @@ QColor disabledBy(const QColor& color, int lightFactor, int darkFactor)
                : color.lighter(darkFactor);
 }
 
-const QStringList& derivationAttributes()
+const std::vector<QLatin1String>& derivationAttributes()
 {
-    static const QStringList sNames = [] {
-        QStringList names;
-        for (const auto& attribute : Derivation::attributes())
-            names += attribute.name;
+    static const std::vector<QLatin1String> sNames = [] {
+        std::vector<QLatin1String> names;
+        for (const auto& attribute : Derivation::Attributes)
+            names.push_back(attribute.name);
         return names;
     }();
     return sNames;
@@ -253,11 +252,11 @@ const QStringList& derivationAttributes()
 bool hasDerivation(const ThemeElement& element)
 {
     // Most elements have nothing but a name.
-    if (element.countAttributes() < 2 && element.hasAttribute(QStringLiteral("name")))
+    if (element.countAttributes() < 2 && element.hasAttribute(QLatin1String("name")))
         return false;
-    const QStringList& names = derivationAttributes();
+    const auto& names = derivationAttributes();
     return std::any_of(names.begin(), names.end(),
-                       [&element](const QString& name) { return element.hasAttribute(name); });
+                       [&element](QLatin1String name) { return element.hasAttribute(name); });
 }
 
 QStringList namedColors(const ThemeElement& element)
@@ -265,8 +264,9 @@ QStringList namedColors(const ThemeElement& element)
     QStringList names{element.getText()};
     if (!hasDerivation(element))
         return names;
-    for (const char* attribute : {"mix", "or", "against"})
-        names += words(element.getAttribute(QLatin1String(attribute)));
+    for (const QLatin1String attribute :
+         {QLatin1String("mix"), QLatin1String("or"), QLatin1String("against")})
+        names += words(element.getAttribute(attribute));
     return names;
 }
 

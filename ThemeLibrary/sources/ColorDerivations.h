@@ -8,6 +8,7 @@
 #include <QVector>
 
 #include <functional>
+#include <vector>
 
 namespace BRELK {
 
@@ -28,7 +29,7 @@ struct ThemeColors : QHash<QString, QColor>
 };
 
 /// The attributes that make another color of the one that an element names.
-const QStringList& derivationAttributes();
+const std::vector<QLatin1String>& derivationAttributes();
 
 /// Whether `element` has any of them.
 bool hasDerivation(const ThemeElement& element);

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <memory>
+#include <string_view>
 
 // In a static library nobody else registers what rcc made. The macro needs the global namespace.
 static void registerCollections()
@@ -76,8 +77,14 @@ QByteArray standardIcons(const QColor& color)
 {
     const QResource icons = embedded(QStringLiteral("standard.rcc"));
     QByteArray copy(reinterpret_cast<const char*>(icons.data()), int(icons.size()));
-    return copy.replace(QColor(ReferenceColor).name().toUpper().toLatin1(),
-                        color.name().toLatin1());
+    const QByteArray from = QColor(ReferenceColor).name().toUpper().toLatin1();
+    const QByteArray to = color.name().toLatin1();
+    const std::string_view text(copy.constData(), size_t(copy.size()));
+    // A search for the sign is far quicker than one for all of it.
+    for (size_t at = text.find('#'); at != text.npos; at = text.find('#', at + 1))
+        if (text.compare(at, size_t(from.size()), from.constData()) == 0)
+            std::copy(to.begin(), to.end(), copy.begin() + int(at));
+    return copy;
 }
 
 const MappingPointer ownIcons = mapOwnNames(QStringLiteral("/Icons"));

@@ -12,6 +12,7 @@ class NamePattern
 public:
     /// Spells nothing when a brace has no partner, or when there would be more than `most` names.
     NamePattern(const QString& text, int most);
+    Q_DISABLE_COPY(NamePattern)
 
     int size() const { return m_size; }
 
@@ -23,9 +24,12 @@ public:
     QString getAlternative(int index, int group) const;
 
 private:
+    using Pieces = QVector<QStringRef>;
+
+    const QString m_text;
     /// Literal text, and after each piece but the last the alternatives of a group.
-    QStringList m_literals;
-    QVector<QStringList> m_groups;
+    Pieces m_literals;
+    QVector<Pieces> m_groups;
     int m_size = 0;
 };
 

@@ -73,10 +73,7 @@ constexpr Weight Weights[] = {
     {"Normal", QFont::Normal}, {"Medium", QFont::Medium},         {"DemiBold", QFont::DemiBold},
     {"Bold", QFont::Bold},     {"ExtraBold", QFont::ExtraBold},   {"Black", QFont::Black}};
 
-QString wordsAttribute()
-{
-    return QStringLiteral("words");
-}
+constexpr QLatin1String WordsAttribute("words");
 
 bool isName(const QString& name)
 {
@@ -86,7 +83,7 @@ bool isName(const QString& name)
 
 bool readInternal(const ThemeElement& element, bool& ok)
 {
-    const QString text = element.getAttribute(QStringLiteral("internal"));
+    const QString text = element.getAttribute(QLatin1String("internal"));
     const bool isTrue = text == QLatin1String("true");
     if (!isTrue && !text.isEmpty() && text != QLatin1String("false")) {
         element.reject(quoted(text) + QLatin1String(" for internal is neither true nor false"));
@@ -97,7 +94,7 @@ bool readInternal(const ThemeElement& element, bool& ok)
 
 void addNamed(ThemeEntries& entries, const ThemeElement& element, int level)
 {
-    const QString pattern = element.getAttribute(QStringLiteral("name"));
+    const QString pattern = element.getAttribute(QLatin1String("name"));
     const int most = std::min(MostNamesOfElement, MostNames - entries.size());
     const std::vector<NamedThemeElement> names = element.spellNames(most);
     if (names.empty() && !pattern.isEmpty()) {
@@ -143,7 +140,7 @@ void collectBrushes(ThemeEntries& entries, const ThemeElement& list, int level)
 /// How the theme derives the disabled forms of a group of colors.
 void collectDisabled(ThemeEntries& entries, const ThemeElement& element, int level)
 {
-    const QString of = element.getAttribute(QStringLiteral("of"));
+    const QString of = element.getAttribute(QLatin1String("of"));
     element.checkTextElement({"of"}, derivationAttributes());
     if (of == QLatin1String("foreground") || of == QLatin1String("background"))
         entries.add(of, {element, level});
@@ -206,8 +203,8 @@ void collect(ThemeDefinitions& definitions, const ThemeDocument& document, int l
 {
     const ThemeElement root = document.getRoot();
     root.checkAttributes({"extends", "words"});
-    if (root.hasAttribute(wordsAttribute()))
-        definitions.rootSettings.add(wordsAttribute(), {root, level});
+    if (root.hasAttribute(WordsAttribute))
+        definitions.rootSettings.add(WordsAttribute, {root, level});
     for (const ThemeElement& section : root.getChildren()) {
         const QString tag = section.getTag();
         if (tag == QLatin1String("Factors"))
@@ -312,8 +309,8 @@ void ThemeConfigurationReader::limitDisabledFactors(const ThemeEntries& entries,
 {
     constexpr int Step = 5;
     for (auto factor = m_disabledFactors.begin(); factor != m_disabledFactors.end(); ++factor) {
-        const ThemeElement& element = entries.getDefinitions(factor.key()).first().element;
-        const QString name = element.getAttribute(QStringLiteral("keep"));
+        const ThemeElement& element = entries.getDefinition(factor.key())->element;
+        const QString name = element.getAttribute(QLatin1String("keep"));
         if (name.isEmpty())
             continue;
         bool ok = true;
@@ -361,9 +358,9 @@ void ThemeConfigurationReader::readWordContrast(const ThemeEntries& entries)
 {
     constexpr double LargestContrast = 21;
     const auto read = [](const ThemeElement& root, bool& ok) {
-        return root.readNumber(root.getAttribute(wordsAttribute()), 1, LargestContrast, ok);
+        return root.readNumber(root.getAttribute(WordsAttribute), 1, LargestContrast, ok);
     };
-    m_wordContrast = evaluate(entries, wordsAttribute(), DefaultWordContrast, read);
+    m_wordContrast = evaluate(entries, WordsAttribute, DefaultWordContrast, read);
 }
 
 void ThemeConfigurationReader::readOpacities(const ThemeEntries& entries)

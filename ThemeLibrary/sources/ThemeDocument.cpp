@@ -25,10 +25,7 @@ constexpr int LongestFailure = 160;
 /// Parsers compare each attribute of a tag with all others of it.
 constexpr int MaxAttributes = 100;
 
-QString extendsAttribute()
-{
-    return QStringLiteral("extends");
-}
+constexpr QLatin1String ExtendsAttribute("extends");
 
 QString decoded(const QByteArray& bytes)
 {
@@ -46,13 +43,14 @@ QString decoded(const QByteArray& bytes)
 bool hasTooManyAttributes(const QString& text)
 {
     int count = 0;
-    QChar previous;
-    for (const QChar character : text) {
-        if (character == u'<')
+    int previous = -1;
+    for (int sign = text.indexOf(u'='); sign >= 0; sign = text.indexOf(u'=', sign + 1)) {
+        const QStringRef between = text.midRef(previous + 1, sign - previous - 1);
+        if (between.contains(u'<'))
             count = 0;
-        else if (character == u'=' && previous != u'=' && ++count > MaxAttributes)
+        if ((previous < 0 || !between.isEmpty()) && ++count > MaxAttributes)
             return true;
-        previous = character;
+        previous = sign;
     }
     return false;
 }
@@ -66,6 +64,12 @@ int sizeOfToken(const QXmlStreamReader& reader)
     for (const QXmlStreamAttribute& attribute : attributes)
         size += attribute.value().size();
     return size;
+}
+
+/// `text`, without a copy where it is `known`: elements are like the one before.
+QString shared(const QStringRef& text, const QString& known)
+{
+    return text == known ? known : text.toString();
 }
 
 /// Makes a tree of what a reader reads, as far as a budget goes.
@@ -95,15 +99,20 @@ private:
 
 void TreeBuilder::open()
 {
+    static const ThemeNode sNone;
+    const auto& siblings = m_open.back().children;
+    const ThemeNode& sibling = siblings.empty() ? sNone : siblings.back();
     ThemeNode node;
-    node.tag = m_reader.qualifiedName().toString();
+    node.tag = shared(m_reader.qualifiedName(), sibling.tag);
     node.line = m_line;
     node.column = m_column;
     const QXmlStreamAttributes attributes = m_reader.attributes();
     node.attributes.reserve(attributes.size());
-    for (const QXmlStreamAttribute& attribute : attributes)
-        node.attributes.append(
-            {attribute.qualifiedName().toString(), attribute.value().toString()});
+    for (int i = 0; i < attributes.size(); ++i) {
+        const QXmlStreamAttribute& attribute = attributes.at(i);
+        const QString name = shared(attribute.qualifiedName(), sibling.attributes.value(i).first);
+        node.attributes.append({name, attribute.value().toString()});
+    }
     m_open.push_back(std::move(node));
 }
 
@@ -200,7 +209,7 @@ QString baseDirectory(const QString& base, const QDir& repository)
 std::unique_ptr<ThemeDocument> readBase(const ThemeElement& root, const QFileInfo& file,
                                         const QStringList& themes, ThemeFileBudget& budget)
 {
-    const QString base = root.getAttribute(extendsAttribute());
+    const QString base = root.getAttribute(ExtendsAttribute);
     QString problem = problemOfBase(base, themes);
     std::unique_ptr<ThemeDocument> document;
     if (problem.isEmpty()) {
@@ -314,14 +323,14 @@ ThemeDocuments readThemeDocuments(const QString& path, const QString& rootTag)
     if (!isUsable(*documents.front(), rootTag))
         return documents;
 
-    for (ThemeElement root = documents.front()->getRoot(); root.hasAttribute(extendsAttribute());
+    for (ThemeElement root = documents.front()->getRoot(); root.hasAttribute(ExtendsAttribute);
          root = documents.back()->getRoot()) {
         auto base = readBase(root, file, themes, budget);
         if (!base)
             break;
         file.setFile(base->getPath());
         documents.push_back(std::move(base));
-        themes += root.getAttribute(extendsAttribute());
+        themes += root.getAttribute(ExtendsAttribute);
     }
     return documents;
 }

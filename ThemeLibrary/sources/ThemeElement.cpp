@@ -9,16 +9,13 @@ namespace BRELK {
 
 namespace {
 
-QString nameAttribute()
-{
-    return QStringLiteral("name");
-}
+constexpr QLatin1String NameAttribute("name");
 
 /// Whether `text` stands in the content of `node`.
 bool mentions(const ThemeNode& node, const QString& text)
 {
     const auto hasIt = [&text](const QPair<QString, QString>& attribute) {
-        return attribute.first != nameAttribute() && attribute.second.contains(text);
+        return attribute.first != NameAttribute && attribute.second.contains(text);
     };
     return node.text.contains(text)
            || std::any_of(node.attributes.begin(), node.attributes.end(), hasIt)
@@ -77,7 +74,7 @@ QString quoted(const QString& text)
     return QLatin1Char('"') + shown + QLatin1Char('"');
 }
 
-const QString* ThemeElement::findAttribute(const QString& name) const
+const QString* ThemeElement::findAttribute(QLatin1String name) const
 {
     for (const auto& attribute : m_node->attributes) {
         if (attribute.first == name)
@@ -86,7 +83,7 @@ const QString* ThemeElement::findAttribute(const QString& name) const
     return nullptr;
 }
 
-QString ThemeElement::getAttribute(const QString& name) const
+QString ThemeElement::getAttribute(QLatin1String name) const
 {
     const QString* value = findAttribute(name);
     return value ? withAlternatives(*value) : QString();
@@ -99,11 +96,11 @@ QString ThemeElement::withAlternatives(const QString& text) const
 
 std::vector<NamedThemeElement> ThemeElement::spellNames(int most) const
 {
-    const NamePattern pattern(getAttribute(nameAttribute()), most);
+    const NamePattern pattern(getAttribute(NameAttribute), most);
     std::vector<NamedThemeElement> named;
     named.reserve(size_t(pattern.size()));
     QVector<bool> isMentioned;
-    if (mentions(*m_node, QStringLiteral("{"))) {
+    if (pattern.countGroups() > 0 && mentions(*m_node, QStringLiteral("{"))) {
         for (int group = 0; group < pattern.countGroups(); ++group)
             isMentioned += mentions(*m_node, reference(group));
     }
@@ -159,18 +156,19 @@ ThemeProblem ThemeElement::place() const
 }
 
 void ThemeElement::checkAttributes(std::initializer_list<const char*> known,
-                                   const QStringList& others) const
+                                   const std::vector<QLatin1String>& others) const
 {
     for (const auto& attribute : m_node->attributes) {
         const QString& name = attribute.first;
         const auto isName = [&name](const char* other) { return name == QLatin1String(other); };
-        if (std::none_of(known.begin(), known.end(), isName) && !others.contains(name))
+        if (std::none_of(known.begin(), known.end(), isName)
+            && std::find(others.begin(), others.end(), name) == others.end())
             report(QStringLiteral("unknown attribute ") + quoted(name), ignored());
     }
 }
 
 void ThemeElement::checkTextElement(std::initializer_list<const char*> known,
-                                    const QStringList& others) const
+                                    const std::vector<QLatin1String>& others) const
 {
     checkAttributes(known, others);
     for (const ThemeNode& child : m_node->children)
@@ -191,8 +189,7 @@ void ThemeElement::rejectUnknown() const
 void ThemeElement::report(const QString& what, const QString& done) const
 {
     QString subject = getTag();
-    for (const QString& key :
-         {QStringLiteral("name"), QStringLiteral("role"), QStringLiteral("group")}) {
+    for (const QLatin1String key : {NameAttribute, QLatin1String("role"), QLatin1String("group")}) {
         if (const QString* value = findAttribute(key))
             subject += QLatin1Char(' ') + quoted(*value);
     }

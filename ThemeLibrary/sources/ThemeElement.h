@@ -58,9 +58,9 @@ public:
 
     int countAttributes() const { return m_node->attributes.size(); }
 
-    bool hasAttribute(const QString& name) const { return findAttribute(name) != nullptr; }
+    bool hasAttribute(QLatin1String name) const { return findAttribute(name) != nullptr; }
 
-    QString getAttribute(const QString& name) const;
+    QString getAttribute(QLatin1String name) const;
 
     /// The elements within this one; other content is reported.
     std::vector<ThemeElement> getChildren() const;
@@ -78,11 +78,11 @@ public:
 
     /// Reports each attribute that is neither among `known` nor among `others`.
     void checkAttributes(std::initializer_list<const char*> known,
-                         const QStringList& others = {}) const;
+                         const std::vector<QLatin1String>& others = {}) const;
 
     /// The same for an element that holds only text; elements within it are reported too.
     void checkTextElement(std::initializer_list<const char*> known,
-                          const QStringList& others = {}) const;
+                          const std::vector<QLatin1String>& others = {}) const;
 
     /// Reports that this element is left out because of `problem`.
     void reject(const QString& problem) const;
@@ -94,7 +94,7 @@ public:
     void report(const QString& what, const QString& done) const;
 
 private:
-    const QString* findAttribute(const QString& name) const;
+    const QString* findAttribute(QLatin1String name) const;
     QString withAlternatives(const QString& text) const;
 
     const ThemeDocument* m_document;

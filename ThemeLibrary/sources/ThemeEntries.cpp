@@ -6,20 +6,17 @@
 
 namespace BRELK {
 
-const ThemeEntries::Definitions& ThemeEntries::getDefinitions(const QString& name) const
-{
-    static const Definitions sNone;
-    const int place = find(name);
-    return place < 0 ? sNone : getDefinitions(place);
-}
-
 void ThemeEntries::add(const QString& name, const ThemeEntry& entry)
 {
-    Definitions& definitions = m_named[size_t(placeOf(name))].definitions;
-    if (!definitions.isEmpty() && definitions.last().level == entry.level)
+    ThemeEntry** place = &m_named[size_t(placeOf(name))].first;
+    while (*place && (*place)->level != entry.level)
+        place = &(*place)->next;
+    if (*place) {
         entry.element.reject(QStringLiteral("there is another one of this name"));
-    else
-        definitions.append(entry);
+        return;
+    }
+    m_entries.push_back(entry);
+    *place = &m_entries.back();
 }
 
 void ThemeEntries::addTwins()

@@ -3,8 +3,8 @@
 #include "ThemeDocument.h"
 
 #include <QHash>
-#include <QVector>
 
+#include <deque>
 #include <vector>
 
 namespace BRELK {
@@ -16,6 +16,8 @@ struct ThemeEntry
     /// 0 in the theme's own file, 1 in the one that it extends, and so on.
     int level;
     bool internal = false;
+    /// The definition of the same name in the file that is extended; null when there is none.
+    ThemeEntry* next = nullptr;
 };
 
 /// The definitions of each name, those of the theme itself first. A name is told by its place:
@@ -23,7 +25,8 @@ struct ThemeEntry
 class ThemeEntries
 {
 public:
-    using Definitions = QVector<ThemeEntry>;
+    ThemeEntries() = default;
+    Q_DISABLE_COPY(ThemeEntries)
 
     /// Adds a definition; a second one of the same file is rejected.
     void add(const QString& name, const ThemeEntry& entry);
@@ -41,13 +44,15 @@ public:
     /// The place of that whose derived twin this is; negative if it is none.
     int getOriginal(int place) const { return m_named[size_t(place)].original; }
 
-    const Definitions& getDefinitions(int place) const
-    {
-        return m_named[size_t(place)].definitions;
-    }
+    /// The first definition of what is at `place`; null for a mere twin.
+    const ThemeEntry* getDefinition(int place) const { return m_named[size_t(place)].first; }
 
-    /// None for a name that was not added.
-    const Definitions& getDefinitions(const QString& name) const;
+    /// The same by name; null for one that was not added.
+    const ThemeEntry* getDefinition(const QString& name) const
+    {
+        const int place = find(name);
+        return place < 0 ? nullptr : getDefinition(place);
+    }
 
     /// All places in the order of the names, but for few of the twins.
     std::vector<int> sorted() const;
@@ -58,11 +63,12 @@ private:
         QString name;
         int original = -1;
         int twin = -1;
-        Definitions definitions = {};
+        ThemeEntry* first = nullptr;
     };
 
     int placeOf(const QString& name);
 
+    std::deque<ThemeEntry> m_entries; ///< stay where they are
     std::vector<Named> m_named;
     QHash<QString, int> m_ends; ///< how many names there are up to each
 };
@@ -71,9 +77,9 @@ private:
 template <class Value, class Read>
 Value evaluate(const ThemeEntries& entries, const QString& name, const Value& missing, Read read)
 {
-    for (const ThemeEntry& entry : entries.getDefinitions(name)) {
+    for (const ThemeEntry* entry = entries.getDefinition(name); entry; entry = entry->next) {
         bool ok = true;
-        const Value value = read(entry.element, ok);
+        const Value value = read(entry->element, ok);
         if (ok)
             return value;
     }

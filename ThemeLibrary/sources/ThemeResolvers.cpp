@@ -19,9 +19,12 @@ bool isAlias(const ThemeElement& element)
 
 } // namespace
 
-ThemeResolver::ThemeResolver(const ThemeEntries& entries)
-    : m_entries(entries), m_nodes(size_t(entries.size()))
-{ }
+ThemeResolver::ThemeResolver(const ThemeEntries& entries) : m_entries(entries)
+{
+    m_nodes.reserve(size_t(entries.size()));
+    for (int place = 0; place < entries.size(); ++place)
+        m_nodes.push_back({entries.getDefinition(place)});
+}
 
 void ThemeResolver::resolve()
 {
@@ -37,17 +40,19 @@ int ThemeResolver::unsettled(int place) const
     return place < 0 || m_nodes[size_t(place)].settled ? -1 : place;
 }
 
-const ThemeEntry* ThemeResolver::entryAt(int place) const
-{
-    const ThemeEntries::Definitions& definitions = m_entries.getDefinitions(place);
-    const int current = m_nodes[size_t(place)].current;
-    return current < definitions.size() ? &definitions.at(current) : nullptr;
-}
-
 bool ThemeResolver::isExhausted(int place) const
 {
-    const int twins = m_entries.getOriginal(place) < 0 ? 0 : 1;
-    return m_nodes[size_t(place)].current >= m_entries.getDefinitions(place).size() + twins;
+    const Node& node = m_nodes[size_t(place)];
+    return !node.current && (node.isPastTwin || m_entries.getOriginal(place) < 0);
+}
+
+void ThemeResolver::passOver(int place)
+{
+    Node& node = m_nodes[size_t(place)];
+    if (node.current)
+        node.current = node.current->next;
+    else
+        node.isPastTwin = true;
 }
 
 void ThemeResolver::push(int place)
@@ -66,7 +71,7 @@ void ThemeResolver::step()
         m_stack.pop_back();
         return;
     }
-    const ThemeEntry* entry = entryAt(place);
+    const ThemeEntry* entry = node.current;
     const int dependency = getDependency(place, entry);
     if (dependency >= 0) {
         if (m_nodes[size_t(dependency)].waiting)
@@ -77,7 +82,7 @@ void ThemeResolver::step()
         node.internal = entry ? entry->internal : isInternal(m_entries.getOriginal(place));
         node.settled = true;
     } else {
-        ++node.current;
+        passOver(place);
     }
 }
 
@@ -86,7 +91,7 @@ void ThemeResolver::step()
 void ThemeResolver::breakCycle(int place)
 {
     const auto levelAt = [this](int member) {
-        const ThemeEntry* entry = entryAt(member);
+        const ThemeEntry* entry = m_nodes[size_t(member)].current;
         return entry ? entry->level : std::numeric_limits<int>::max();
     };
     const auto last = std::find(m_stack.rbegin(), m_stack.rend(), place);
@@ -101,14 +106,14 @@ void ThemeResolver::breakCycle(int place)
     for (const int member : cycle) {
         if (levelAt(member) != level)
             continue;
-        const ThemeEntry* entry = entryAt(member);
+        const ThemeEntry* entry = m_nodes[size_t(member)].current;
         if (!entry) // a twin is written as what it is derived from
-            entry = &m_entries.getDefinitions(m_entries.getOriginal(member)).first();
+            entry = m_entries.getDefinition(m_entries.getOriginal(member));
         if (!isReported)
             entry->element.reject(QStringLiteral("it leads back to itself, by way of ")
                                   + quoted(names.join(QLatin1String(", "))));
         isReported = true;
-        ++m_nodes[size_t(member)].current;
+        passOver(member);
     }
     while (m_stack.back() != place) {
         m_nodes[size_t(m_stack.back())].waiting = false;
@@ -224,7 +229,7 @@ ThemeBrushResolver::Value ThemeBrushResolver::readAlias(const ThemeElement& elem
     }
     Value value = m_values[size_t(found)];
     const int twin = getEntries().find(ThemeNames::twin(named));
-    if (twin >= 0 && !getEntries().getDefinitions(twin).isEmpty())
+    if (twin >= 0 && getEntries().getDefinition(twin))
         value.twin = twin;
     return value;
 }
@@ -235,8 +240,12 @@ ThemeBrushResolver::Value ThemeBrushResolver::readValue(const ThemeElement& elem
         return readAlias(element, ok);
     Value value{true};
     value.brush = BrushReader::forTag(element.getTag())->readBrush(element, m_colors, ok);
-    if (!value.brush.gradient() && !hasDerivation(element))
-        value.color = element.getText();
+    if (value.brush.gradient() || hasDerivation(element))
+        return value;
+    const QString twin = ThemeNames::twin(element.getText());
+    const auto color = m_colors.constFind(twin);
+    if (color != m_colors.constEnd() && m_colorEntries.getDefinition(twin))
+        value.disabled = *color;
     return value;
 }
 
@@ -245,11 +254,8 @@ QBrush ThemeBrushResolver::derivedTwin(int original) const
     const Value& value = m_values[size_t(original)];
     if (value.twin >= 0 && m_values[size_t(value.twin)].known)
         return m_values[size_t(value.twin)].brush;
-    if (!value.color.isEmpty()) {
-        const QString twin = ThemeNames::twin(value.color);
-        if (!m_colorEntries.getDefinitions(twin).isEmpty() && m_colors.contains(twin))
-            return m_colors.value(twin);
-    }
+    if (value.disabled.style() != Qt::NoBrush)
+        return value.disabled;
     return m_disabled.derived(value.brush, getEntries().getName(original), m_colors);
 }
 

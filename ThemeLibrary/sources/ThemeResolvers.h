@@ -43,14 +43,15 @@ protected:
 private:
     struct Node
     {
-        int current = 0; ///< of its definitions; past them, it is derived as a twin
+        const ThemeEntry* current = nullptr; ///< past its definitions, it is derived as a twin
+        bool isPastTwin = false;
         bool waiting = false;
         bool settled = false;
         bool internal = false;
     };
 
-    const ThemeEntry* entryAt(int place) const;
     bool isExhausted(int place) const;
+    void passOver(int place);
     void step();
     void push(int place);
     void breakCycle(int place);
@@ -102,7 +103,8 @@ private:
     {
         bool known = false;
         QBrush brush = {};
-        QString color = {}; ///< of the theme, if it is just that, by whatever way
+        /// Of the twin that a file defines for the color that it is just that of, by whatever way.
+        QBrush disabled = {};
         /// Where the twin of the nearest brush is that it names and that has one in a file.
         int twin = -1;
     };
