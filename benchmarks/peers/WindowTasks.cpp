@@ -1,4 +1,4 @@
-#include "PaintCounter.h"
+#include "EventCounter.h"
 #include "SampleWidgets.h"
 #include "SampleWindow.h"
 #include "Tasks.h"
@@ -155,7 +155,7 @@ Figures idle(const Order& order)
     const auto application = createApplication(order.look, Dress::Plain, order.sheet);
     QApplication::setCursorFlashTime(0);
     const auto window = exposedWindow();
-    PaintCounter counter;
+    EventCounter counter;
     counter.settle();
     QTest::qWait(Milliseconds);
     return {{QStringLiteral("paints"), double(counter.all())}};

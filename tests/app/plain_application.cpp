@@ -1,19 +1,4 @@
-#include <QApplication>
-#include <QDir>
-#include <QIcon>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QPointer>
-#include <QProxyStyle>
-#include <QPushButton>
-#include <QSettings>
-#include <QStringBuilder>
-#include <QStyle>
-#include <QStyleFactory>
-#include <QTemporaryDir>
-#include <QToolButton>
-#include <QToolTip>
+#include <QtWidgets>
 
 #include <cstdio>
 #include <cstdlib>

@@ -2,11 +2,8 @@
 #include "Pages.h"
 #include "kit/Page.h"
 
-#include <QAccessible>
-#include <QApplication>
-#include <QFileDialog>
-#include <QStyleFactory>
 #include <QTest>
+#include <QtWidgets>
 
 #include <cstring>
 #include <memory>

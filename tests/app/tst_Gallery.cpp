@@ -1,8 +1,5 @@
-#include <QDir>
-#include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
 #include <QtTest>
+#include <QtWidgets>
 
 /// The gallery as its users start it: as a program of its own.
 class tst_Gallery : public QObject

@@ -1,8 +1,8 @@
 #include "BaseStyle.h"
 #include "BaseTheme.h"
+#include "EventCounter.h"
 #include "MessageRecorder.h"
 #include "Pages.h"
-#include "PaintCounter.h"
 #include "TemporaryRepository.h"
 #include "ThemeFactory.h"
 #include "ThemeQApplication.h"
@@ -41,29 +41,9 @@ std::unique_ptr<QWidget> shownPages()
     window->show();
     QApplication::setActiveWindow(window.get());
     window->setFocus();
-    PaintCounter::wait();
+    EventCounter::wait();
     return window;
 }
-
-/// Counts the events of one type that widgets get.
-class EventCounter : public QObject
-{
-public:
-    explicit EventCounter(QEvent::Type type) : m_type(type) { qApp->installEventFilter(this); }
-
-    int of(const QObject* widget) const { return m_counts.value(widget); }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        if (event->type() == m_type)
-            ++m_counts[watched];
-        return false;
-    }
-
-private:
-    QEvent::Type m_type;
-    QHash<const QObject*, int> m_counts;
-};
 
 /// The color that an icon has in all its forms; none if they differ.
 QColor colorOf(const QIcon& icon)
@@ -157,18 +137,18 @@ private Q_SLOTS:
     void eachWidgetChangesAndPaintsOnce()
     {
         const auto window = shownPages();
-        PaintCounter paints;
+        EventCounter paints;
         paints.settle();
         EventCounter changes(QEvent::StyleChange);
         QVERIFY(switchTo("Light"));
         QCOMPARE(paints.all(), 0);
-        PaintCounter::wait();
-        QCOMPARE(paints.paintsOf(window.get()), 1);
+        EventCounter::wait();
+        QCOMPARE(paints.of(window.get()), 1);
         for (const QWidget* widget : window->findChildren<QWidget*>()) {
             // Boxes of buttons and wizards dress theirs once more.
             if (!widget->testAttribute(Qt::WA_SetStyle) && !widget->inherits("QWizardPage"))
                 QCOMPARE(changes.of(widget), 1);
-            QVERIFY2(paints.paintsOf(widget) <= 1, widget->metaObject()->className());
+            QVERIFY2(paints.of(widget) <= 1, widget->metaObject()->className());
         }
     }
 

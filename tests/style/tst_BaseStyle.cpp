@@ -133,15 +133,6 @@ private Q_SLOTS:
         QCOMPARE(name.size(), 1 + 56 + 17);
         QCOMPARE(name.right(9), QStringLiteral("100000001"));
     }
-
-    void roles()
-    {
-        QPushButton button;
-        QVERIFY(ProxyStyle_p::isInstanceOf(&button, QAccessible::PushButton));
-        QVERIFY(!ProxyStyle_p::isInstanceOf(&button, QAccessible::CheckBox));
-        QVERIFY(!ProxyStyle_p::isInstanceOf(this, QAccessible::PushButton));
-        QVERIFY(!ProxyStyle_p::isInstanceOf(nullptr, QAccessible::PushButton));
-    }
 };
 
 QTEST_MAIN(tst_BaseStyle)

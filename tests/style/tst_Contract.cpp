@@ -8,9 +8,7 @@
 // built twice: with a theme that has every name, and with one that has none.
 
 using namespace BRELK;
-using StyleOptions::Element;
-using StyleOptions::Sample;
-using StyleOptions::sampleNamed;
+using namespace StyleOptions;
 
 namespace {
 
@@ -18,30 +16,22 @@ namespace {
 struct Departure
 {
     const char* name;
-    void (*apply)(Sample&);
+    State state = AtRest;
+    void (*apply)(Sample&) = [](Sample&) {};
 };
 
-constexpr Departure Departures[] = {
-    {"as it is", [](Sample&) {}},
-    {"disabled",
-     [](Sample& sample) {
-         sample.widget->setEnabled(false);
-         sample.option->state &= ~QStyle::State_Enabled;
-         sample.option->palette.setCurrentColorGroup(QPalette::Disabled);
-     }},
-    {"every state", [](Sample& sample) { sample.option->state = QStyle::State(~0); }},
-    {"right to left",
-     [](Sample& sample) {
-         sample.widget->setLayoutDirection(Qt::RightToLeft);
-         sample.option->direction = Qt::RightToLeft;
-     }},
-    {"no widget",
+const Departure Departures[] = {
+    {"as it is"},
+    {"disabled", Disabled},
+    {"right to left", RightToLeft},
+    {"every state", {"", QStyle::State(~0)}},
+    {"no widget", AtRest,
      [](Sample& sample) {
          if (auto* item = qstyleoption_cast<QStyleOptionViewItem*>(sample.option.get()))
              item->widget = nullptr;
          sample.widget.reset();
      }},
-    {"foreign widget", [](Sample& sample) { sample.widget = std::make_shared<QWidget>(); }},
+    {"foreign widget", AtRest, [](Sample& sample) { sample.widget = std::make_shared<QWidget>(); }},
 };
 
 /// What the toolkit has warned of since `messages` was asked last. It always warns of what the
@@ -59,7 +49,7 @@ QString warnings(MessageRecorder& messages)
 QImage painted(const QStyle& style, const Element& element, const Departure& departure, bool moved)
 {
     constexpr QPoint Place(60, 30);
-    const Sample own = sampleNamed(element.name);
+    const Sample own = sampleNamed(element.name, {}, departure.state);
     Sample sample = own;
     departure.apply(sample);
     QImage image(260, 200, QImage::Format_ARGB32_Premultiplied);

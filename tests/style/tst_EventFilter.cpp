@@ -1,4 +1,4 @@
-#include "PaintCounter.h"
+#include "EventCounter.h"
 #include "StateSheet.h"
 
 using namespace BRELK;
@@ -140,11 +140,11 @@ private Q_SLOTS:
             const Window window;
             point(window.clearButton(), iconsFound);
             point(*window.link, iconsFound);
-            PaintCounter paints;
+            EventCounter paints;
             painted(*window.link);
             painted(window.clearButton());
-            QVERIFY(paints.paintsOf(window.link) > 0);
-            QVERIFY(paints.paintsOf(&window.clearButton()) > 0);
+            QVERIFY(paints.of(window.link) > 0);
+            QVERIFY(paints.of(&window.clearButton()) > 0);
             paints.settle();
             QTest::qWait(200);
             QCOMPARE(paints.all(), 0);
@@ -164,14 +164,14 @@ private Q_SLOTS:
         for (QWidget* widget : qAsConst(widgets))
             layout->addWidget(widget);
         window.show();
-        PaintCounter paints;
+        EventCounter paints;
         const auto paintedAfterAlt = [&] {
             paints.settle();
             sendAlt(*widgets.first(), QEvent::KeyPress);
             QTest::qWait(50);
             QByteArray text;
             for (const QWidget* widget : qAsConst(widgets))
-                text += paints.paintsOf(widget) ? 'x' : '-';
+                text += paints.of(widget) ? 'x' : '-';
             return text;
         };
         m_style->underlineShortcut = 0;
@@ -195,13 +195,13 @@ private Q_SLOTS:
         sendAlt(*window.link, QEvent::KeyPress);
         QVERIFY(m_style->altDown() && m_style->hasSeenAlt(menuBar));
 
-        PaintCounter paints;
+        EventCounter paints;
         paints.settle();
         sendAlt(*window.link, QEvent::KeyRelease);
         QTest::qWait(50);
         QVERIFY(!m_style->altDown() && m_style->hasSeenAlt(window.link));
-        QVERIFY(paints.paintsOf(menuBar) > 0);
-        QCOMPARE(paints.paintsOf(window.link), 0);
+        QVERIFY(paints.of(menuBar) > 0);
+        QCOMPARE(paints.of(window.link), 0);
 
         QCloseEvent close;
         QApplication::sendEvent(window.link, &close);

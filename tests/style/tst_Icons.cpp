@@ -1,7 +1,5 @@
 #include "StateSheet.h"
 
-#include <QIconEngine>
-
 #include <functional>
 #include <memory>
 

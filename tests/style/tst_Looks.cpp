@@ -3,8 +3,6 @@
 #include "SpyStyle.h"
 #include "StateSheet.h"
 
-#include <QPicture>
-
 // What the elements look like that the style paints or measures itself, in transcripts.
 
 using namespace StateSheet;

@@ -2,16 +2,7 @@
 
 #include "AllThemeNames.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QFont>
-#include <QFontDatabase>
-#include <QHash>
-#include <QIcon>
-#include <QImage>
-#include <QMap>
-#include <QMetaEnum>
-#include <QPainter>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <limits>

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <QBrush>
-#include <QByteArray>
-#include <QColor>
-#include <QPalette>
-#include <QPixmap>
-#include <QVariantMap>
+#include <QtWidgets>
 
 class QFont;
 class QImage;

@@ -3,10 +3,7 @@
 #include "BaseStyle.h"
 #include "StyleOptions.h"
 
-#include <QByteArrayList>
-#include <QPainter>
-#include <QProxyStyle>
-#include <QStyleOption>
+#include <QtWidgets>
 
 /// `Base`, noting the names of the elements it is asked for before it answers:
 /// "PE_FrameFocusRect", "CC_SpinBox 1", "PM_IndicatorWidth", "text", "pixmap".

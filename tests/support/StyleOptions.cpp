@@ -3,7 +3,6 @@
 #include "ProbeTheme.h"
 #include "StandIns.h"
 
-#include <QStandardItemModel>
 #include <QtWidgets>
 
 namespace StyleOptions {

@@ -1,11 +1,6 @@
 #pragma once
 
-#include <QMap>
-#include <QMetaEnum>
-#include <QStyle>
-#include <QVariant>
-#include <QVector>
-#include <QWidget>
+#include <QtWidgets>
 
 #include <functional>
 #include <memory>

@@ -2,11 +2,7 @@
 
 #include "ProbeTheme.h"
 
-#include <QFile>
-#include <QImage>
-#include <QPaintEngine>
-#include <QPainterPath>
-#include <QSet>
+#include <QtWidgets>
 
 #include <cmath>
 

@@ -2,11 +2,7 @@
 
 #include "BaseStyle.h"
 
-#include <QApplication>
-#include <QByteArray>
-#include <QPainter>
-#include <QStyle>
-#include <QStyleOption>
+#include <QtWidgets>
 
 #include <functional>
 

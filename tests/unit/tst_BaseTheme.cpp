@@ -7,11 +7,8 @@
 #include "ThemeResources.h"
 #include "Transcript.h"
 
-#include <QDir>
-#include <QIcon>
-#include <QToolTip>
-#include <QWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 using namespace BRELK;
 
@@ -55,6 +52,11 @@ QByteArray toText(const QPalette& palette)
     return text;
 }
 
+QByteArray toText(const QStringList& paths)
+{
+    return ' ' + paths.join(QLatin1Char(' ')).toLatin1();
+}
+
 /// All that applying a theme changes.
 QByteArray state()
 {
@@ -73,11 +75,13 @@ QByteArray state()
             text += QByteArray("style sheet with ") + part + '\n';
     if (qFuzzyCompare(QApplication::font().pointSizeF(), 13))
         text += "font\n";
-    QStringList paths{QIcon::themeName()};
-    paths += QIcon::themeSearchPaths() + QIcon::fallbackSearchPaths();
+    text += "icon theme " + QIcon::themeName().toLatin1() + " from"
+            + toText(QIcon::themeSearchPaths()) + " or" + toText(QIcon::fallbackSearchPaths())
+            + '\n';
     for (const char* prefix : {"icons", "cursors", "resources"})
-        paths += QDir::searchPaths(QLatin1String(prefix));
-    return text + paths.join(QLatin1Char('\n')).toLatin1() + '\n';
+        text +=
+            QByteArray(prefix) + " from" + toText(QDir::searchPaths(QLatin1String(prefix))) + '\n';
+    return text;
 }
 
 } // namespace
@@ -209,7 +213,7 @@ private Q_SLOTS:
             m_files.addTheme(QStringLiteral("a"), name);
             const QByteArray text = applied();
             QVERIFY2(text.contains(" leads out of the theme;"), text);
-            QVERIFY2(text.contains("REPOSITORY/a/Images/a/scalable\n"), text);
+            QVERIFY2(text.contains("REPOSITORY/a/Images/a/scalable "), text);
         }
     }
 

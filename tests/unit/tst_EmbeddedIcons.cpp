@@ -4,10 +4,8 @@
 #include "ThemeColorHelper.h"
 #include "ThemeResources.h"
 
-#include <QDir>
-#include <QImageReader>
-#include <QRegularExpression>
 #include <QtTest>
+#include <QtWidgets>
 
 using namespace BRELK;
 

@@ -1,10 +1,8 @@
 #include "Helpers.h"
 #include "PictureDifference.h"
 
-#include <QIconEngine>
-#include <QImage>
-#include <QPainter>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <functional>
 
@@ -85,9 +83,9 @@ QIcon recolored(const QIcon& icon, const QBrush& brush = Replacement, bool disab
     return Helpers::getModifiedIconWithForegroundBrush(icon, Reference, brush, disabled);
 }
 
-QImage imageOf(const QIcon& icon, int size, QIcon::State state = QIcon::Off)
+QImage imageOf(const QIcon& icon, int size)
 {
-    return icon.pixmap(QSize(size, size), QIcon::Normal, state).toImage();
+    return icon.pixmap(QSize(size, size)).toImage();
 }
 
 QPixmap filled(const QColor& color, int side = 16)
@@ -207,15 +205,6 @@ private Q_SLOTS:
 
         QCOMPARE(recolored(filled(Reference)).actualSize(QSize(40, 40)), QSize(16, 16));
         QCOMPARE(recolored(filled(Reference)).availableSizes(), {QSize(16, 16)});
-    }
-
-    void statesStayApart()
-    {
-        QIcon icon;
-        icon.addPixmap(filled(Reference), QIcon::Normal, QIcon::Off);
-        icon.addPixmap(filled(Other), QIcon::Normal, QIcon::On);
-        QCOMPARE(imageOf(recolored(icon), 16, QIcon::Off).pixelColor(8, 8), Replacement);
-        QCOMPARE(imageOf(recolored(icon), 16, QIcon::On).pixelColor(8, 8), Other);
     }
 
     void equalArgumentsGiveTheSameIcon()

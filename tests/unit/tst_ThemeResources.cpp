@@ -2,10 +2,8 @@
 #include "TemporaryRepository.h"
 #include "ThemeResources.h"
 
-#include <QApplication>
-#include <QDir>
-#include <QRegularExpression>
 #include <QtTest>
+#include <QtWidgets>
 
 using namespace BRELK;
 
