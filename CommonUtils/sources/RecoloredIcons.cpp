@@ -87,7 +87,7 @@ struct PictureKey
     friend uint qHash(const PictureKey& key, uint seed)
     {
         const uint hash = ::qHash(key.icon ^ key.source, seed) ^ hashOf(key.recoloring)
-                          ^ uint(key.size.width() << 4 ^ key.size.height());
+                          ^ uint(key.size.width()) << 4 ^ uint(key.size.height());
         return key.content
                    ? hash ^ qHashBits(key.content->constBits(), size_t(key.content->sizeInBytes()))
                    : hash;

@@ -23,6 +23,12 @@ QStyle::SubControl lastPartOf(QStyle::ComplexControl control)
     }
 }
 
+/// Also of a rectangle that is wider than a number says.
+QByteArray toText(const QRect& rect)
+{
+    return ::toText({QPointF(rect.topLeft()), QPointF(rect.right() + 1.0, rect.bottom() + 1.0)});
+}
+
 template <class Painted>
 QByteArray measure(Painted, const QStyle&, const Sample&)
 {
