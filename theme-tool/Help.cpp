@@ -1,7 +1,5 @@
 #include "Commands.h"
 
-#include <QCoreApplication>
-
 namespace ThemeTool {
 
 namespace {

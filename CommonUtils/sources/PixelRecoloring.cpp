@@ -1,6 +1,5 @@
 #include "PixelRecoloring.h"
 
-#include <QColor>
 #include <QPainter>
 #include <QRect>
 

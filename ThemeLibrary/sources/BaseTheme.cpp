@@ -17,7 +17,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFontDatabase>
-#include <QResource>
 #include <QStyle>
 #include <QToolTip>
 

@@ -1,7 +1,6 @@
 #include "kit/Specimen.h"
 
 #include <QAbstractButton>
-#include <QAbstractSlider>
 #include <QApplication>
 #include <QBasicTimer>
 #include <QCoreApplication>
@@ -9,11 +8,9 @@
 #include <QHoverEvent>
 #include <QMouseEvent>
 #include <QPointer>
-#include <QScrollBar>
 #include <QSlider>
 #include <QStyle>
 #include <QStyleOptionSlider>
-#include <QStyleOptionSpinBox>
 #include <QVector>
 
 #include <functional>

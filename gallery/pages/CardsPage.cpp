@@ -5,7 +5,6 @@
 #include "pages/Chart.h"
 
 #include <QBoxLayout>
-#include <QCheckBox>
 #include <QLabel>
 #include <QPushButton>
 

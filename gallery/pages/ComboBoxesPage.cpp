@@ -9,7 +9,6 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QFontComboBox>
-#include <QLineEdit>
 #include <QTreeWidget>
 
 using BRELK::ThemeResources::getIcon;

@@ -11,7 +11,6 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QRubberBand>
-#include <QSizeGrip>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTextEdit>

@@ -11,7 +11,6 @@
 #include <QFontDialog>
 #include <QFormLayout>
 #include <QInputDialog>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProgressDialog>

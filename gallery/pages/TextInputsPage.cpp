@@ -4,7 +4,6 @@
 #include "kit/Properties.h"
 #include "kit/StateGrid.h"
 
-#include <QAction>
 #include <QCompleter>
 #include <QLineEdit>
 #include <QPlainTextEdit>

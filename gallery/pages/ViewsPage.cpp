@@ -1,6 +1,5 @@
 #include "Cells.h"
 #include "Pages.h"
-#include "ThemeResources.h"
 #include "companions/Companions.h"
 #include "kit/Page.h"
 #include "kit/Properties.h"

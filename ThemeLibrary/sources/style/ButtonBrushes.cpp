@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QCommandLinkButton>
 #include <QCursor>
 #include <QDateTimeEdit>
 #include <QHash>
@@ -284,7 +285,7 @@ void dressAsComboBox(ButtonLook& look)
 void quietCommandLink(ButtonLook& look)
 {
     if (BaseStyle::isDefaultButton(&look.option) && look.isIdle()
-        && WidgetTraits::isCommandLink(look.widget))
+        && qobject_cast<const QCommandLinkButton*>(look.widget))
         look.brushes.foregroundBrush = QBrush();
 }
 

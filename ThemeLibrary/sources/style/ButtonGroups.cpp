@@ -1,4 +1,3 @@
-#include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 

@@ -275,7 +275,7 @@ void paintPanel(const PaintContext& context)
         return;
     BaseStyle::ButtonBrushes brushes = BaseStyle::buttonBrushes(&context.option, context.widget);
     const bool hasOwnGround = showOwnGround(context, brushes);
-    if (context.widget && WidgetTraits::isSegmentedGroup(context.widget->parent())) {
+    if (context.widget && WidgetTraits::isSegmentedGroup(context.widget->parentWidget())) {
         paintSegment(context, brushes);
         return;
     }

@@ -40,14 +40,6 @@ struct PaletteKey
     }
 };
 
-template <class Option>
-void prepare(const BaseStyle& style, Option& option, const QWidget* widget)
-{
-    const QBrush brush = of({style, option, widget});
-    set(option, brush);
-    option.icon = commonModifyStyleOptionIcon(option.icon, brush);
-}
-
 } // namespace
 
 QBrush of(const StyleContext& context)
@@ -112,18 +104,12 @@ QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush)
 
 void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget)
 {
-    set(option, of({style, option, widget}));
-}
-
-void commonCallButtonText(const BaseStyle& style, QStyleOptionButton& option, const QWidget* widget)
-{
-    prepare(style, option, widget);
-}
-
-void commonCallButtonText(const BaseStyle& style, QStyleOptionToolButton& option,
-                          const QWidget* widget)
-{
-    prepare(style, option, widget);
+    const QBrush brush = of({style, option, widget});
+    set(option, brush);
+    if (auto* button = qstyleoption_cast<QStyleOptionButton*>(&option))
+        button->icon = commonModifyStyleOptionIcon(button->icon, brush);
+    else if (auto* toolButton = qstyleoption_cast<QStyleOptionToolButton*>(&option))
+        toolButton->icon = commonModifyStyleOptionIcon(toolButton->icon, brush);
 }
 
 } // namespace BRELK::Foregrounds

@@ -21,13 +21,8 @@ QIcon commonModifyStyleOptionIcon(const QIcon& icon, const QBrush& brush);
 void set(QStyleOption& option, const QBrush& brush,
          QPalette::ColorRole role = QPalette::ButtonText);
 
-/// Gives the option's texts and arrows the foreground of its button brushes.
+/// Gives the option's texts and arrows the foreground of its button brushes, and recolors the icon
+/// that an option of buttons has.
 void commonCallButtonText(const BaseStyle& style, QStyleOption& option, const QWidget* widget);
-
-/// As above, and recolors the icon.
-void commonCallButtonText(const BaseStyle& style, QStyleOptionButton& option,
-                          const QWidget* widget);
-void commonCallButtonText(const BaseStyle& style, QStyleOptionToolButton& option,
-                          const QWidget* widget);
 
 } // namespace BRELK::Foregrounds

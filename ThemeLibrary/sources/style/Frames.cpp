@@ -8,7 +8,6 @@
 #include <QAbstractScrollArea>
 #include <QLineEdit>
 #include <QToolTip>
-#include <QWidget>
 #include <qdrawutil.h>
 
 // Focus marks, tool tips and the frames of QFrame.

@@ -12,19 +12,24 @@ namespace {
 
 namespace Properties = WidgetProperties;
 
-/// A theme brush that a widget library reads from one of its widgets' properties.
+/// A theme brush that a widget library reads from one of its widgets' properties, and the twin for
+/// disabled ones from the property that is named so.
 struct HandedBrush
 {
     const char* property;
     ThemeNames::BrushName name;
-    bool enabled;
+    bool hasTwin = true;
 };
 
 template <size_t Count>
 void handOut(QWidget& widget, const HandedBrush (&brushes)[Count])
 {
-    for (const HandedBrush& brush : brushes)
-        widget.setProperty(brush.property, themeValues().brushes.value(brush.name, brush.enabled));
+    for (const auto& [property, name, hasTwin] : brushes) {
+        widget.setProperty(property, themeValues().brushes.value(name));
+        if (hasTwin)
+            widget.setProperty(ThemeNames::twin(QLatin1String(property)).toLatin1(),
+                               themeValues().brushes.value(name, false));
+    }
 }
 
 } // namespace
@@ -42,9 +47,7 @@ void setCardTitleFonts(BaseStyle&, QWidget& widget)
 void dressCard(BaseStyle&, QWidget& widget)
 {
     // Deliberate: the hover brush of foregrounds is the background of cards.
-    handOut(widget,
-            {{Properties::BackgroundBrush, ThemeNames::ForegroundMouseOverBrush, true},
-             {Properties::BackgroundBrushDisabled, ThemeNames::ForegroundMouseOverBrush, false}});
+    handOut(widget, {{Properties::BackgroundBrush, ThemeNames::ForegroundMouseOverBrush}});
 }
 
 void roundGroupContainer(BaseStyle&, QWidget& widget)
@@ -54,19 +57,14 @@ void roundGroupContainer(BaseStyle&, QWidget& widget)
 
 void dressButtonGroup(BaseStyle&, QWidget& widget)
 {
-    handOut(widget,
-            {{Properties::BackgroundBrush, ThemeNames::ListBackgroundBrush, true},
-             {Properties::BackgroundBrushDisabled, ThemeNames::ListBackgroundBrush, false},
-             {Properties::BorderBrush, ThemeNames::ListBorderBrush, true},
-             {Properties::BorderBrushDisabled, ThemeNames::ListBorderBrush, false},
-             {Properties::WorkflowLinkBrush, ThemeNames::PrioritySecondaryUpLevel1Brush, true},
-             {Properties::WorkflowLinkBrushDisabled, ThemeNames::PrioritySecondaryUpLevel1Brush,
-              false}});
+    handOut(widget, {{Properties::BackgroundBrush, ThemeNames::ListBackgroundBrush},
+                     {Properties::BorderBrush, ThemeNames::ListBorderBrush},
+                     {Properties::WorkflowLinkBrush, ThemeNames::PrioritySecondaryUpLevel1Brush}});
 }
 
 void dressRoundedPixmap(BaseStyle&, QWidget& widget)
 {
-    handOut(widget, {{Properties::BorderBrush, ThemeNames::BackgroundSubLevel1Brush, true}});
+    handOut(widget, {{Properties::BorderBrush, ThemeNames::BackgroundSubLevel1Brush, false}});
     widget.setProperty(Properties::CornerRadius, Shapes::cornerRadius(ThemeNames::MediumSize));
 }
 
@@ -106,16 +104,12 @@ void dressRangeSlider(BaseStyle&, QWidget& widget)
     widget.setProperty(Properties::InvertedControls, false);
     widget.setProperty(Properties::Tracking, true);
     widget.setProperty(Properties::TickPosition, 0);
-    handOut(widget, {{Properties::SunkenBrush, ThemeNames::SliderThumbNailPressedBrush, true},
-                     {Properties::HoverBrush, ThemeNames::SliderThumbNailHoverBrush, true},
-                     {Properties::DefaultBrush, ThemeNames::InputForegroundBrush, true},
-                     {Properties::DefaultBrushDisabled, ThemeNames::InputForegroundBrush, false},
-                     {Properties::BackgroundBrush, ThemeNames::InputBackgroundBrush, true},
-                     {Properties::BackgroundBrushDisabled, ThemeNames::InputBackgroundBrush, false},
-                     {Properties::BorderBrush, ThemeNames::InputBorderBrush, true},
-                     {Properties::BorderBrushDisabled, ThemeNames::InputBorderBrush, false},
-                     {Properties::RangeBrush, ThemeNames::MainBrush, true},
-                     {Properties::RangeBrushDisabled, ThemeNames::MainBrush, false}});
+    handOut(widget, {{Properties::SunkenBrush, ThemeNames::SliderThumbNailPressedBrush, false},
+                     {Properties::HoverBrush, ThemeNames::SliderThumbNailHoverBrush, false},
+                     {Properties::DefaultBrush, ThemeNames::InputForegroundBrush},
+                     {Properties::BackgroundBrush, ThemeNames::InputBackgroundBrush},
+                     {Properties::BorderBrush, ThemeNames::InputBorderBrush},
+                     {Properties::RangeBrush, ThemeNames::MainBrush}});
     widget.setProperty(Properties::CornerRadius, Shapes::cornerRadius(ThemeNames::BaseSize));
 }
 

@@ -13,15 +13,22 @@
 #include <QComboBox>
 #include <QCommandLinkButton>
 #include <QDockWidget>
+#include <QGroupBox>
 #include <QLCDNumber>
+#include <QLabel>
 #include <QLayout>
+#include <QListView>
 #include <QMainWindow>
 #include <QPixmap>
 #include <QProgressBar>
 #include <QScrollArea>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
+#include <QToolBox>
+#include <QTreeView>
 
 // What polish does to widgets: rows of a question and an action, tried in order on every widget.
 
@@ -45,12 +52,6 @@ bool has(const QWidget* widget)
     return Properties::flag(widget, Property);
 }
 
-template <class Widget>
-Widget& as(QWidget& widget)
-{
-    return static_cast<Widget&>(widget);
-}
-
 /// Sets `role` for all groups to the theme brush `name`, and for the Disabled group to its twin.
 void setPaletteBrush(QWidget& widget, QPalette::ColorRole role, ThemeNames::BrushName name)
 {
@@ -62,7 +63,7 @@ void setPaletteBrush(QWidget& widget, QPalette::ColorRole role, ThemeNames::Brus
 
 void readUpwards(BaseStyle&, QWidget& widget)
 {
-    as<QProgressBar>(widget).setTextDirection(QProgressBar::BottomToTop);
+    static_cast<QProgressBar&>(widget).setTextDirection(QProgressBar::BottomToTop);
 }
 
 bool hasThemedBase(const QWidget* widget)
@@ -94,13 +95,13 @@ bool hasThemedItems(const QWidget* widget)
 
 void setItemDrawing(BaseStyle&, QWidget& widget)
 {
-    if (!WidgetTraits::isTreeView(&widget)) {
+    if (!is<QTreeView>(&widget)) {
         widget.setProperty(Properties::HighlightItemsOnMouseHover, true);
         widget.setMouseTracking(true);
     }
-    if (!WidgetTraits::isTableView(&widget))
+    if (!is<QTableView>(&widget))
         widget.setProperty(Properties::DrawItemsSeparators, true);
-    if (WidgetTraits::isListView(&widget))
+    if (is<QListView>(&widget))
         widget.setProperty(Properties::DrawChildIndicatorInListView, true);
     widget.setProperty(Properties::HideFocusRect, true);
 }
@@ -115,12 +116,17 @@ void fadeDisabledLabel(BaseStyle&, QWidget& widget)
 
 bool tracksHover(const QWidget* widget)
 {
-    return is<QTabBar>(widget) || WidgetTraits::isGroupBox(widget);
+    return is<QTabBar>(widget) || is<QGroupBox>(widget);
 }
 
 void trackHover(BaseStyle&, QWidget& widget)
 {
     widget.setAttribute(Qt::WA_Hover);
+}
+
+bool hasTabFont(const QWidget* widget)
+{
+    return is<QTabWidget>(widget) || is<QTabBar>(widget);
 }
 
 ThemeNames::FontName tabFontName(const QWidget& tabs)
@@ -176,7 +182,7 @@ void keepPagesFont(BaseStyle&, QWidget& widget)
 
 void lightenViewport(BaseStyle&, QWidget& widget)
 {
-    as<QScrollArea>(widget).viewport()->setBackgroundRole(QPalette::Light);
+    static_cast<QScrollArea&>(widget).viewport()->setBackgroundRole(QPalette::Light);
 }
 
 bool hasOwnBackground(const QWidget* widget)
@@ -213,17 +219,7 @@ void dressComboBoxList(BaseStyle&, QWidget& widget)
 
 void replaceDelegate(BaseStyle&, QWidget& widget)
 {
-    ComboBoxes::replaceDelegate(as<QComboBox>(widget));
-}
-
-bool isCard(const QWidget* widget)
-{
-    return WidgetTraits::isCardWidget(widget);
-}
-
-bool isButtonGroup(const QWidget* widget)
-{
-    return WidgetTraits::isSegmentedGroup(widget);
+    ComboBoxes::replaceDelegate(static_cast<QComboBox&>(widget));
 }
 
 bool isGroupContainer(const QWidget* widget)
@@ -267,66 +263,52 @@ void closeUpToolBox(BaseStyle&, QWidget& widget)
     }
 }
 
-struct PolishRule
-{
-    bool (*applies)(const QWidget*);
-    void (*action)(BaseStyle&, QWidget&);
-};
-
-// clang-format off
-constexpr PolishRule Rules[] = {
-    {is<QProgressBar>,                 readUpwards},
-    {hasThemedBase,                    setThemedBase},
-    {hasThemedItems,                   setItemDrawing},
-    {WidgetTraits::isLabel,            fadeDisabledLabel},
-    {tracksHover,                      trackHover},
-    {is<QTabWidget>,                   keepPagesFont},
-    {WidgetTraits::isTabWidgetOrBar,   setTabFont},
-    {is<QLCDNumber>,                   Revocable::flattenDigits},
-    {WidgetTraits::isStatusBar,        Revocable::raiseStatusBar},
-    {is<QScrollArea>,                  lightenViewport},
-    {hasOwnBackground,                 paintBackground},
-    {has<Properties::CardTitle>,       HandOuts::setCardTitleFonts},
-    {has<Properties::CardSubtitle>,    fadeSubtitle},
-    {isCard,                           HandOuts::dressCard},
-    {is<QComboBox>,                    replaceDelegate},
-    {isComboBoxList,                   dressComboBoxList},
-    {isGroupContainer,                 HandOuts::roundGroupContainer},
-    {isButtonGroup,                    HandOuts::dressButtonGroup},
-    {showsRoundedPixmap,               HandOuts::dressRoundedPixmap},
-    {has<Properties::PillFont>,        HandOuts::setPillFont},
-    {WidgetTraits::isPeriodicTable,    HandOuts::dressPeriodicTable},
-    {WidgetTraits::isRangeSlider,      HandOuts::dressRangeSlider},
-    {is<QCommandLinkButton>,           watch},
-    {hasNoShadow,                      castShadow},
-    {WidgetTraits::isToolBoxButton,    raiseToolBoxButton},
-    {WidgetTraits::isToolBox,          closeUpToolBox},
-    {WidgetTraits::isLineEditIconButton, watch},
-    {is<QCalendarWidget>,              Revocable::calmCalendar},
-    {is<QCalendarWidget>,              watch},
-};
-
-// clang-format on
-
 void forgetHover(QWidget& widget)
 {
     widget.setAttribute(Qt::WA_Hover, false);
 }
 
-struct UnpolishRule
+struct PolishRule
 {
     bool (*applies)(const QWidget*);
-    void (*action)(QWidget&);
+    void (*polish)(BaseStyle&, QWidget&);
+    void (*unpolish)(QWidget&); // Deliberate: most of what polish sets stays.
 };
 
-// Deliberate: all else that polish sets stays.
-constexpr UnpolishRule UnpolishRules[] = {
-    {tracksHover, forgetHover},
-    {is<QLCDNumber>, Revocable::raiseDigits},
-    {is<QCalendarWidget>, Revocable::reddenCalendar},
-    {is<QProgressBar>, ProgressBars::endAnimation},
-    {WidgetTraits::isStatusBar, Revocable::lowerStatusBar},
+// clang-format off
+constexpr PolishRule Rules[] = {
+    {is<QProgressBar>,                 readUpwards, ProgressBars::endAnimation},
+    {hasThemedBase,                    setThemedBase, {}},
+    {hasThemedItems,                   setItemDrawing, {}},
+    {is<QLabel>,                       fadeDisabledLabel, {}},
+    {tracksHover,                      trackHover, forgetHover},
+    {is<QTabWidget>,                   keepPagesFont, {}},
+    {hasTabFont,                       setTabFont, {}},
+    {is<QLCDNumber>,                   Revocable::flattenDigits, Revocable::raiseDigits},
+    {is<QStatusBar>,                   Revocable::raiseStatusBar, Revocable::lowerStatusBar},
+    {is<QScrollArea>,                  lightenViewport, {}},
+    {hasOwnBackground,                 paintBackground, {}},
+    {has<Properties::CardTitle>,       HandOuts::setCardTitleFonts, {}},
+    {has<Properties::CardSubtitle>,    fadeSubtitle, {}},
+    {WidgetTraits::isCardWidget,       HandOuts::dressCard, {}},
+    {is<QComboBox>,                    replaceDelegate, {}},
+    {isComboBoxList,                   dressComboBoxList, {}},
+    {isGroupContainer,                 HandOuts::roundGroupContainer, {}},
+    {WidgetTraits::isSegmentedGroup,   HandOuts::dressButtonGroup, {}},
+    {showsRoundedPixmap,               HandOuts::dressRoundedPixmap, {}},
+    {has<Properties::PillFont>,        HandOuts::setPillFont, {}},
+    {WidgetTraits::isPeriodicTable,    HandOuts::dressPeriodicTable, {}},
+    {WidgetTraits::isRangeSlider,      HandOuts::dressRangeSlider, {}},
+    {is<QCommandLinkButton>,           watch, {}},
+    {hasNoShadow,                      castShadow, {}},
+    {WidgetTraits::isToolBoxButton,    raiseToolBoxButton, {}},
+    {is<QToolBox>,                     closeUpToolBox, {}},
+    {WidgetTraits::isLineEditIconButton, watch, {}},
+    {is<QCalendarWidget>,              Revocable::calmCalendar, Revocable::reddenCalendar},
+    {is<QCalendarWidget>,              watch, {}},
 };
+
+// clang-format on
 
 /// The base style has these painted again whenever the mouse comes or goes.
 bool looksTheSameUnderMouse(const QWidget* widget)
@@ -346,7 +328,7 @@ void BaseStyle::polish(QWidget* widget)
         widget->setAttribute(Qt::WA_Hover, false);
     for (const PolishRule& rule : Rules) {
         if (rule.applies(widget))
-            rule.action(*this, *widget);
+            rule.polish(*this, *widget);
     }
 }
 
@@ -357,9 +339,9 @@ void BaseStyle::unpolish(QWidget* widget)
     QProxyStyle::unpolish(widget);
     if (is<QCalendarWidget>(widget)) // or the palette of the next style would calm it again
         widget->removeEventFilter(this);
-    for (const UnpolishRule& rule : UnpolishRules) {
-        if (rule.applies(widget))
-            rule.action(*widget);
+    for (const PolishRule& rule : Rules) {
+        if (rule.unpolish && rule.applies(widget))
+            rule.unpolish(*widget);
     }
 }
 

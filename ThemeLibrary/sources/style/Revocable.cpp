@@ -16,12 +16,6 @@ namespace {
 constexpr char FlattenedDigits[] = "_varn_flattenedDigits";
 constexpr char WeekendBrush[] = "_varn_calmWeekends";
 
-template <class Widget>
-Widget& as(QWidget& widget)
-{
-    return static_cast<Widget&>(widget);
-}
-
 void changeWeekends(QCalendarWidget& calendar, const QBrush& from, const QBrush& to)
 {
     for (const Qt::DayOfWeek day : {Qt::Saturday, Qt::Sunday}) {
@@ -103,7 +97,7 @@ private:
 
 void flattenDigits(BaseStyle&, QWidget& widget)
 {
-    auto& number = as<QLCDNumber>(widget);
+    auto& number = static_cast<QLCDNumber&>(widget);
     if (number.property(FlattenedDigits).isValid())
         return;
     number.setProperty(FlattenedDigits, true);
@@ -113,7 +107,7 @@ void flattenDigits(BaseStyle&, QWidget& widget)
 
 void raiseDigits(QWidget& widget)
 {
-    auto& number = as<QLCDNumber>(widget);
+    auto& number = static_cast<QLCDNumber&>(widget);
     if (number.segmentStyle() != QLCDNumber::Flat || !number.property(FlattenedDigits).isValid())
         return;
     number.setSegmentStyle(QLCDNumber::Filled);
@@ -129,20 +123,20 @@ void calmCalendar(BaseStyle&, QWidget& widget)
             palette.base(),
             {themeValues().colors.value(ThemeNames::StatusDangerColor), palette.text()})
                            : palette.brush(QPalette::Disabled, QPalette::Text);
-    changeWeekends(as<QCalendarWidget>(widget), given.isValid() ? given.value<QBrush>() : Qt::red,
-                   calm);
+    changeWeekends(static_cast<QCalendarWidget&>(widget),
+                   given.isValid() ? given.value<QBrush>() : Qt::red, calm);
     widget.setProperty(WeekendBrush, calm);
     if (!widget.isEnabled() || given.isValid())
-        setStandingBack(as<QCalendarWidget>(widget), !widget.isEnabled());
+        setStandingBack(static_cast<QCalendarWidget&>(widget), !widget.isEnabled());
 }
 
 void reddenCalendar(QWidget& widget)
 {
     const QVariant given = widget.property(WeekendBrush);
     if (given.isValid())
-        changeWeekends(as<QCalendarWidget>(widget), given.value<QBrush>(), Qt::red);
+        changeWeekends(static_cast<QCalendarWidget&>(widget), given.value<QBrush>(), Qt::red);
     widget.setProperty(WeekendBrush, {});
-    setStandingBack(as<QCalendarWidget>(widget), false);
+    setStandingBack(static_cast<QCalendarWidget&>(widget), false);
 }
 
 void raiseStatusBar(BaseStyle&, QWidget& widget)

@@ -83,14 +83,11 @@ inline constexpr char Small[] = "small";
 
 /// Written by `polish`, for the widget libraries that draw with the style's values.
 inline constexpr char BackgroundBrush[] = "BackgroundBrush";
-inline constexpr char BackgroundBrushDisabled[] = "BackgroundBrushDisabled";
 inline constexpr char BorderBrush[] = "BorderBrush";
-inline constexpr char BorderBrushDisabled[] = "BorderBrushDisabled";
 inline constexpr char CardTitleDefaultFont[] = "CardWidgetBase_Title_DefaultFont";
 inline constexpr char CardTitleMinimizedFont[] = "CardWidgetBase_Title_MinimizedFont";
 inline constexpr char CornerRadius[] = "CornerRadius";
 inline constexpr char DefaultBrush[] = "DefaultBrush";
-inline constexpr char DefaultBrushDisabled[] = "DefaultBrushDisabled";
 inline constexpr char HoverBrush[] = "HoverBrush";
 inline constexpr char InvertedControls[] = "invertedControls";
 inline constexpr char PeriodicTableBackgroundColor[] = "PeriodicTableDelegate_BackgroundColor";
@@ -102,14 +99,12 @@ inline constexpr char PeriodicTableForegroundSubLevelColor[] =
 inline constexpr char PeriodicTableForegroundUpLevelColor[] =
     "PeriodicTableDelegate_ForegroundUpLevelColor";
 inline constexpr char RangeBrush[] = "RangeBrush";
-inline constexpr char RangeBrushDisabled[] = "RangeBrushDisabled";
 inline constexpr char StyleSheetWidgetFont[] =
     "_q_styleSheetWidgetFont"; ///< Qt's own: the font it restores under a sheet
 inline constexpr char SunkenBrush[] = "SunkenBrush";
 inline constexpr char TickPosition[] = "tickPosition";
 inline constexpr char Tracking[] = "tracking";
 inline constexpr char WorkflowLinkBrush[] = "WorkflowLinkBrush";
-inline constexpr char WorkflowLinkBrushDisabled[] = "WorkflowLinkBrushDisabled";
 
 /// Asks one object, which may be null, for properties of the list above.
 ///

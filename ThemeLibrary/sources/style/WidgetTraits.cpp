@@ -2,17 +2,10 @@
 
 #include <QAbstractSpinBox>
 #include <QAction>
-#include <QCommandLinkButton>
 #include <QDateTimeEdit>
-#include <QGroupBox>
-#include <QLabel>
 #include <QListView>
-#include <QStatusBar>
 #include <QTabBar>
-#include <QTabWidget>
-#include <QTableView>
 #include <QTimeEdit>
-#include <QToolBox>
 #include <QToolButton>
 #include <QTreeView>
 
@@ -39,9 +32,9 @@ bool isCalendarPopupEditor(const QWidget* widget)
     return editor && !qobject_cast<const QTimeEdit*>(widget) && editor->calendarPopup();
 }
 
-bool isCardWidget(const QObject* object)
+bool isCardWidget(const QWidget* widget)
 {
-    return inherits(object, "BRELK::Components::CardWidget");
+    return inherits(widget, "BRELK::Components::CardWidget");
 }
 
 bool isCascadingListPanel(const QWidget* widget)
@@ -64,19 +57,9 @@ bool isComboBoxPopup(const QObject* object)
     return inherits(object, "QComboBoxPrivateContainer");
 }
 
-bool isCommandLink(const QWidget* widget)
-{
-    return qobject_cast<const QCommandLinkButton*>(widget);
-}
-
 bool isDefaultComboBoxDelegate(const QObject* object)
 {
     return inherits(object, "QComboBoxDelegate");
-}
-
-bool isGroupBox(const QWidget* widget)
-{
-    return qobject_cast<const QGroupBox*>(widget);
 }
 
 bool isInComboBoxPopup(const QWidget* widget)
@@ -87,11 +70,6 @@ bool isInComboBoxPopup(const QWidget* widget)
 bool isInTabBar(const QWidget* widget)
 {
     return widget && qobject_cast<const QTabBar*>(widget->parent());
-}
-
-bool isLabel(const QWidget* widget)
-{
-    return qobject_cast<const QLabel*>(widget);
 }
 
 bool isLineEditClearButton(const QWidget* widget)
@@ -126,34 +104,14 @@ bool isRangeSlider(const QWidget* widget)
     return inherits(widget, "BRELK::Components::RangeSlider");
 }
 
-bool isSegmentedGroup(const QObject* object)
+bool isSegmentedGroup(const QWidget* widget)
 {
-    return inherits(object, "BRELK::Components::ButtonGroupWidget");
+    return inherits(widget, "BRELK::Components::ButtonGroupWidget");
 }
 
 bool isSpinBox(const QWidget* widget)
 {
     return qobject_cast<const QAbstractSpinBox*>(widget);
-}
-
-bool isStatusBar(const QWidget* widget)
-{
-    return qobject_cast<const QStatusBar*>(widget);
-}
-
-bool isTableView(const QWidget* widget)
-{
-    return qobject_cast<const QTableView*>(widget);
-}
-
-bool isTabWidgetOrBar(const QWidget* widget)
-{
-    return qobject_cast<const QTabWidget*>(widget) || qobject_cast<const QTabBar*>(widget);
-}
-
-bool isToolBox(const QWidget* widget)
-{
-    return qobject_cast<const QToolBox*>(widget);
 }
 
 bool isToolBoxButton(const QWidget* widget)

@@ -1,9 +1,10 @@
 #include "Families.h"
 #include "OwnColors.h"
-#include "PainterSaver.h"
 #include "Shapes.h"
 #include "ThemeNames.h"
 #include "WidgetTraits.h"
+
+#include <QGroupBox>
 
 // Status bars, splitters and rubber bands, and what layouts and windows measure.
 //
@@ -23,7 +24,7 @@ int layoutMargin(const MeasureContext& context)
     const bool isWindow = context.widget && context.widget->isWindow();
     // The frame of a group box is a part of its margin: then what stands in it stands below the
     // check box of its title.
-    const int frame = WidgetTraits::isGroupBox(context.widget) ? 1 : 0;
+    const int frame = qobject_cast<const QGroupBox*>(context.widget) ? 1 : 0;
     return context.dpiScaled(isWindow ? WindowMargin : ChildMargin) - frame;
 }
 
@@ -73,7 +74,8 @@ void paintRubberBand(const PaintContext& context, const QStyleOptionRubberBand& 
     const QColor color = themeValues().colors.value(ThemeNames::MainColor);
     QColor fill = color;
     fill.setAlpha(int(themeValues().opacities.value(ThemeNames::RubberBandOpacity) * Opaque));
-    const bool ofCard = context.widget && WidgetTraits::isCardWidget(context.widget->parent());
+    const bool ofCard =
+        context.widget && WidgetTraits::isCardWidget(context.widget->parentWidget());
     Shapes::drawBox(context, band.rect, ofCard ? Shapes::cornerRadius(ThemeNames::MediumSize) : 0,
                     band.shape == QRubberBand::Rectangle ? QBrush(fill) : QBrush(), color);
 }
