@@ -73,7 +73,7 @@ constexpr Weight Weights[] = {
     {"Normal", QFont::Normal}, {"Medium", QFont::Medium},         {"DemiBold", QFont::DemiBold},
     {"Bold", QFont::Bold},     {"ExtraBold", QFont::ExtraBold},   {"Black", QFont::Black}};
 
-constexpr QLatin1String WordsAttribute("words");
+const QLatin1String WordsAttribute("words");
 
 bool isName(const QString& name)
 {

@@ -25,7 +25,7 @@ constexpr int LongestFailure = 160;
 /// Parsers compare each attribute of a tag with all others of it.
 constexpr int MaxAttributes = 100;
 
-constexpr QLatin1String ExtendsAttribute("extends");
+const QLatin1String ExtendsAttribute("extends");
 
 QString decoded(const QByteArray& bytes)
 {

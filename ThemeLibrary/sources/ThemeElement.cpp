@@ -9,7 +9,7 @@ namespace BRELK {
 
 namespace {
 
-constexpr QLatin1String NameAttribute("name");
+const QLatin1String NameAttribute("name");
 
 /// Whether `text` stands in the content of `node`.
 bool mentions(const ThemeNode& node, const QString& text)

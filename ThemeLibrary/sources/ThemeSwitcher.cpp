@@ -1,6 +1,7 @@
 #include "ThemeSwitcher.h"
 
 #include "AppliedThemes.h"
+#include "BaseStyles.h"
 #include "DesktopFollower.h"
 #include "HeldPaints.h"
 #include "Kept.h"
@@ -12,10 +13,8 @@
 #include "ThemeResources_p.h"
 #include "ThemeValues.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDebug>
-#include <QDialogButtonBox>
 #include <QEvent>
 #include <QLabel>
 #include <QMdiArea>
@@ -28,7 +27,6 @@
 #include <QToolButton>
 #include <QVector>
 #include <QWidget>
-#include <QWizard>
 
 #include <utility>
 
@@ -88,40 +86,25 @@ bool isSheetStyle(const QStyle* style)
     return style->inherits("QStyleSheetStyle");
 }
 
-/// Whether the toolkit gives the widget the style of the box or the wizard that it is part of,
-/// whenever that changes.
-bool isGivenStyles(const QWidget& widget)
-{
-    if (qobject_cast<const QWizardPage*>(&widget))
-        return true;
-    if (!qobject_cast<const QAbstractButton*>(&widget))
-        return false;
-    const QWidget* parent = widget.parentWidget();
-    if (qobject_cast<const QDialogButtonBox*>(parent))
-        return true;
-    while (parent && !qobject_cast<const QWizardPage*>(parent)
-           && !qobject_cast<const QWizard*>(parent))
-        parent = parent->parentWidget();
-    return qobject_cast<const QWizard*>(parent);
-}
-
-/// Whether the widget holds the application's style, or a style sheet's around it, as if that were
-/// its own: it would keep it, and those inside it too.
-bool holdsStyle(const QWidget& widget, const QStyle* style)
+/// Whether the widget holds the application's style, or a style sheet's around `below` it, as if
+/// that were its own: it would keep it, and those inside it too. Boxes of buttons and wizards give
+/// theirs to their parts, and so may anybody.
+bool holdsStyle(const QWidget& widget, const QStyle* style, const BaseStyle* below)
 {
     return widget.testAttribute(Qt::WA_SetStyle)
            && (widget.style() == style
-               || (isSheetStyle(widget.style()) && widget.styleSheet().isEmpty()
-                   && isGivenStyles(widget)));
+               || (below && isSheetStyle(widget.style())
+                   && BaseStyles::below(*widget.style()) == below));
 }
 
 /// Makes all that hold the application's style follow it. Who holds it is asked before anybody
 /// changes: a widget that changes gives those inside it styles of their own.
 void letGoOfStyle(const QStyle* style)
 {
+    const BaseStyle* below = BaseStyles::below(*style);
     Widgets holders;
     for (QWidget* widget : QApplication::allWidgets())
-        if (holdsStyle(*widget, style))
+        if (holdsStyle(*widget, style, below))
             holders.append(widget);
     for (QWidget* widget : qAsConst(holders))
         if (widget)

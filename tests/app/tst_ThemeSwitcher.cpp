@@ -101,6 +101,29 @@ private Q_SLOTS:
         QCOMPARE(QIcon::themeSearchPaths().filter(text("/Images/")).size(), 1);
     }
 
+    void nobodyKeepsTheStyleThatGoes()
+    {
+        QWidget window;
+        QWidget around(&window);
+        QWidget inside(&around);
+        inside.setStyle(around.style());
+        window.setStyleSheet(text("QFoo {}")); // which gives it one of a style sheet around that
+        switchTo("Light");
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        inside.grab();
+    }
+
+    void aBoxMayOpenItsListMeanwhile()
+    {
+        QComboBox combo;
+        combo.addItems({text("one"), text("two")});
+        connect(combo.view()->selectionModel(), &QItemSelectionModel::currentChanged,
+                [] { switchTo("Light"); });
+        combo.show();
+        combo.showPopup();
+        QVERIFY(combo.view()->isVisible());
+    }
+
     void onlySwitchesLetGo()
     {
         const QString main = text("MainColor");

@@ -1,10 +1,26 @@
 #include "BaseStyle.h"
+#include "BaseStyles.h"
 #include "Families.h"
 
 #include <QComboBox>
 #include <QFrame>
+#include <QStyleOption>
 
 namespace BRELK {
+
+namespace {
+
+/// Which style answers; nobody else asks.
+constexpr auto WhoAnswers = QStyle::StyleHint(QStyle::SH_CustomBase + 0x5aa11);
+
+} // namespace
+
+const BaseStyle* BaseStyles::below(const QStyle& style)
+{
+    QStyleHintReturnVariant answer;
+    style.styleHint(WhoAnswers, nullptr, nullptr, &answer);
+    return qobject_cast<const BaseStyle*>(answer.variant.value<QObject*>());
+}
 
 int BaseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                          QStyleHintReturn* returnData) const
@@ -35,7 +51,11 @@ int BaseStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidg
         break;
     case SH_ToolBox_SelectedPageTitleBold: return true;
     case SH_WindowFrame_Mask: return false; // title bars and frames are drawn to the corners
-    default: break;
+    default:
+        if (auto* answer = qstyleoption_cast<QStyleHintReturnVariant*>(returnData);
+            answer && hint == WhoAnswers)
+            answer->variant.setValue<QObject*>(const_cast<BaseStyle*>(this));
+        break;
     }
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
