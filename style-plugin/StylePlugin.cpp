@@ -70,8 +70,8 @@ public:
             judgePalette();
         // The program takes the style that it is given as its child.
         if (event->type() == QEvent::ChildAdded) {
+            // Asked for its style before it has one, it would make one.
             if (auto* style = qobject_cast<QStyle*>(static_cast<QChildEvent*>(event)->child()))
-                // One without a style would make one when it is asked.
                 setWorn(isThemed(m_isWorn ? *QApplication::style() : *style));
         }
         return false;

@@ -16,10 +16,9 @@ namespace BRELK {
 
 /// The widget style: measures and paints every standard widget from the current theme's variables.
 ///
-/// It is a proxy over "fusion", which answers what the style leaves to it. The brushes it reads at
-/// construction and those it caches stay for the life of the process, so a theme is to be applied
-/// before the first style is built. A style handed to `QApplication::setStyle` belongs to the
-/// application.
+/// It is a proxy over "fusion", which answers what the style leaves to it. The values it
+/// reads are kept until `ThemeSwitcher` applies another theme, so a theme is to be applied before
+/// the first style is built. A style handed to `QApplication::setStyle` belongs to the application.
 class VARN_COMMON_THEME_EXPORT BaseStyle : public QProxyStyle
 {
     Q_OBJECT
@@ -65,8 +64,9 @@ public:
     // Defined in EventFilter.cpp and Polishing.cpp; the rest of polishing in BaseStyle.cpp
     bool eventFilter(QObject* watched, QEvent* event) override;
 
-    /// Fits `widget` to the theme; safe to call again. What it sets stays when the widget is
-    /// unpolished, but for the hover attribute of tab bars and group boxes.
+    /// Fits `widget` to the theme; safe to call again. Of what it sets, unpolishing takes back
+    /// the hover attribute of tab bars and group boxes and what it does to calendars, digits and
+    /// status bars; the rest stays. A null widget is ignored.
     void polish(QWidget* widget) override;
     void unpolish(QWidget* widget) override;
     void polish(QApplication* app) override;
@@ -104,8 +104,9 @@ public:
                   QStyleHintReturn* returnData = nullptr) const override;
 
     // Defined in StandardIcons.cpp
-    /// The theme's icons for Qt's own; null where the icon theme lacks one. `SP_CustomBase` gives
-    /// the icon that the widget names in its property "highlightedIcon", in the theme's main color.
+    /// The icons of the icon theme, else of the library, for those of Qt's that the theme has names
+    /// for. `SP_CustomBase` gives the icon that the widget names in its property "highlightedIcon",
+    /// in the theme's main color; null without it.
     QIcon standardIcon(StandardPixmap pixmap, const QStyleOption* option = nullptr,
                        const QWidget* widget = nullptr) const override;
     QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption* option = nullptr,
@@ -125,7 +126,8 @@ public:
 
     /// The palette's Midlight brush.
     const QBrush& lightOutlineBrush(const QPalette& palette) const;
-    /// The theme brush "GrooveBackgroundBrush", cached for the life of the process.
+    /// The theme brush "GrooveBackgroundBrush" or its twin; the reference stays, and shows another
+    /// brush when `ThemeSwitcher` has applied another theme.
     const QBrush& grooveBackgroundBrush(bool enabled) const;
 
     /// Pressed or checked is down; else a button under the mouse that is not flat is highlighted.
@@ -168,7 +170,7 @@ public:
     /// The theme color `name`, or with `enabled` false its twin `name` + "Disabled"; invalid when
     /// the theme lacks it.
     static QColor getColor(QString name, bool enabled);
-    /// The theme brush "CardBorderBrush", cached for the life of the process.
+    /// The theme brush "CardBorderBrush" or its twin, kept as the above.
     static const QBrush& getBorderBrush(bool enabled);
 
     // Defined in ButtonBrushes.cpp
@@ -177,6 +179,7 @@ public:
     /// widget its properties count as absent.
     static const ButtonBrushes buttonBrushes(const QStyleOption* option, const QWidget* widget);
 
+    /// What an option, which must not be null, says of its control, as the others do below.
     static bool isPressed(const QStyleOption& option);
     static bool isPressed(const QStyleOption* option);
     static bool isChecked(const QStyleOption& option);

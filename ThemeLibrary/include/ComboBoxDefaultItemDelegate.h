@@ -21,10 +21,11 @@ public:
     /// A delegate of `parent` for the popup of `comboBox`, which it does not own and may outlive.
     ComboBoxDefaultItemDelegate(QObject* parent, QComboBox* comboBox);
 
+    /// False for an invalid index.
     static bool isSeparator(const QModelIndex& index);
 
     /// Marks the row as a separator. In a `QStandardItemModel` it also becomes neither selectable
-    /// nor enabled.
+    /// nor enabled. A null model or an invalid index is ignored.
     static void setSeparator(QAbstractItemModel* model, const QModelIndex& index);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -13,7 +13,7 @@ namespace BRELK::ThemeColorHelper {
 /// factors for foregrounds or for backgrounds. Alpha is kept. A theme without factors leaves colors
 /// unchanged.
 ///
-/// The factors are read at the first call and kept for the life of the process.
+/// The factors are read at the first call and kept until `ThemeSwitcher` applies another theme.
 VARN_COMMON_THEME_EXPORT QColor disabled(const QColor& color, bool foreground);
 
 /// `icon` in the color of `brush`.

@@ -10,9 +10,8 @@ class Theme;
 
 /// An application that starts with a theme.
 ///
-/// The theme is chosen by the constructor's arguments or by the command line, which wins: `--theme
-/// NAME` and
-/// `--theme-repository PATH`, each value being the next argument.
+/// The theme is chosen by the constructor's arguments or by the command line, which wins:
+/// `--theme NAME` and `--theme-repository PATH`, each value being the next argument.
 class VARN_COMMON_THEME_EXPORT ThemeQApplication : public QApplication
 {
     Q_OBJECT

@@ -144,14 +144,14 @@ public:
         , m_owner(m_style ? m_style->parent() : nullptr)
         , m_holder(new QWidget)
     {
-        m_holder->setStyle(m_installed); // which counts who holds a style sheet's
+        m_holder->setStyle(m_installed); // a style sheet's style goes when nobody holds it
         if (m_style)
             m_style->setParent(nullptr);
     }
 
     ~StyleKeeper()
     {
-        // A style itself would pass that on to its base style.
+        // Not the style: it passes events on, and its base style would go in its place.
         m_holder->deleteLater();
         if (m_style)
             m_style->setParent(m_installed == QApplication::style() ? m_owner : m_holder);

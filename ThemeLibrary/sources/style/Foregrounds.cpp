@@ -66,10 +66,10 @@ QBrush ofText(const StyleContext& context, QPalette::ColorRole role, const QBrus
     const QBrush brush = isOwn || themed.style() == Qt::NoBrush ? given : themed;
     if (isOwn && OwnColors::isForThis(context, role))
         return brush;
+    if (ground.style() == Qt::NoBrush && !OwnColors::has(context, QPalette::Window))
+        return brush;
     if (ground.style() == Qt::NoBrush)
-        return OwnColors::has(context, QPalette::Window) ? OwnColors::readable(
-                   context.option.palette.brush(QPalette::Window), {brush, given})
-                                                         : brush;
+        return OwnColors::readable(context.option.palette.brush(QPalette::Window), {brush, given});
     const QBrush ownGround = OwnColors::controlGround(context);
     if (ownGround.style() != Qt::NoBrush)
         return OwnColors::readable(ownGround, {brush, given});

@@ -126,7 +126,7 @@ void calmCalendar(BaseStyle&, QWidget& widget)
     changeWeekends(static_cast<QCalendarWidget&>(widget),
                    given.isValid() ? given.value<QBrush>() : Qt::red, calm);
     widget.setProperty(WeekendBrush, calm);
-    if (!widget.isEnabled() || given.isValid())
+    if (!widget.isEnabled() || given.isValid()) // one that is new and enabled stands as it should
         setStandingBack(static_cast<QCalendarWidget&>(widget), !widget.isEnabled());
 }
 

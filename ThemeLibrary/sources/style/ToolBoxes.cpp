@@ -50,7 +50,8 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
 {
     constexpr int OwnStep = 8; ///< percent, of the application's ground
     const QRect& rect = tab.rect;
-    const bool raised = BaseStyle::isHovered(&tab) || BaseStyle::isPressed(tab);
+    const bool pressed = BaseStyle::isPressed(tab);
+    const bool raised = pressed || BaseStyle::isHovered(&tab);
     const bool isOwn = OwnColors::has(context, QPalette::Button);
     const QBrush ground = tabBrush(context);
     context.painter.fillRect(rect, raised && isOwn ? OwnColors::deeper(ground, OwnStep) : ground);
@@ -62,7 +63,6 @@ void paintTabShape(const PaintContext& context, const QStyleOptionToolBox& tab)
         context.painter.fillRect(rect, step);
     }
     // Deliberate: what is pressed is told from what is pointed at by a wider line in the accent.
-    const bool pressed = BaseStyle::isPressed(tab);
     const QBrush line = pressed ? context.brush(ThemeNames::MainBrush) : context.borderBrush();
     Shapes::drawLine(context, rect.bottomLeft(), rect.bottomRight(), line);
     if (pressed)
