@@ -50,10 +50,11 @@ void drawWorkflowStep(const QRectF& rect, QPainter& painter, int diameter, const
         first.moveTop(rect.top());
         second.moveTop(rect.bottom() - diameter);
     }
+    // With a radius beyond half the side these are circles, and quicker than ellipses.
     if (links.toFormer)
-        painter.drawEllipse(first);
+        Helpers::drawRoundedRectShape(first, diameter, Helpers::None, &painter);
     if (links.toNext)
-        painter.drawEllipse(second);
+        Helpers::drawRoundedRectShape(second, diameter, Helpers::None, &painter);
 }
 
 } // namespace

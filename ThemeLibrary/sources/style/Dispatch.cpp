@@ -160,16 +160,6 @@ SizeRule ruleOf(QStyle::ContentsType type)
 
 // clang-format on
 
-/// Nothing is farther from the origin than a few of the largest widgets. Of what is said to be, the
-/// places and sizes could not be counted in an int.
-bool isCountable(const QRect& rect)
-{
-    constexpr int Farthest = 4 * QWIDGETSIZE_MAX;
-    const auto isNear = [](int place) { return place >= -Farthest && place <= Farthest; };
-    return isNear(rect.left()) && isNear(rect.top()) && isNear(rect.right())
-           && isNear(rect.bottom());
-}
-
 } // namespace
 
 void BaseStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,

@@ -9,7 +9,6 @@
 #include <QtMath>
 
 #include <algorithm>
-#include <limits>
 
 // Sliders and dials.
 //
@@ -312,19 +311,23 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
 
 namespace {
 
-/// The angle of the hand, from the right against the clock.
-qreal handAngle(const QStyleOptionSlider& dial)
+/// The angle after a part of a dial's way, from the right against the clock.
+qreal angleAt(const QStyleOptionSlider& dial, qreal done)
 {
     constexpr qreal Turn = 2 * M_PI;
     constexpr qreal Start = Turn * 2 / 3; // of a dial that does not go all around
     constexpr qreal Way = Turn * 5 / 6;
+    return dial.dialWrapping ? Turn * 3 / 4 - done * Turn : Start - done * Way;
+}
+
+qreal handAngle(const QStyleOptionSlider& dial)
+{
     const qreal range = qreal(dial.maximum) - dial.minimum;
     if (range <= 0)
-        return Turn / 4;
+        return M_PI / 2;
     const qreal position =
         dial.upsideDown ? dial.sliderPosition : qreal(dial.maximum) - dial.sliderPosition;
-    const qreal done = (position - dial.minimum) / range;
-    return dial.dialWrapping ? Turn * 3 / 4 - done * Turn : Start - done * Way;
+    return angleAt(dial, (position - dial.minimum) / range);
 }
 
 /// Qt tells no option of a dial that it is being turned.
@@ -336,22 +339,22 @@ BaseStyle::ButtonBrushes dialBrushes(const PaintContext& context, const QStyleOp
     return BaseStyle::buttonBrushes(&copy, context.widget);
 }
 
-void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
+constexpr qreal FaceInRect = 0.8; // notches stand around it
+
+void paintFace(const PaintContext& context, const QStyleOptionSlider& dial)
 {
-    constexpr qreal FaceInRect = 0.8; // notches stand around it
     constexpr qreal HandInFace = 0.65;
     constexpr qreal DotInFace = 0.15;
-    const PainterSaver saver(context.painter);
     const QPointF centre = QRectF(dial.rect).center();
     const qreal radius = FaceInRect * qMin(dial.rect.width(), dial.rect.height()) / 2;
     const bool focused = context.has(QStyle::State_HasFocus);
-    context.painter.setRenderHint(QPainter::Antialiasing);
     const BaseStyle::ButtonBrushes brushes = dialBrushes(context, dial);
-    context.painter.setPen(focused ? QPen(context.brush(ThemeNames::MainBrush), 2)
-                                   : QPen(brushes.borderBrush, 1));
+    const QPen border =
+        focused ? QPen(context.brush(ThemeNames::MainBrush), 2) : QPen(brushes.borderBrush, 1);
     const QBrush ground = OwnColors::ground(context, QPalette::Button, brushes.backgroundBrush);
-    context.painter.setBrush(ground);
-    context.painter.drawEllipse(centre, radius, radius);
+    const QPointF corner(radius, radius);
+    Helpers::drawRoundedBox({centre - corner, centre + corner}, dial.rect.width(), Helpers::None,
+                            border, ground, &context.painter);
     const qreal angle = handAngle(dial);
     const qreal length = HandInFace * radius;
     context.painter.setPen(Qt::NoPen);
@@ -362,29 +365,45 @@ void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
                                 DotInFace * radius, DotInFace * radius);
 }
 
-/// The base style counts notches in an int, and crashes where that is too small or they are
-/// negative.
-bool hasCountableNotches(const QStyleOptionSlider& dial)
+/// As many of the notches as the toolkit draws; those of pages are longer.
+void paintNotches(const PaintContext& context, const QStyleOptionSlider& dial)
 {
-    const qint64 end = qint64(dial.maximum) - dial.minimum + dial.tickInterval;
-    return dial.tickInterval >= 0 && end <= std::numeric_limits<int>::max();
+    constexpr qint64 MostSteps = 1000;
+    constexpr int Smallest = 4;
+    constexpr int PerRadius = 6;
+    const qint64 range = qint64(dial.maximum) - dial.minimum;
+    const qint64 interval = dial.tickInterval;
+    if (interval <= 0 || range <= 0)
+        return;
+    const int count = int((qMin(range, MostSteps) + interval - 1) / interval);
+    const int across = dial.rect.width() / 2;
+    const int down = dial.rect.height() / 2;
+    const int radius = qMin(across, down);
+    const int length = qMin(qMax(radius / PerRadius, Smallest), radius / 2);
+    const QPointF centre = dial.rect.topLeft() + QPointF(across + 0.5, down + 0.5);
+    QVector<QLineF> notches;
+    for (int i = 0; i <= count; ++i) {
+        const bool isPage = interval * i % qMax(1, dial.pageStep) == 0;
+        const qreal angle = angleAt(dial, qreal(i) / count);
+        const QPointF outwards(qCos(angle), -qSin(angle));
+        const qreal end = isPage ? radius : radius - 1;
+        notches.append(
+            {centre + (end - (isPage ? length : length / 2)) * outwards, centre + end * outwards});
+    }
+    constexpr int Shade = 120;
+    context.painter.setPen(dial.palette.color(QPalette::WindowText).darker(Shade));
+    context.painter.drawLines(notches);
 }
 
 } // namespace
 
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
 {
-    // Deliberate: the base style gets an option made ready for it. It draws notches that dark or
-    // light grounds swallow, and a face with shades, which a flat one covers; a disabled one casts
-    // no shadow around it.
-    QStyleOptionSlider copy = dial;
-    copy.palette.setBrush(copy.palette.currentColorGroup(), QPalette::Dark,
-                          dial.palette.brush(QPalette::WindowText));
-    copy.state &= ~QStyle::State(QStyle::State_Enabled | QStyle::State_HasFocus);
-    if (!hasCountableNotches(dial))
-        copy.tickInterval = 0;
-    context.drawByBase(QStyle::CC_Dial, copy);
-    paintDialFace(context, dial);
+    const PainterSaver saver(context.painter);
+    context.painter.setRenderHint(QPainter::Antialiasing);
+    if (dial.subControls & QStyle::SC_DialTickmarks)
+        paintNotches(context, dial);
+    paintFace(context, dial);
     if (context.has(QStyle::State_HasFocus))
         context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(dial));
 }

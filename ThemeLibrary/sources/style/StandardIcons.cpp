@@ -123,22 +123,6 @@ QIcon highlightedIcon(const QStyleOption* option, const QWidget* widget)
     return Helpers::getModifiedIconWithForegroundBrush(icon, reference, mainBrush, false);
 }
 
-/// All that the toolkit's icons depend on.
-struct ToolkitIcon
-{
-    QStyle::StandardPixmap pixmap;
-    Qt::LayoutDirection direction;
-    QString iconTheme;
-
-    friend bool operator==(const ToolkitIcon& one, const ToolkitIcon& other)
-    {
-        return one.pixmap == other.pixmap && one.direction == other.direction
-               && one.iconTheme == other.iconTheme;
-    }
-
-    friend uint qHash(const ToolkitIcon& key, uint seed) { return ::qHash(int(key.pixmap), seed); }
-};
-
 /// Title bars ask for these whenever they are painted, and making one takes 370,000 instructions:
 /// more than all else in a title bar.
 bool isForTitleBars(QStyle::StandardPixmap pixmap)
@@ -175,12 +159,10 @@ QIcon BaseStyle::standardIcon(StandardPixmap pixmap, const QStyleOption* option,
     if (!isForTitleBars(pixmap))
         return QProxyStyle::standardIcon(pixmap, option, widget);
     constexpr int BytesOfIcon = 16384; // up to 64 pixels
-    static Kept::Store<ToolkitIcon, QIcon> sIcons;
-    const ToolkitIcon key{pixmap, option ? option->direction : QGuiApplication::layoutDirection(),
-                          QIcon::themeName()};
-    if (const QIcon* known = sIcons.find(key))
+    static Kept::Store<int, QIcon> sIcons;
+    if (const QIcon* known = sIcons.find(pixmap))
         return *known;
-    return *sIcons.keep(key,
+    return *sIcons.keep(pixmap,
                         std::make_unique<QIcon>(QProxyStyle::standardIcon(pixmap, option, widget)),
                         BytesOfIcon);
 }

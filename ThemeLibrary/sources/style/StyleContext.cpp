@@ -25,6 +25,14 @@ int fontHeight(const MeasureContext& context)
 
 } // namespace
 
+bool isCountable(const QRect& rect)
+{
+    constexpr int Farthest = 4 * QWIDGETSIZE_MAX;
+    const auto isNear = [](int place) { return place >= -Farthest && place <= Farthest; };
+    return isNear(rect.left()) && isNear(rect.top()) && isNear(rect.right())
+           && isNear(rect.bottom());
+}
+
 QFontMetrics MeasureContext::fontMetrics() const
 {
     if (option)

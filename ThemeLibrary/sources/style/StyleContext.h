@@ -9,6 +9,10 @@
 
 namespace BRELK {
 
+/// Nothing is farther from the origin than a few of the largest widgets. Of what is said to be, the
+/// places and sizes could not be counted in an int.
+bool isCountable(const QRect& rect);
+
 /// What a metric or a size may ask about. The option and the widget may be null.
 struct MeasureContext
 {
@@ -101,16 +105,19 @@ struct StyleContext
         return proxy().subControlRect(control, &complex, part, widget);
     }
 
-    /// What the base style would answer: finding it takes longer than most rules do.
+    /// What the base style would answer: finding it takes longer than most rules do. What it places
+    /// beyond all bounds, for ranges that it cannot count, is nowhere.
     QRect baseRect(QStyle::SubElement element) const
     {
-        return style.QProxyStyle::subElementRect(element, &option, widget);
+        const QRect rect = style.QProxyStyle::subElementRect(element, &option, widget);
+        return isCountable(rect) ? rect : QRect();
     }
 
     QRect baseRect(QStyle::ComplexControl control, const QStyleOptionComplex& complex,
                    QStyle::SubControl part) const
     {
-        return style.QProxyStyle::subControlRect(control, &complex, part, widget);
+        const QRect rect = style.QProxyStyle::subControlRect(control, &complex, part, widget);
+        return isCountable(rect) ? rect : QRect();
     }
 
     /// `rect` mirrored in a right-to-left layout.

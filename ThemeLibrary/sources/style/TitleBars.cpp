@@ -86,12 +86,13 @@ bool hasActiveGround(const QStyleOptionTitleBar& bar)
     return !Shapes::isLight(ground) && ground != bar.palette.color(QPalette::Window);
 }
 
-/// Deliberate: otherwise the bar has the accent as ground, or a shade of it that white is read on.
+/// Whether it takes the accent for its ground instead.
 bool isOnAccent(const QStyleOptionTitleBar& bar)
 {
     return bar.titleBarState & QStyle::State_Active && !hasActiveGround(bar);
 }
 
+/// Deliberate: the accent, or a shade of it that the white caption is read on.
 void paintActiveGround(const PaintContext& context, const QStyleOptionTitleBar& bar)
 {
     constexpr int Shade = 300;
