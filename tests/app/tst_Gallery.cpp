@@ -102,30 +102,28 @@ private Q_SLOTS:
         QVERIFY(pictures("--page ranges --rtl --scale 2").value(0).width() >= 2 * PageWidth);
     }
 
-    void reportsMistakes_data()
-    {
-        QTest::addColumn<int>("exitCode");
-        QTest::addColumn<QString>("message");
-        const auto row = [](const char* arguments, int exitCode, const char* message) {
-            QTest::newRow(arguments) << exitCode << QString::fromLatin1(message);
-        };
-        const char* const noRepository = "there is no theme repository";
-        row("--list-pages --page No", 0, "the pages are overview");
-        row("--list-pages --scale -1", 0, "The scale must be");
-        row("--list-pages --wrong", 1, "Unknown option");
-        row("--render " VARN_GALLERY "/below", 1, "Cannot write");
-        row("--render DIR --page overview --theme No", 0, "has Dark");
-        row("--render DIR --page overview --theme-repository " VARN_GALLERY, 0, noRepository);
-    }
-
     void reportsMistakes()
     {
-        QFETCH(const int, exitCode);
-        QFETCH(const QString, message);
-        run(QString::fromLatin1(QTest::currentDataTag()));
-        QCOMPARE(m_exitCode, exitCode);
-        QVERIFY2(m_messages.contains(message), qPrintable(m_messages));
-        QCOMPARE(m_output.isEmpty(), exitCode != 0);
+        const struct
+        {
+            const char* arguments;
+            int exitCode;
+            const char* message;
+        } mistakes[] = {
+            {"--list-pages --page No", 0, "the pages are overview"},
+            {"--list-pages --scale -1", 0, "The scale must be"},
+            {"--list-pages --wrong", 1, "Unknown option"},
+            {"--render " VARN_GALLERY "/below", 1, "Cannot write"},
+            {"--render DIR --page overview --theme No", 0, "has Dark"},
+            {"--render DIR --page overview --theme-repository " VARN_GALLERY, 0,
+             "there is no theme repository"},
+        };
+
+        for (const auto& [arguments, exitCode, message] : mistakes) {
+            run(QString::fromLatin1(arguments));
+            QVERIFY2(m_exitCode == exitCode && m_output.isEmpty() == (exitCode != 0), arguments);
+            QVERIFY2(m_messages.contains(QLatin1String(message)), qPrintable(m_messages));
+        }
     }
 };
 

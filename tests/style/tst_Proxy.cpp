@@ -23,11 +23,10 @@ public:
 
 protected:
     /// The spy notes a call just before it passes it on.
-    bool note(const QByteArray& element, const QStyleOption*, const QWidget*) const override
+    bool note(const QByteArray& element) const override
     {
-        const bool isPassedOn = spy->callsSoFar != m_passedOn && !spy->calls.isEmpty()
-                                && spy->calls.last().element == element;
-        m_passedOn = spy->callsSoFar;
+        const bool isPassedOn = spy->calls.size() != m_passedOn && spy->calls.last() == element;
+        m_passedOn = spy->calls.size();
         if (!isPassedOn)
             bypassed.append(element);
         return true;
@@ -56,7 +55,7 @@ private Q_SLOTS:
     {
         ProbeTheme::publish();
         m_style = new WatchedStyle;
-        m_style->setBaseStyle(new RecordingBase);
+        m_style->setBaseStyle(newSpyingBase());
         m_spy = new SpyStyle(m_style);
         m_style->spy = m_spy;
         QApplication::setStyle(m_spy);
@@ -71,7 +70,6 @@ private Q_SLOTS:
                 const Sample sample =
                     StyleOptions::sampleNamed(element.name, StyleOptions::settingsOf(settings));
                 sample.option->state |= *settings ? QStyle::State(~0) : QStyle::State();
-                m_spy->calls.clear();
                 m_style->bypassed.clear();
                 element.use(*m_spy, sample, &painter);
                 for (const QByteArray& piece : qAsConst(m_style->bypassed))

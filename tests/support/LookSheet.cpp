@@ -260,9 +260,16 @@ void LookSheet::add(const QByteArray& title, const QByteArray& atRest, const Sta
         }
     }
     QByteArray look = rest.isEmpty() ? QByteArrayLiteral("nothing\n") : toText(rest);
-    for (int i = 0; i < names.size(); ++i)
-        if (!departures.at(i).isEmpty())
-            look += '[' + names.at(i) + ']' + departures.at(i);
+    bool isLast = false; // the line of a state, and all of it
+    for (int i = 0; i < names.size(); ++i) {
+        const QByteArray& text = departures.at(i);
+        const bool isShort = text.count('\n') == 1;
+        if (isLast && isShort)
+            look.replace(look.size() - 1, 1, " ");
+        if (!text.isEmpty())
+            look += '[' + names.at(i) + ']' + text;
+        isLast = isShort || (isLast && text.isEmpty());
+    }
     const auto same = std::find_if(m_looks.begin(), m_looks.end(), [&](const Look& known) {
         return known.look == look && !known.written.isEmpty();
     });

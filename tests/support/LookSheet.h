@@ -10,7 +10,7 @@
 /// \code
 /// # CE_PushButton
 /// rounded 0.5,0.5 119x27 r4 pen ButtonUncheckedBorderBrush brush ButtonUncheckedBackgroundBrush
-/// [hovered, pressed] Unchecked>UncheckedHover
+/// [hovered, pressed] Unchecked>UncheckedHover [disabled] Brush>BrushDisabled
 /// [checked] Unchecked>Checked -1
 /// +2 path 4,14 8,19 12.5,10 pen ForegroundMouseOverBrush 1.8 smooth
 /// [right to left] mirrored

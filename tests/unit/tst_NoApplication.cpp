@@ -2,12 +2,9 @@
 #include "MessageRecorder.h"
 #include "TemporaryRepository.h"
 #include "ThemeColorHelper.h"
-#include "ThemeFactory.h"
 #include "ThemeResources.h"
 
 #include <QtTest>
-
-#include <memory>
 
 using namespace BRELK;
 
@@ -30,16 +27,13 @@ private Q_SLOTS:
         QCOMPARE(ThemeColorHelper::disabled(Qt::white, true), QColor(Qt::white));
     }
 
-    void themesAreListedAndRead()
+    void themesAreReadAndNotApplied()
     {
         const TemporaryRepository repository;
-        repository.addTheme(QStringLiteral("a"), "Title");
-        ThemeFactory& factory = ThemeFactory::getInstance();
-        factory.setThemesRepositoryPath(repository.path());
-        const std::unique_ptr<Theme> theme(factory.getTheme(QStringLiteral("a")));
-        QCOMPARE(theme->getName(), QStringLiteral("Title"));
+        BaseTheme theme(repository.addTheme(QStringLiteral("a"), "Title"));
+        QCOMPARE(theme.getName(), QStringLiteral("Title"));
         MessageRecorder messages;
-        theme->customize(nullptr);
+        theme.customize(nullptr);
         QCOMPARE(messages.take().size(), 1);
     }
 
