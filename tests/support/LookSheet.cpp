@@ -120,6 +120,8 @@ Rule nextRule(const Lines& from, const Lines& to, int line)
     const int word =
         int(std::mismatch(given.begin(), given.end(), wanted.begin()).first - given.begin());
     const Rule whole(given.at(word), wanted.at(word));
+    if (whole.first.contains('>')) // a rule itself
+        return {};
     const Rule part = isName(whole.first) ? shortest(whole.first, whole.second) : whole;
     const int before = differences(from, to);
     const int byPart = differences(replaced(from, part), to);
@@ -282,13 +284,16 @@ void LookSheet::add(const QByteArray& title, const QByteArray& atRest, const Sta
 
 QByteArray LookSheet::shortest(const QByteArray& look, int width) const
 {
+    constexpr int Few = 3; ///< lines, of which the first says most
     QByteArray text = look;
     for (const Look& known : m_looks) {
         if (known.written != known.look && !known.written.isEmpty())
             continue;
         const QByteArray other = "as " + known.titles.first() + ':'
                                  + departure(linesOf(known.look), linesOf(look), width);
-        if (2 * other.size() < text.size() && 2 * other.count('\n') <= text.count('\n'))
+        const int lines = other.count('\n');
+        if (3 * other.size() < 2 * text.size() && lines < text.count('\n')
+            && lines <= qMax(Few, look.count('\n') / 2))
             text = other;
     }
     return text;
