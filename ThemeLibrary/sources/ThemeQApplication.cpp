@@ -105,10 +105,8 @@ Theme* ThemeQApplication::getCurrentTheme() const
 void ThemeQApplication::parseArguments(const QStringList& args, QString& theme,
                                        QString& repository) const
 {
-    static const QString themeArg = QStringLiteral("--theme");
-    static const QString themeRepositoryArgument = QStringLiteral("--theme-repository");
-    readOption(args, themeArg, theme);
-    readOption(args, themeRepositoryArgument, repository);
+    readOption(args, QStringLiteral("--theme"), theme);
+    readOption(args, QStringLiteral("--theme-repository"), repository);
 }
 
 } // namespace BRELK

@@ -5,7 +5,6 @@
 #include <QScrollBar>
 #include <QWidget>
 
-class QHBoxLayout;
 class QVBoxLayout;
 
 /// Small stand-ins for the widgets of a companion library. The style knows such widgets only by

@@ -6,7 +6,6 @@
 #include <QPalette>
 
 class QLabel;
-class QWidget;
 
 /// The theme values that the gallery decorates itself with. Without a theme the palette and the
 /// application's font stand in, so the gallery also shows an application that is not themed.

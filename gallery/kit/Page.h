@@ -5,9 +5,7 @@
 
 #include <initializer_list>
 
-class QBoxLayout;
 class QLabel;
-class QLayout;
 class QVBoxLayout;
 
 namespace Gallery {

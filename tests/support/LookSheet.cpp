@@ -208,6 +208,8 @@ Lines turned(Lines lines, int width)
 /// What `from` needs to become `to`.
 QByteArray departure(const Lines& from, const Lines& to, int width)
 {
+    if (from == to)
+        return "\n";
     if (mirrored(from, width) == to)
         return " mirrored\n";
     if (turned(from, width) == to)

@@ -18,13 +18,13 @@ constexpr int SwitchWidthInHeights = 2;
 constexpr int VerticalPadding = 1;
 constexpr int FocusMargin = 3; ///< what the focus mark needs after the label
 
-QSize labelledSize(const MeasureContext& context, const QSize& contents, const QSize& indicator,
-                   int spacing)
+QSize labelledSize(const MeasureContext& context, const QSize& contents, QStyle::PixelMetric width,
+                   QStyle::PixelMetric height, QStyle::PixelMetric spacing)
 {
-    const int label = contents.width() > 0 ? spacing + contents.width() + FocusMargin : 0;
-    const int width = indicator.width() + label;
-    const int height = qMax(contents.height(), indicator.height());
-    return {width, qMax(height, context.rowHeight(VerticalPadding))};
+    const int label =
+        contents.width() > 0 ? context.metric(spacing) + contents.width() + FocusMargin : 0;
+    const int line = qMax(contents.height(), context.metric(height));
+    return {context.metric(width) + label, qMax(line, context.rowHeight(VerticalPadding))};
 }
 
 } // namespace
@@ -45,19 +45,15 @@ int labelSpacing(const MeasureContext& context)
 
 QSize checkBoxSize(const MeasureContext& context, const QStyleOptionButton&, const QSize& contents)
 {
-    const QSize indicator(context.metric(QStyle::PM_IndicatorWidth),
-                          context.metric(QStyle::PM_IndicatorHeight));
-    return labelledSize(context, contents, indicator,
-                        context.metric(QStyle::PM_CheckBoxLabelSpacing));
+    return labelledSize(context, contents, QStyle::PM_IndicatorWidth, QStyle::PM_IndicatorHeight,
+                        QStyle::PM_CheckBoxLabelSpacing);
 }
 
 QSize radioButtonSize(const MeasureContext& context, const QStyleOptionButton&,
                       const QSize& contents)
 {
-    const QSize indicator(context.metric(QStyle::PM_ExclusiveIndicatorWidth),
-                          context.metric(QStyle::PM_ExclusiveIndicatorHeight));
-    return labelledSize(context, contents, indicator,
-                        context.metric(QStyle::PM_RadioButtonLabelSpacing));
+    return labelledSize(context, contents, QStyle::PM_ExclusiveIndicatorWidth,
+                        QStyle::PM_ExclusiveIndicatorHeight, QStyle::PM_RadioButtonLabelSpacing);
 }
 
 QRect indicatorRect(const StyleContext& context, const QStyleOptionButton& button,

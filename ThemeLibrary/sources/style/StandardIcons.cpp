@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLabel>
+#include <QPainter>
 #include <QStyleOption>
 
 // The icons that Qt asks the style for, and how a pixmap looks when disabled.
@@ -84,13 +85,10 @@ QString iconName(QStyle::StandardPixmap pixmap)
 
 QPixmap tinted(QImage image, const QColor& color)
 {
-    for (int y = 0; y < image.height(); ++y) {
-        auto* line = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            if (qAlpha(line[x]) != 0)
-                line[x] = qRgba(color.red(), color.green(), color.blue(), qAlpha(line[x]));
-        }
-    }
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), color);
+    painter.end();
     return QPixmap::fromImage(image);
 }
 

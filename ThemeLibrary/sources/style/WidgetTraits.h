@@ -1,6 +1,5 @@
 #pragma once
 
-class QLineEdit;
 class QObject;
 class QWidget;
 
