@@ -9,6 +9,7 @@
 #include <QtMath>
 
 #include <algorithm>
+#include <limits>
 
 // Sliders and dials.
 //
@@ -311,23 +312,19 @@ void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
 
 namespace {
 
-/// The angle after a part of a dial's way, from the right against the clock.
-qreal angleAt(const QStyleOptionSlider& dial, qreal done)
+/// The angle of the hand, from the right against the clock.
+qreal handAngle(const QStyleOptionSlider& dial)
 {
     constexpr qreal Turn = 2 * M_PI;
     constexpr qreal Start = Turn * 2 / 3; // of a dial that does not go all around
     constexpr qreal Way = Turn * 5 / 6;
-    return dial.dialWrapping ? Turn * 3 / 4 - done * Turn : Start - done * Way;
-}
-
-qreal handAngle(const QStyleOptionSlider& dial)
-{
     const qreal range = qreal(dial.maximum) - dial.minimum;
     if (range <= 0)
-        return M_PI / 2;
+        return Turn / 4;
     const qreal position =
         dial.upsideDown ? dial.sliderPosition : qreal(dial.maximum) - dial.sliderPosition;
-    return angleAt(dial, (position - dial.minimum) / range);
+    const qreal done = (position - dial.minimum) / range;
+    return dial.dialWrapping ? Turn * 3 / 4 - done * Turn : Start - done * Way;
 }
 
 /// Qt tells no option of a dial that it is being turned.
@@ -339,12 +336,13 @@ BaseStyle::ButtonBrushes dialBrushes(const PaintContext& context, const QStyleOp
     return BaseStyle::buttonBrushes(&copy, context.widget);
 }
 
-constexpr qreal FaceInRect = 0.8; // notches stand around it
-
-void paintFace(const PaintContext& context, const QStyleOptionSlider& dial)
+void paintDialFace(const PaintContext& context, const QStyleOptionSlider& dial)
 {
+    constexpr qreal FaceInRect = 0.8; // notches stand around it
     constexpr qreal HandInFace = 0.65;
     constexpr qreal DotInFace = 0.15;
+    const PainterSaver saver(context.painter);
+    context.painter.setRenderHint(QPainter::Antialiasing);
     const QPointF centre = QRectF(dial.rect).center();
     const qreal radius = FaceInRect * qMin(dial.rect.width(), dial.rect.height()) / 2;
     const bool focused = context.has(QStyle::State_HasFocus);
@@ -365,45 +363,29 @@ void paintFace(const PaintContext& context, const QStyleOptionSlider& dial)
                                 DotInFace * radius, DotInFace * radius);
 }
 
-/// As many of the notches as the toolkit draws; those of pages are longer.
-void paintNotches(const PaintContext& context, const QStyleOptionSlider& dial)
+/// The base style counts notches in an int, and crashes where that is too small or they are
+/// negative.
+bool hasCountableNotches(const QStyleOptionSlider& dial)
 {
-    constexpr qint64 MostSteps = 1000;
-    constexpr int Smallest = 4;
-    constexpr int PerRadius = 6;
-    const qint64 range = qint64(dial.maximum) - dial.minimum;
-    const qint64 interval = dial.tickInterval;
-    if (interval <= 0 || range <= 0)
-        return;
-    const int count = int((qMin(range, MostSteps) + interval - 1) / interval);
-    const int across = dial.rect.width() / 2;
-    const int down = dial.rect.height() / 2;
-    const int radius = qMin(across, down);
-    const int length = qMin(qMax(radius / PerRadius, Smallest), radius / 2);
-    const QPointF centre = dial.rect.topLeft() + QPointF(across + 0.5, down + 0.5);
-    QVector<QLineF> notches;
-    for (int i = 0; i <= count; ++i) {
-        const bool isPage = interval * i % qMax(1, dial.pageStep) == 0;
-        const qreal angle = angleAt(dial, qreal(i) / count);
-        const QPointF outwards(qCos(angle), -qSin(angle));
-        const qreal end = isPage ? radius : radius - 1;
-        notches.append(
-            {centre + (end - (isPage ? length : length / 2)) * outwards, centre + end * outwards});
-    }
-    constexpr int Shade = 120;
-    context.painter.setPen(dial.palette.color(QPalette::WindowText).darker(Shade));
-    context.painter.drawLines(notches);
+    const qint64 end = qint64(dial.maximum) - dial.minimum + dial.tickInterval;
+    return dial.tickInterval >= 0 && end <= std::numeric_limits<int>::max();
 }
 
 } // namespace
 
 void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
 {
-    const PainterSaver saver(context.painter);
-    context.painter.setRenderHint(QPainter::Antialiasing);
-    if (dial.subControls & QStyle::SC_DialTickmarks)
-        paintNotches(context, dial);
-    paintFace(context, dial);
+    // Deliberate: the base style gets an option made ready for it. It draws notches that dark or
+    // light grounds swallow, and a face with shades, which a flat one covers; a disabled one casts
+    // no shadow around it.
+    QStyleOptionSlider copy = dial;
+    copy.palette.setBrush(copy.palette.currentColorGroup(), QPalette::Dark,
+                          dial.palette.brush(QPalette::WindowText));
+    copy.state &= ~QStyle::State(QStyle::State_Enabled | QStyle::State_HasFocus);
+    if (!hasCountableNotches(dial))
+        copy.tickInterval = 0;
+    context.drawByBase(QStyle::CC_Dial, copy);
+    paintDialFace(context, dial);
     if (context.has(QStyle::State_HasFocus))
         context.draw(QStyle::PE_FrameFocusRect, optionFrom<QStyleOptionFocusRect>(dial));
 }
