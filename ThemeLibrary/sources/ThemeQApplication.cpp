@@ -28,7 +28,10 @@ QString knownThemes(const ThemeFactory& factory)
         return QStringLiteral("no theme repository was given");
     if (!QFileInfo(repository).isDir())
         return QLatin1String("there is no theme repository \"") + repository + QLatin1Char('"');
-    const QStringList themes = factory.getAvailableThemes();
+    constexpr int Most = 50; // a line, also of a directory that holds anything else
+    QStringList themes = factory.getAvailableThemes();
+    if (themes.size() > Most)
+        themes = themes.mid(0, Most) + QStringList(QStringLiteral("..."));
     return QLatin1String("the repository \"") + repository + QLatin1String("\" has ")
            + (themes.isEmpty() ? QStringLiteral("no themes") : themes.join(QLatin1String(", ")));
 }

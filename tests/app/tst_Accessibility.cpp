@@ -18,6 +18,8 @@ void describe(const QAccessibleInterface& thing, const QString& indent, QStringL
 {
     QAccessible::State state = thing.state();
     const bool hasPlace = state.invisible || thing.rect().isValid() || thing.childCount() == 0;
+    const QAccessibleInterface* around = thing.object() ? thing.parent() : nullptr; // no item
+    const bool isInside = !around || around->rect().contains(thing.rect());
     state.offscreen = false; // looks differ in how many items fit
     if (!thing.object())
         state.invisible = false;
@@ -25,7 +27,8 @@ void describe(const QAccessibleInterface& thing, const QString& indent, QStringL
     memcpy(&states, &state, sizeof states);
     lines.append(indent + QString::number(thing.role(), 16) + QLatin1Char(' ')
                  + QString::number(states, 16) + QLatin1Char(' ') + thing.text(QAccessible::Name)
-                 + QLatin1String(hasPlace ? "" : " without place"));
+                 + QLatin1String(hasPlace ? "" : " without place")
+                 + QLatin1String(isInside ? "" : " outside"));
     if (qobject_cast<const QFileDialog*>(thing.object()))
         return; // what can be opened is known some time later
     for (int i = 0; i < thing.childCount(); ++i) {

@@ -10,6 +10,7 @@ private:
     static constexpr int PageWidth = 1120;
 
     const QTemporaryDir m_directory;
+    QString m_program = QStringLiteral(VARN_GALLERY);
     int m_exitCode = -1;
     QStringList m_output;
     QString m_messages;
@@ -20,7 +21,7 @@ private:
         QStringList words = arguments.split(QLatin1Char(' '));
         words.replaceInStrings(QStringLiteral("DIR"), m_directory.path());
         QProcess process;
-        process.start(QStringLiteral(VARN_GALLERY), words);
+        process.start(m_program, words);
         QVERIFY(process.waitForFinished(100000));
         QCOMPARE(process.exitStatus(), QProcess::NormalExit);
         m_exitCode = process.exitCode();
@@ -124,6 +125,29 @@ private Q_SLOTS:
             QVERIFY2(m_exitCode == exitCode && m_output.isEmpty() == (exitCode != 0), arguments);
             QVERIFY2(m_messages.contains(QLatin1String(message)), qPrintable(m_messages));
         }
+    }
+
+    /// Last, as the surroundings stay.
+    void rendersWithoutDrawingsFontsAndHome()
+    {
+        const QDir directory(m_directory.path());
+        const QString plugins = QLibraryInfo::location(QLibraryInfo::PluginsPath);
+        QFile::link(plugins + QLatin1String("/platforms"),
+                    directory.filePath(QStringLiteral("platforms")));
+        QFile configuration(directory.filePath(QStringLiteral("qt.conf")));
+        QVERIFY(configuration.open(QIODevice::WriteOnly)
+                && configuration.write("[Paths]\nPlugins=.\n") > 0);
+        configuration.close();
+        const QFileInfo gallery(QStringLiteral(VARN_GALLERY));
+        qputenv("LD_LIBRARY_PATH", QFile::encodeName(gallery.path() + QLatin1String("/../lib")));
+        for (const char* name : {"HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "FONTCONFIG_FILE"})
+            qputenv(name, "/dev/null");
+        m_program = directory.filePath(gallery.fileName());
+        QVERIFY(QFile::copy(gallery.filePath(), m_program));
+        run(QStringLiteral("--render DIR --page overview"));
+        QCOMPARE(m_exitCode, 0);
+        QVERIFY2(m_messages.contains(QLatin1String("need Qt's SVG plugins")),
+                 qPrintable(m_messages));
     }
 };
 

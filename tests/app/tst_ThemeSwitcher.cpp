@@ -210,6 +210,8 @@ private Q_SLOTS:
         in >> read;
         QVERIFY(colorOf(read) == QColor(Qt::red) || colorOf(read) == QColor(Qt::cyan));
         QVERIFY(colorOf(own) != QColor(Qt::blue));
+        QVERIFY(QDir(repository.path()).removeRecursively());
+        QVERIFY(ThemeSwitcher::getInstance().switchTo(*red));
         switchTo("Dark");
         QVERIFY(colorOf(icon) != QColor(Qt::blue) && !icon.isNull());
     }

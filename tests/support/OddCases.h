@@ -8,24 +8,19 @@
 #include <QStyleOption>
 
 #include <functional>
+#include <type_traits>
+
+template <class Enum, class... Others>
+inline constexpr bool IsOneOf = (std::is_same_v<Enum, Others> || ...);
 
 /// How many values an enum of an option has, or a few more that need no more bits.
 template <class Enum>
-inline constexpr int CountOf = 4;
-template <>
-inline constexpr int CountOf<Qt::ArrowType> = 5;
-template <>
-inline constexpr int CountOf<Qt::ToolButtonStyle> = 5;
-template <>
-inline constexpr int CountOf<QStyleOptionViewItem::ViewItemPosition> = 5;
-template <>
-inline constexpr int CountOf<QFrame::Shape> = 7;
-template <>
-inline constexpr int CountOf<QTabBar::Shape> = 8;
-template <>
-inline constexpr int CountOf<QStyleOptionMenuItem::MenuItemType> = 8;
-template <>
-inline constexpr int CountOf<Qt::ToolBarArea> = 9;
+inline constexpr int CountOf =
+    IsOneOf<Enum, Qt::ToolBarArea>                                                              ? 9
+    : IsOneOf<Enum, QFrame::Shape>                                                              ? 7
+    : IsOneOf<Enum, QTabBar::Shape, QStyleOptionMenuItem::MenuItemType>                         ? 8
+    : IsOneOf<Enum, Qt::ArrowType, Qt::ToolButtonStyle, QStyleOptionViewItem::ViewItemPosition> ? 5
+                                                                                                : 4;
 
 /// Calls of a style as no widget of the toolkit makes them, drawn by lot: the same ones from the
 /// same seed.

@@ -232,6 +232,7 @@ private Q_SLOTS:
         repository.write(QStringLiteral("README.txt"), "a file");
         repository.write(QStringLiteral(".hidden/theme.xml"), "<theme/>");
         QDir().mkdir(repository.path(QStringLiteral("Empty")));
+        QFile::link(repository.path(), repository.path(QStringLiteral("Empty/circle")));
 
         ThemeFactory& factory = ThemeFactory::getInstance();
         factory.setThemesRepositoryPath(repository.path() + QLatin1String("/./"));
