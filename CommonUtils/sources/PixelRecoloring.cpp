@@ -242,9 +242,13 @@ QRgb mixed(QRgb replacement, const Blend& blend, int alpha)
 QImage painted(const QBrush& brush, const QSize& size)
 {
     QImage fill(size, QImage::Format_ARGB32_Premultiplied);
+    if (brush.style() == Qt::SolidPattern) {
+        fill.fill(brush.color().rgba64().premultiplied().toArgb32());
+        return fill;
+    }
     fill.fill(Qt::transparent);
     QPainter(&fill).fillRect(fill.rect(), brush);
-    return fill;
+    return fill.copy(); // which keeps no engine that painted on it
 }
 
 } // namespace

@@ -163,7 +163,9 @@ uint qHash(const TileKey& key, uint seed)
 }
 
 ShapeTile::ShapeTile(const TileKey& key, const TileAxis& horizontal, const TileAxis& vertical)
-    : m_image(rendered(key, {horizontal.size, vertical.size}))
+    // A copy, as an image keeps the engine that painted on it, which takes more room than the
+    // pixels.
+    : m_image(rendered(key, {horizontal.size, vertical.size}).copy())
 {
     if (vertical.stretch > 0)
         m_columns = stripes(0, horizontal.size,
