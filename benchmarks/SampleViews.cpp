@@ -14,7 +14,7 @@ namespace StyleBenchmark {
 namespace {
 
 constexpr QSize ViewSize(700, 500);
-constexpr int TableRows = 100'000;
+constexpr int ListRows = 100'000;
 constexpr int TableColumns = 10;
 constexpr int TreeBranches = 500;
 constexpr int TreeLeaves = 99;
@@ -22,12 +22,9 @@ constexpr int TreeLeaves = 99;
 class LargeModel : public QAbstractTableModel
 {
 public:
-    explicit LargeModel(int columns) : m_columns(columns) { }
+    LargeModel(int rows, int columns) : m_rows(rows), m_columns(columns) { }
 
-    int rowCount(const QModelIndex& parent) const override
-    {
-        return parent.isValid() ? 0 : TableRows;
-    }
+    int rowCount(const QModelIndex& parent) const override { return parent.isValid() ? 0 : m_rows; }
 
     int columnCount(const QModelIndex& parent) const override
     {
@@ -43,6 +40,7 @@ public:
     }
 
 private:
+    int m_rows;
     int m_columns;
     QVariant m_icon = picture();
 };
@@ -67,9 +65,9 @@ void expose(QWidget& window)
         QCoreApplication::processEvents();
 }
 
-Shown<QTableView> table()
+Shown<QTableView> table(int rows)
 {
-    auto shown = show<QTableView>(std::make_shared<LargeModel>(TableColumns));
+    auto shown = show<QTableView>(std::make_shared<LargeModel>(rows, TableColumns));
     expose(*shown.view);
     return shown;
 }
@@ -93,7 +91,7 @@ Shown<QTreeView> tree()
 
 Shown<QListView> iconList()
 {
-    auto shown = show<QListView>(std::make_shared<LargeModel>(1));
+    auto shown = show<QListView>(std::make_shared<LargeModel>(ListRows, 1));
     shown.view->setUniformItemSizes(true);
     expose(*shown.view);
     return shown;

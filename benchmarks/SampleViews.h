@@ -21,9 +21,9 @@ struct Shown
 /// Shows `window` and waits until it is painted.
 void expose(QWidget& window);
 
-/// Views that are shown: 100,000 rows of 10 columns, 50,000 rows in 500 branches, and 100,000 rows
+/// Views that are shown: so many rows of 10 columns, 50,000 rows in 500 branches, and 100,000 rows
 /// with an icon each. No two texts are the same.
-Shown<QTableView> table();
+Shown<QTableView> table(int rows);
 Shown<QTreeView> tree();
 Shown<QListView> iconList();
 

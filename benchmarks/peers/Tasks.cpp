@@ -26,6 +26,14 @@ Row count(const char* title, const char* task, const char* figure)
     return {QLatin1String(title), QLatin1String(task), QLatin1String(figure), 1, {}};
 }
 
+Row perWidget(const char* title, const char* figure, int count)
+{
+    const QString number = QString::number(count);
+    return {QLatin1String(title) % QStringLiteral(", each of ") % number,
+            QStringLiteral("crowd ") % number, QLatin1String(figure), Microseconds * count,
+            QStringLiteral("us")};
+}
+
 } // namespace
 
 double processorTime()
@@ -71,9 +79,19 @@ QVector<Task> allTasks()
     return tasks;
 }
 
+QVector<int> crowds()
+{
+    return {1'000, 5'000, 20'000};
+}
+
+bool isDressed(int crowd)
+{
+    return crowd <= 5'000;
+}
+
 QVector<Row> allRows()
 {
-    return {
+    QVector<Row> rows{
         milliseconds("start to the first full paint", "start", processTime()),
         {QStringLiteral("peak memory, all gallery pages"), QStringLiteral("gallery"), peakMemory(),
          Mebibytes, QStringLiteral("MiB")},
@@ -81,8 +99,10 @@ QVector<Row> allRows()
         milliseconds("full paint of the gallery, scale 2", "gallery", QStringLiteral("scale2")),
         microseconds("create, show, destroy, per widget", "widgets", "each"),
         microseconds("hints, rectangles, metrics, per widget", "hints", "each"),
-        microseconds("table of 100,000 x 10, by line", "table", "line"),
-        microseconds("table, by page", "table", "page"),
+        microseconds("table of 100,000 x 10, by line", "table 100000", "line"),
+        microseconds("table, by page", "table 100000", "page"),
+        microseconds("table of 1,000 rows, by line", "table 1000", "line"),
+        microseconds("table of 1,000,000 rows, by line", "table 1000000", "line"),
         microseconds("tree of 50,000 rows, by line", "tree", "line"),
         microseconds("tree, by page", "tree", "page"),
         microseconds("icon list of 100,000, by line", "icons", "line"),
@@ -98,6 +118,14 @@ QVector<Row> allRows()
         milliseconds("another one put on, 5,000 widgets", "worn", QStringLiteral("again 5000")),
         count("paint events in 2 s of idling", "idle", "paints"),
     };
+    for (const int count : crowds()) {
+        rows += perWidget("made and shown", "made", count);
+        rows += perWidget("painted", "painted", count);
+        if (isDressed(count))
+            rows += perWidget("given another look", "worn", count);
+        rows += perWidget("destroyed", "destroyed", count);
+    }
+    return rows;
 }
 
 } // namespace Peers

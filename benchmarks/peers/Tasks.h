@@ -50,6 +50,13 @@ struct Row
 QString processTime();
 QString peakMemory();
 
+/// How many widgets there are in windows that tell whether each takes longer among many.
+QVector<int> crowds();
+
+/// Whether another look is put on so many widgets: with the largest crowd that takes a minute in
+/// every look, as the toolkit compares each widget with all of its siblings.
+bool isDressed(int crowd);
+
 void addWindowTasks(QVector<Task>& tasks);
 void addGalleryTasks(QVector<Task>& tasks);
 void addViewTasks(QVector<Task>& tasks);

@@ -24,15 +24,15 @@ double timeOfScrolling(QAbstractItemView& view, int steps, int step)
     return time / steps;
 }
 
-template <class View>
-Task task(const char* name, StyleBenchmark::Shown<View> (*make)())
+template <class Make>
+Task task(const QString& name, Make make)
 {
-    return {QLatin1String(name), [make](const Order& order) {
+    return {name, [make](const Order& order) {
                 constexpr int Lines = 200;
                 constexpr int Pages = 50;
                 const auto application = createApplication(order.look, Dress::Plain, order.sheet);
                 const auto shown = make();
-                View& view = *shown.view;
+                auto& view = *shown.view;
                 const QScrollBar& bar = *view.verticalScrollBar();
                 return Figures{
                     {QStringLiteral("line"), timeOfScrolling(view, Lines, bar.singleStep())},
@@ -44,8 +44,11 @@ Task task(const char* name, StyleBenchmark::Shown<View> (*make)())
 
 void addViewTasks(QVector<Task>& tasks)
 {
-    tasks += {task("table", StyleBenchmark::table), task("tree", StyleBenchmark::tree),
-              task("icons", StyleBenchmark::iconList)};
+    for (const int rows : {1'000, 100'000, 1'000'000})
+        tasks += task(QStringLiteral("table ") + QString::number(rows),
+                      [rows] { return StyleBenchmark::table(rows); });
+    tasks += {task(QStringLiteral("tree"), StyleBenchmark::tree),
+              task(QStringLiteral("icons"), StyleBenchmark::iconList)};
 }
 
 } // namespace Peers

@@ -47,6 +47,31 @@ Figures widgets(const Order& order)
     return {{QStringLiteral("each"), time / Count}};
 }
 
+/// What a window full of widgets takes that all have the same parent.
+Figures crowd(const Order& order, int count)
+{
+    const auto application = createApplication(order.look, Dress::Plain, order.sheet);
+    exposedWindow(); // what is made once is made
+    auto window = std::make_unique<QWidget>();
+    Figures figures;
+    figures[QStringLiteral("made")] = timeOf([&] {
+        addSampleWidgets(*window, count);
+        window->show();
+        settle();
+    });
+    figures[QStringLiteral("painted")] = timeOf([&] { window->repaint(); });
+    if (isDressed(count))
+        figures[QStringLiteral("worn")] = timeOf([&] {
+            wear(*application, order.look, true, order.sheet);
+            settle();
+        });
+    figures[QStringLiteral("destroyed")] = timeOf([&] {
+        window.reset();
+        settle();
+    });
+    return figures;
+}
+
 /// Moves along a diagonal of the window, there and back.
 QPoint placeOf(int step, int steps, const QSize& size)
 {
@@ -169,6 +194,9 @@ void addWindowTasks(QVector<Task>& tasks)
               {QStringLiteral("mouse"), mouse},       {QStringLiteral("typing"), typing},
               {QStringLiteral("resizing"), resizing}, {QStringLiteral("popups"), popups},
               {QStringLiteral("idle"), idle}};
+    for (const int count : crowds())
+        tasks += {QStringLiteral("crowd ") + QString::number(count),
+                  [count](const Order& order) { return crowd(order, count); }};
 }
 
 } // namespace Peers
