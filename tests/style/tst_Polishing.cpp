@@ -53,7 +53,8 @@ QByteArrayList describe(const QWidget& widget)
 /// back of it.
 QByteArray polished(QWidget&& widget, const QVariantMap& properties = {})
 {
-    QByteArray text = QByteArray("# ") + widget.metaObject()->className();
+    QByteArray text = widget.metaObject()->className();
+    QByteArrayList changes;
     for (auto entry = properties.cbegin(); entry != properties.cend(); ++entry) {
         widget.setProperty(entry.key().toLatin1(), entry.value());
         text += ' ' + entry.key().toLatin1();
@@ -67,8 +68,8 @@ QByteArray polished(QWidget&& widget, const QVariantMap& properties = {})
     const QByteArrayList taken = describe(widget);
     for (const QByteArray& line : after)
         if (!before.contains(line))
-            text += '\n' + line + (taken.contains(line) ? "" : " (until unpolished)");
-    return text + '\n';
+            changes += line + (taken.contains(line) ? "" : " (until unpolished)");
+    return text + ": " + changes.join("; ") + '\n';
 }
 
 QByteArray polished(QWidget&& widget, const char* property)

@@ -306,6 +306,7 @@ QByteArray LookSheet::text() const
     QByteArray text;
     for (const Look& look : m_looks)
         if (!look.written.isEmpty())
-            text += "# " + look.titles.join("\n# ") + '\n' + look.written;
+            text += "# " + look.titles.join(" | ") + (look.written.count('\n') == 1 ? ": " : "\n")
+                    + look.written;
     return text;
 }

@@ -14,14 +14,13 @@
 /// [checked] Unchecked>Checked -1
 /// +2 path 4,14 8,19 12.5,10 pen ForegroundMouseOverBrush 1.8 smooth
 /// [right to left] mirrored
-/// # CE_PushButton highlighted
-/// as CE_PushButton: Button>ButtonHighlighted
+/// # CE_PushButton highlighted: as CE_PushButton: Button>ButtonHighlighted
 /// \endcode
 ///
 /// In checked ones "Checked" stands for "Unchecked" (in names; of other words all must be the
 /// same), the first line is not there, and what follows "+2" is the second line of those that are.
-/// A state that looks as at rest is left out, and looks that are alike are written once, below all
-/// of their titles. What departs little from a look that is written out, in this sheet or in
+/// A state that looks as at rest is left out, and looks that are alike are written once, behind
+/// all of their titles. What departs little from a look that is written out, in this sheet or in
 /// another, is told in the same way: of its lines as they are written.
 class LookSheet
 {
