@@ -4,6 +4,8 @@
 #include "SpyStyle.h"
 #include "StateSheet.h"
 
+#include <QPicture>
+
 // What holds for every element that the toolkit has, whoever paints or measures it. The program is
 // built twice: with a theme that has every name, and with one that has none.
 
@@ -99,6 +101,25 @@ private Q_SLOTS:
             QVERIFY2(painted(*m_style, element, departure, false)
                          == painted(*m_style, element, departure, true),
                      departure.name);
+    }
+
+    /// On a recording, where all of it could be seen.
+    void nothingIsPaintedPieceByPiece()
+    {
+        constexpr uint MostBytes = 1 << 23;
+        for (const Element& element : StyleOptions::elements())
+            for (const QSize& size : {QSize(1 << 24, 20), QSize(20, 1 << 24)})
+                for (const bool horizontal : {true, false}) {
+                    const Sample sample = sampleNamed(element.name);
+                    sample.option->rect = QRect(QPoint(), size);
+                    sample.option->state.setFlag(QStyle::State_Horizontal, horizontal);
+                    QPicture picture;
+                    QPainter painter(&picture);
+                    if (!isLeftToBase(element))
+                        element.use(*m_style, sample, &painter);
+                    painter.end();
+                    QVERIFY2(picture.size() < MostBytes, element.name);
+                }
     }
 
     void metricsAndHintsNeedNeitherOptionNorWidget()

@@ -175,7 +175,7 @@ void drawGrips(const PaintContext& context, Qt::Orientation orientation, int fro
                int across, const QColor& ground)
 {
     constexpr int Step = 4;
-    constexpr int Longest = 1 << 15; // where a recording or a tiny scale lets all of it be seen
+    constexpr int Longest = 1 << 13; // where a recording or a tiny scale lets all of it be seen
     const bool upright = orientation == Qt::Vertical;
     const QRect seen = visiblePart(
         context.painter, upright ? QRect(QPoint(across, from), QPoint(across + GripSize, to))
