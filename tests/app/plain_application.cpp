@@ -46,22 +46,23 @@ void printGroup(const char* name, const QPalette& palette, QPalette::ColorGroup 
 
 void printLooks(const char* moment)
 {
-    const QStyle& style = *QApplication::style();
-    print(moment, style.objectName());
-    print("window", kindOf(QApplication::palette().color(QPalette::Window)));
-    printGroup("inactive", QApplication::palette(), QPalette::Inactive);
-    printGroup("disabled", QApplication::palette(), QPalette::Disabled);
-    print("tool tip", kindOf(QToolTip::palette().color(QPalette::ToolTipBase)));
-    print("font", QString::number(QApplication::font().pointSizeF()));
-    print("icon theme", QIcon::themeName() % QLatin1String(" or ") % QIcon::fallbackThemeName());
-    print("sheet", qApp->styleSheet());
     const QSettings scheme(qApp->property("KDE_COLOR_SCHEME_PATH").toString(),
                            QSettings::IniFormat);
     const QStringList ground =
         scheme.value(QStringLiteral("Colors:View/BackgroundNormal")).toStringList();
-    print("scheme", ground.size() < 3
-                        ? QStringLiteral("none")
-                        : kindOf({ground[0].toInt(), ground[1].toInt(), ground[2].toInt()}));
+    const QString kindOfScheme =
+        ground.size() < 3 ? QStringLiteral("none")
+                          : kindOf({ground[0].toInt(), ground[1].toInt(), ground[2].toInt()});
+    print(moment, QApplication::style()->objectName());
+    print("window",
+          kindOf(QApplication::palette().color(QPalette::Window)) % QLatin1String(" tool tip ")
+              % kindOf(QToolTip::palette().color(QPalette::ToolTipBase)) % QLatin1String(" scheme ")
+              % kindOfScheme % QLatin1String(" font ")
+              % QString::number(QApplication::font().pointSizeF()) % QLatin1String(" icons ")
+              % QIcon::themeName() % QLatin1String(" or ") % QIcon::fallbackThemeName());
+    printGroup("inactive", QApplication::palette(), QPalette::Inactive);
+    printGroup("disabled", QApplication::palette(), QPalette::Disabled);
+    print("sheet", qApp->styleSheet());
 }
 
 /// The palette that the program sets while it runs: white grounds of views, or of everything, as

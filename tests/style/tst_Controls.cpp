@@ -35,19 +35,6 @@ private Q_SLOTS:
 
     void initTestCase() { applyProbeTheme(); }
 
-    void labelsFitIntoTheirSizeHint()
-    {
-        const auto room = [](const QAbstractButton& button, QStyle::SubElement contents) {
-            QStyleOptionButton option;
-            option.initFrom(&button);
-            option.rect.setSize(button.sizeHint());
-            return button.style()->subElementRect(contents, &option, &button).width()
-                   - option.fontMetrics.horizontalAdvance(button.text());
-        };
-        QVERIFY(room(QCheckBox(QStringLiteral("Text")), QStyle::SE_CheckBoxContents) > 0);
-        QVERIFY(room(QRadioButton(QStringLiteral("Text")), QStyle::SE_RadioButtonContents) > 0);
-    }
-
     void popupIsAsWideAsItsLongestItem()
     {
         const QString text = QStringLiteral("An item that is very much longer than the box");
