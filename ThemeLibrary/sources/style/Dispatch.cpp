@@ -38,7 +38,6 @@ Painter painterOf(QStyle::PrimitiveElement element)
     case QStyle::PE_IndicatorToolBarSeparator: return by<ToolBars::paintSeparator>;
     case QStyle::PE_PanelButtonBevel:          return by<Buttons::paintPanel>;
     case QStyle::PE_PanelButtonCommand:        return by<Buttons::paintPanel>;
-    case QStyle::PE_PanelButtonTool:           return by<ToolButtons::paintPanel>;
     case QStyle::PE_PanelItemViewItem:         return by<ItemViews::paintPanel>;
     case QStyle::PE_PanelItemViewRow:          return by<ItemViews::paintRow>;
     case QStyle::PE_PanelLineEdit:             return by<LineEdits::paintPanel>;

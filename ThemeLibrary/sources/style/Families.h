@@ -227,7 +227,6 @@ void paintTabLabel(const PaintContext& context, const QStyleOptionToolBox& tab);
 namespace ToolButtons {
 QSize toolButtonSize(const MeasureContext& context, const QStyleOptionToolButton& button,
                      const QSize& contents);
-void paintPanel(const PaintContext& context);
 void paintLabel(const PaintContext& context, const QStyleOptionToolButton& button);
 void paintToolButton(const PaintContext& context, const QStyleOptionToolButton& button);
 } // namespace ToolButtons

@@ -5,8 +5,6 @@
 #include "Shapes.h"
 #include "ThemeNames.h"
 
-#include <QDockWidget>
-
 // Tool buttons.
 //
 // Properties: "ButtonType", "circular", "no menu arrow".
@@ -188,16 +186,6 @@ QRect contentsRect(const PaintContext& context, const QStyleOptionToolButton& bu
 }
 
 } // namespace
-
-/// As the base style does it, without the colors that it prepares for other elements first: they
-/// take 4,000 instructions of 25,000. It has a rule of its own for the buttons of docks.
-void paintPanel(const PaintContext& context)
-{
-    if (context.widget && qobject_cast<const QDockWidget*>(context.widget->parentWidget()))
-        context.drawByBase(QStyle::PE_PanelButtonTool);
-    else
-        context.draw(QStyle::PE_PanelButtonCommand, context.option);
-}
 
 void paintLabel(const PaintContext& context, const QStyleOptionToolButton& button)
 {
