@@ -26,9 +26,8 @@ double visibleRows(const QAbstractItemView& view)
 }
 
 template <class View>
-Work scroll(Shown<View> (*make)())
+Work scroll(const Shown<View>& shown)
 {
-    const Shown<View> shown = make();
     const double rows = visibleRows(*shown.view);
     return {[=] {
                 QScrollBar* bar = shown.view->verticalScrollBar();
@@ -53,9 +52,9 @@ Work pointBetween(const std::shared_ptr<const void>& owner, QPoint first, QPoint
 }
 
 template <class View>
-Work pointAtRows(Shown<View> (*make)())
+Work pointAtRows(const Shown<View>& view)
 {
-    const auto shown = std::make_shared<Shown<View>>(make());
+    const auto shown = std::make_shared<Shown<View>>(view);
     const QWidget& viewport = *shown->view->viewport();
     const int rowHeight = int(viewport.height() / visibleRows(*shown->view));
     const auto at = [&](int row) {
@@ -83,12 +82,13 @@ Work pointAtButtons()
 
 void addViews(std::vector<Case>& cases)
 {
-    cases.push_back({"views/Table/scrolled", [] { return scroll(table); }});
-    cases.push_back({"views/Tree/scrolled", [] { return scroll(tree); }});
-    cases.push_back({"views/IconList/scrolled", [] { return scroll(iconList); }});
-    cases.push_back({"mouse/Table/moved", [] { return pointAtRows(table); }});
-    cases.push_back({"mouse/Tree/moved", [] { return pointAtRows(tree); }});
-    cases.push_back({"mouse/IconList/moved", [] { return pointAtRows(iconList); }});
+    constexpr int Rows = 100000;
+    cases.push_back({"views/Table/scrolled", [] { return scroll(table(Rows)); }});
+    cases.push_back({"views/Tree/scrolled", [] { return scroll(tree()); }});
+    cases.push_back({"views/IconList/scrolled", [] { return scroll(iconList()); }});
+    cases.push_back({"mouse/Table/moved", [] { return pointAtRows(table(Rows)); }});
+    cases.push_back({"mouse/Tree/moved", [] { return pointAtRows(tree()); }});
+    cases.push_back({"mouse/IconList/moved", [] { return pointAtRows(iconList()); }});
     cases.push_back({"mouse/Buttons/moved", pointAtButtons});
 }
 
