@@ -1,4 +1,5 @@
 #include "Families.h"
+#include "Foregrounds.h"
 #include "OwnColors.h"
 #include "PainterSaver.h"
 #include "Shapes.h"
@@ -379,8 +380,8 @@ void paintDial(const PaintContext& context, const QStyleOptionSlider& dial)
     // light grounds swallow, and a face with shades, which a flat one covers; a disabled one casts
     // no shadow around it.
     QStyleOptionSlider copy = dial;
-    copy.palette.setBrush(copy.palette.currentColorGroup(), QPalette::Dark,
-                          dial.palette.brush(QPalette::WindowText));
+    // A kept palette, as the base style finds its picture of the face again by the palette's key.
+    Foregrounds::set(copy, dial.palette.brush(QPalette::WindowText), QPalette::Dark);
     copy.state &= ~QStyle::State(QStyle::State_Enabled | QStyle::State_HasFocus);
     if (!hasCountableNotches(dial))
         copy.tickInterval = 0;
