@@ -97,6 +97,11 @@ private Q_SLOTS:
         QVERIFY(drawn(QStyle::CC_Slider, optionOf<QStyleOptionSlider>(slider, BoxSize), &slider)
                     .count('\n')
                 < 10);
+        auto wide = optionOf<QStyleOptionSlider>(slider, BoxSize);
+        wide.minimum =
+            -1; // twice so many steps are none in an int, and the toolkit divides by that
+        QVERIFY(!drawn(QStyle::CC_Slider, wide, &slider).isEmpty());
+        QVERIFY(!drawn(QStyle::CC_ScrollBar, wide).isEmpty());
 
         Open<QDial> dial;
         dial.setNotchesVisible(true);

@@ -45,6 +45,8 @@ QRect minimizedSliderRect(const StyleContext& context, const QStyleOptionSlider&
 QRect basePartRect(const StyleContext& context, const QStyleOptionSlider& bar,
                    QStyle::SubControl part)
 {
+    if (!isCountable(bar))
+        return basePartRect(context, halved(bar), part);
     if (uint(bar.maximum) - uint(bar.minimum) + uint(bar.pageStep) != 0)
         return context.baseRect(QStyle::CC_ScrollBar, bar, part);
     QStyleOptionSlider copy = bar;

@@ -85,6 +85,8 @@ QSize sliderSize(const MeasureContext& context, const QStyleOptionSlider& slider
 QRect partRect(const StyleContext& context, const QStyleOptionSlider& slider,
                QStyle::SubControl part)
 {
+    if (!isCountable(slider))
+        return partRect(context, halved(slider), part);
     const auto base = [&] { return context.baseRect(QStyle::CC_Slider, slider, part); };
     switch (part) {
     case QStyle::SC_SliderHandle: return context.visual(handleRect(context, slider, base()));
@@ -290,6 +292,10 @@ void paintFocus(const SliderLook& look)
 
 void paintSlider(const PaintContext& context, const QStyleOptionSlider& slider)
 {
+    if (!isCountable(slider)) {
+        paintSlider(context, halved(slider));
+        return;
+    }
     const SliderLook look{context,
                           slider,
                           context.part(QStyle::CC_Slider, slider, QStyle::SC_SliderGroove),

@@ -4,6 +4,8 @@
 
 #include <QApplication>
 
+#include <limits>
+
 namespace BRELK {
 
 namespace {
@@ -31,6 +33,19 @@ bool isCountable(const QRect& rect)
     const auto isNear = [](int place) { return place >= -Farthest && place <= Farthest; };
     return isNear(rect.left()) && isNear(rect.top()) && isNear(rect.right())
            && isNear(rect.bottom());
+}
+
+bool isCountable(const QStyleOptionSlider& slider)
+{
+    return qint64(slider.maximum) - slider.minimum <= std::numeric_limits<int>::max();
+}
+
+QStyleOptionSlider halved(QStyleOptionSlider slider)
+{
+    for (int* value : {&slider.minimum, &slider.maximum, &slider.sliderPosition, &slider.pageStep,
+                       &slider.tickInterval})
+        *value /= 2;
+    return slider;
 }
 
 QFontMetrics MeasureContext::fontMetrics() const

@@ -13,6 +13,13 @@ namespace BRELK {
 /// places and sizes could not be counted in an int.
 bool isCountable(const QRect& rect);
 
+/// The toolkit counts the steps of a range in an int, and divides by twice their number, which ends
+/// the program where that is zero.
+bool isCountable(const QStyleOptionSlider& slider);
+
+/// The same place in half of the range, which can be counted.
+QStyleOptionSlider halved(QStyleOptionSlider slider);
+
 /// What a metric or a size may ask about. The option and the widget may be null.
 struct MeasureContext
 {
