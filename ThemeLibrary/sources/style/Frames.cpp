@@ -91,7 +91,7 @@ bool isOutside(const PaintContext& context)
 /// A line across the middle of the frame; sunken and raised ones are as plain as the rest.
 void paintLine(const PaintContext& context, const QStyleOptionFrame& frame)
 {
-    const int width = qMax(1, frame.lineWidth);
+    const int width = qBound(1, frame.lineWidth, QWIDGETSIZE_MAX);
     QRect line = frame.rect;
     if (frame.frameShape == QFrame::HLine)
         line.setHeight(width);
